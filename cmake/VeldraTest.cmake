@@ -1,0 +1,21 @@
+# veldra_add_test(NAME SOURCES a.cpp ... LIBS lib ... [LABELS l ...] [CONCURRENCY])
+# A GoogleTest executable registered with CTest. CONCURRENCY marks it for the
+# second run under the thread sanitizer that scripts/test does.
+include(GoogleTest)
+function(veldra_add_test name)
+  cmake_parse_arguments(T "CONCURRENCY" "" "SOURCES;LIBS;LABELS" ${ARGN})
+  add_executable(${name} ${T_SOURCES})
+  target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest_main GTest::gmock Threads::Threads)
+  target_compile_definitions(${name} PRIVATE
+    VELDRA_SOURCE_DIR="${VELDRA_SOURCE_DIR}" VELDRA_DATA_DIR="${VELDRA_DATA_DIR}"
+    VELDRA_BIN_DIR="${CMAKE_BINARY_DIR}/bin" VELDRA_LIB_DIR="${CMAKE_BINARY_DIR}/lib")
+  set(labels ${T_LABELS})
+  if(NOT labels)
+    set(labels unit)
+  endif()
+  if(T_CONCURRENCY)
+    list(APPEND labels concurrency)
+    set_property(GLOBAL APPEND PROPERTY VELDRA_TSAN_TARGETS ${name})
+  endif()
+  gtest_discover_tests(${name} PROPERTIES LABELS "${labels}" DISCOVERY_TIMEOUT 120)
+endfunction()
