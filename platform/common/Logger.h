@@ -1,0 +1,28 @@
+#pragma once
+// The one logging facility of the framework. Every class copies a logger from
+// the one its creator passed down and extends the source name, so that a line
+// tells which object wrote it ("QLNVeldra:QLN_VDArraySystem").
+//
+// Destination and level come from the framework configuration
+// (VELDRA_LOG: "stderr", "syslog" or a file path; VELDRA_LOG_LEVEL: "info",
+// "warn" or "error"). A line carries time, level, source and text.
+#include <string>
+
+class Logger {
+public:
+    Logger();
+    explicit Logger(std::string const& name);
+    Logger(Logger const& other);
+    Logger& operator=(Logger const& other);
+    ~Logger();
+
+    void appendLogSource(std::string const& text);
+    std::string const& getLogSource() const { return _source; }
+
+    void info(char const* format, ...) const __attribute__((format(printf, 2, 3)));
+    void warn(char const* format, ...) const __attribute__((format(printf, 2, 3)));
+    void error(char const* format, ...) const __attribute__((format(printf, 2, 3)));
+
+private:
+    std::string _source;
+};
