@@ -28,9 +28,15 @@ public:
     // "1", "true", "yes", "on" (any case) are true; "0", "false", "no", "off" false;
     // anything else throws std::runtime_error naming the key.
     static bool getBool(std::string const& key, bool fallback);
+    // A whole decimal number; anything else throws std::runtime_error naming the key.
     static long getInt(std::string const& key, long fallback);
     // Forget what was read, so the next get reads the file again (tests, reload).
     static void reload();
+    // The path of the file in use ($VELDRA_CONFIG or the default).
+    static std::string path();
+    // Counts reloads, so that caches built from the configuration (the log
+    // destination) can tell that they are stale.
+    static unsigned long generation();
 };
 
 } // namespace QLN

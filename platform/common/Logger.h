@@ -5,7 +5,10 @@
 //
 // Destination and level come from the framework configuration
 // (VELDRA_LOG: "stderr", "syslog" or a file path; VELDRA_LOG_LEVEL: "info",
-// "warn" or "error"). A line carries time, level, source and text.
+// "warn" or "error"). A line carries time, level, source and text:
+//   2026-11-23T00:38:16.123Z WARN QLNVeldra:QLN_VDArraySystem: text
+// Loggers are cheap values; all of them share one thread-safe sink.
+#include <cstdarg>
 #include <string>
 
 class Logger {
@@ -24,5 +27,7 @@ public:
     void error(char const* format, ...) const __attribute__((format(printf, 2, 3)));
 
 private:
+    void _log(int level, char const* format, va_list args) const;
+
     std::string _source;
 };
