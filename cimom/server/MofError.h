@@ -1,0 +1,18 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+// A MOF problem, always tied to the file and line so start-up errors can name both.
+class MofError : public std::runtime_error {
+public:
+    MofError(const std::string& file, int line, const std::string& what)
+        : std::runtime_error(file + ":" + std::to_string(line) + ": " + what), _file(file), _line(line) {}
+
+    const std::string& file() const { return _file; }
+    int line() const { return _line; }
+
+private:
+    std::string _file;
+    int _line;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+// The users file: one "name:hash" line per user, the hash a crypt(3) string
+// with its own salt (yescrypt by default). Comments start with '#'.
+class PasswordFile {
+public:
+    // Throws std::runtime_error naming file and line when the file is bad.
+    static PasswordFile load(const std::string& path);
+
+    bool verify(const std::string& user, const std::string& password) const;
+    bool empty() const { return _users.empty(); }
+    size_t size() const { return _users.size(); }
+
+    // A fresh salted hash; prefix "$y$" (yescrypt) or "$6$" (sha512-crypt).
+    static std::string hash(const std::string& password, const std::string& prefix = "$y$");
+
+    // Adds or replaces one user and rewrites the file atomically (mode 0600).
+    static void setUser(const std::string& path, const std::string& user, const std::string& password,
+                        const std::string& prefix = "$y$");
+
+    static bool validUserName(const std::string& user);
+
+private:
+    std::map<std::string, std::string> _users;
+};
