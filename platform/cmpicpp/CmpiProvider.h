@@ -35,6 +35,9 @@ public:
                                  bool terminating);
 
 private:
+    // True only for the call that takes the count from one to zero.
+    bool _drop(unsigned int& remaining);
+
     std::atomic<unsigned int> _refcount{0};
 };
 

@@ -1,0 +1,130 @@
+#include "CmpiInstanceProvider.h"
+
+#include "CmpiConvert.h"
+#include "CmpiGuard.h"
+#include "CmpiStatus.h"
+#include "CmpiTableInstanceResult.h"
+#include "CmpiTableObjectPathResult.h"
+
+namespace CmpiCpp {
+
+namespace {
+
+CmpiInstanceProvider* self(CMPIInstanceMI* mi) {
+    return mi ? static_cast<CmpiInstanceProvider*>(mi->hdl) : nullptr;
+}
+
+CMPIStatus miCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const&) {
+        CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
+    });
+}
+
+CMPIStatus miEnumInstanceNames(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                               CMPIObjectPath const* op) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        CmpiTableObjectPathResult result(broker, rslt);
+        p->enumInstanceNames(CmpiContext(ctx), CmpiConvert::fromCMPI(op), result);
+        result.returnDone();
+    });
+}
+
+CMPIStatus miEnumInstances(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                           CMPIObjectPath const* op, char const** properties) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        CmpiTableInstanceResult result(broker, rslt, properties);
+        p->enumInstances(CmpiContext(ctx), CmpiConvert::fromCMPI(op), properties, result);
+        result.returnDone();
+    });
+}
+
+CMPIStatus miGetInstance(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                         CMPIObjectPath const* op, char const** properties) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        CmpiTableInstanceResult result(broker, rslt, properties);
+        p->getInstance(CmpiContext(ctx), CmpiConvert::fromCMPI(op), properties, result);
+        result.returnDone();
+    });
+}
+
+CMPIStatus miCreateInstance(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                            CMPIObjectPath const* op, CMPIInstance const* inst) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        CmpiTableObjectPathResult result(broker, rslt);
+        p->createInstance(CmpiContext(ctx), CmpiConvert::fromCMPI(op), CmpiConvert::fromCMPI(inst),
+                          result);
+        result.returnDone();
+    });
+}
+
+CMPIStatus miModifyInstance(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                            CMPIObjectPath const* op, CMPIInstance const* inst,
+                            char const** properties) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        p->modifyInstance(CmpiContext(ctx), CmpiConvert::fromCMPI(op), CmpiConvert::fromCMPI(inst),
+                          properties);
+        CmpiTableObjectPathResult(broker, rslt).returnDone();
+    });
+}
+
+CMPIStatus miDeleteInstance(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                            CMPIObjectPath const* op) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        p->deleteInstance(CmpiContext(ctx), CmpiConvert::fromCMPI(op));
+        CmpiTableObjectPathResult(broker, rslt).returnDone();
+    });
+}
+
+CMPIStatus miExecQuery(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                       CMPIObjectPath const* op, char const* query, char const* lang) {
+    CmpiInstanceProvider* p = self(mi);
+    return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
+        CmpiTableInstanceResult result(broker, rslt, nullptr);
+        p->execQuery(CmpiContext(ctx), CmpiConvert::fromCMPI(op), query ? query : "",
+                     lang ? lang : "", result);
+        result.returnDone();
+    });
+}
+
+CMPIInstanceMIFT const instanceTable = {
+    CMPICurrentVersion, CMPICurrentVersion, "CmpiCpp",        miCleanup,
+    miEnumInstanceNames, miEnumInstances,  miGetInstance,    miCreateInstance,
+    miModifyInstance,    miDeleteInstance, miExecQuery,
+};
+
+} // namespace
+
+CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI{this, &instanceTable} {}
+
+CmpiInstanceProvider::~CmpiInstanceProvider() = default;
+
+void CmpiInstanceProvider::createInstance(CmpiContext const&, CmpiObjectPath const&,
+                                          CmpiInstance const&, CmpiObjectPathResult&) {
+    throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
+}
+
+void CmpiInstanceProvider::modifyInstance(CmpiContext const&, CmpiObjectPath const&,
+                                          CmpiInstance const&, char const**) {
+    throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
+}
+
+void CmpiInstanceProvider::deleteInstance(CmpiContext const&, CmpiObjectPath const&) {
+    throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
+}
+
+void CmpiInstanceProvider::execQuery(CmpiContext const&, CmpiObjectPath const&,
+                                     std::string const&, std::string const&,
+                                     CmpiInstanceResult&) {
+    throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
+}
+
+CMPIInstanceMI* CmpiInstanceProvider::getInstanceMI() { return &_instanceMI; }
+
+} // namespace CmpiCpp

@@ -1,0 +1,7 @@
+#include "CmpiInstanceResult.h"
+
+namespace CmpiCpp {
+
+CmpiInstanceResult::~CmpiInstanceResult() = default;
+
+} // namespace CmpiCpp

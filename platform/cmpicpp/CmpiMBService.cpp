@@ -1,0 +1,27 @@
+#include "CmpiMBService.h"
+
+#include "CmpiConvert.h"
+#include "CmpiStatus.h"
+
+namespace CmpiCpp {
+
+CmpiMBService::CmpiMBService(CMPIBroker const* broker, Logger& logger)
+    : _broker(broker), _logger(logger) {}
+
+void CmpiMBService::deliverIndication(CmpiContext const& context, CmpiName const& nameSpace,
+                                      CmpiInstance const& indication) const {
+    if (!_broker || !_broker->bft || !_broker->bft->deliverIndication)
+        throw CmpiStatus(CMPI_RC_ERR_INVALID_HANDLE, "no broker to deliver the indication");
+    CMPIInstance* raw = CmpiConvert::toCMPI(CmpiBroker(_broker), indication);
+    CMPIStatus const rc =
+        _broker->bft->deliverIndication(_broker, context.toCMPI(), nameSpace.c_str(), raw);
+    if (rc.rc != CMPI_RC_OK) {
+        std::string msg = "deliverIndication of " + indication.getClassName().str() + " failed";
+        std::string const detail = CmpiConvert::fromCMPI(rc.msg);
+        if (!detail.empty())
+            msg += ": " + detail;
+        throw CmpiStatus(rc.rc, msg);
+    }
+}
+
+} // namespace CmpiCpp

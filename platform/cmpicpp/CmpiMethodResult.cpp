@@ -1,0 +1,7 @@
+#include "CmpiMethodResult.h"
+
+namespace CmpiCpp {
+
+CmpiMethodResult::~CmpiMethodResult() = default;
+
+} // namespace CmpiCpp

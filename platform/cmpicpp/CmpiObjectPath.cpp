@@ -1,0 +1,135 @@
+#include "CmpiObjectPath.h"
+
+#include "CmpiStatus.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace CmpiCpp {
+
+CmpiObjectPath::CmpiObjectPath(CmpiName const& nameSpace, CmpiName const& className)
+    : _nameSpace(nameSpace), _className(className) {}
+
+void CmpiObjectPath::addKey(CmpiName const& name, std::string const& value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, char const* value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, CmpiObjectPath const& value) {
+    _setKey(name, CmpiData(value));
+}
+void CmpiObjectPath::addKey(CmpiName const& name, bool value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned char value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned short value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned int value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, int value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned long value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned long long value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, long value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, long long value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, CmpiData const& value) { _setKey(name, value); }
+
+void CmpiObjectPath::_setKey(CmpiName const& name, CmpiData const& value) {
+    for (auto& key : _keys) {
+        if (key.first == name) {
+            key.second = value;
+            return;
+        }
+    }
+    _keys.emplace_back(name, value);
+}
+
+bool CmpiObjectPath::hasKey(CmpiName const& name) const {
+    return std::any_of(_keys.begin(), _keys.end(), [&](auto const& k) { return k.first == name; });
+}
+
+CmpiData const& CmpiObjectPath::getKey(CmpiName const& name) const {
+    for (auto const& key : _keys)
+        if (key.first == name)
+            return key.second;
+    throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND, "no key " + name.str() + " in " + str());
+}
+
+CmpiName const& CmpiObjectPath::getKeyNameAt(unsigned int index) const {
+    if (index >= _keys.size())
+        throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND, "no key at index " + std::to_string(index));
+    return _keys[index].first;
+}
+
+CmpiData const& CmpiObjectPath::getKeyAt(unsigned int index) const {
+    if (index >= _keys.size())
+        throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND, "no key at index " + std::to_string(index));
+    return _keys[index].second;
+}
+
+bool CmpiObjectPath::empty() const {
+    return _nameSpace.empty() && _className.empty() && _keys.empty();
+}
+
+std::string CmpiObjectPath::str() const {
+    std::string out;
+    if (!_host.empty())
+        out += "//" + _host.str() + "/";
+    if (!_nameSpace.empty())
+        out += _nameSpace.str() + ":";
+    out += _className.str();
+    char sep = '.';
+    for (auto const& [name, value] : _keys) {
+        out += sep;
+        sep = ',';
+        out += name.str() + "=";
+        // Strings and references are quoted; a nested path's own quotes are
+        // escaped so the text stays unambiguous.
+        if (value.getType() == CMPI_string || value.getType() == CMPI_ref) {
+            std::string const text = value.isNull() ? std::string() : value.str();
+            out += '"';
+            for (char c : text) {
+                if (c == '"' || c == '\\')
+                    out += '\\';
+                out += c;
+            }
+            out += '"';
+        } else {
+            out += value.str();
+        }
+    }
+    return out;
+}
+
+std::string CmpiObjectPath::canonicalKey() const {
+    std::vector<std::pair<std::string, std::string>> keys;
+    keys.reserve(_keys.size());
+    for (auto const& [name, value] : _keys)
+        keys.emplace_back(name.folded(), value.keyText());
+    std::sort(keys.begin(), keys.end());
+    std::string out = _className.folded();
+    char sep = '.';
+    for (auto const& [name, text] : keys) {
+        out += sep;
+        sep = ',';
+        out += name + "=" + text;
+    }
+    return out;
+}
+
+std::size_t CmpiObjectPath::hash() const { return std::hash<std::string>{}(canonicalKey()); }
+
+bool CmpiObjectPath::operator==(CmpiObjectPath const& other) const {
+    if (!(_className == other._className) || _keys.size() != other._keys.size())
+        return false;
+    for (auto const& [name, value] : _keys) {
+        auto it = std::find_if(other._keys.begin(), other._keys.end(),
+                               [&](auto const& k) { return k.first == name; });
+        if (it == other._keys.end() || value.keyText() != it->second.keyText())
+            return false;
+    }
+    return true;
+}
+
+CmpiObjectPath makeCmpiObjectPath(CmpiBroker const&, CmpiName const& nameSpace,
+                                  CmpiName const& className) {
+    return CmpiObjectPath(nameSpace, className);
+}
+
+CmpiObjectPath makeCmpiObjectPath(CmpiBroker const&) { return CmpiObjectPath(); }
+
+} // namespace CmpiCpp

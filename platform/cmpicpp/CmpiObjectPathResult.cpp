@@ -1,0 +1,7 @@
+#include "CmpiObjectPathResult.h"
+
+namespace CmpiCpp {
+
+CmpiObjectPathResult::~CmpiObjectPathResult() = default;
+
+} // namespace CmpiCpp
