@@ -1,0 +1,24 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "cmpidt.h"
+
+// A failed CIM operation: the CMPI status code that a provider or the broker
+// answered, and its description. The server maps the code one to one onto
+// the CIM-XML ERROR CODE (the CMPI codes 1..17 are the CIM status codes).
+class CimError : public std::runtime_error {
+public:
+    CimError(CMPIrc code, const std::string& description);
+
+    CMPIrc code() const { return _code; }
+    const std::string& description() const { return _description; }
+
+    // "CIM_ERR_NOT_FOUND" and the like, for logs and messages.
+    static const char* codeName(CMPIrc code);
+
+private:
+    CMPIrc _code;
+    std::string _description;
+};

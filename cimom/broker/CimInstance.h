@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "CimObjectPath.h"
+#include "CimValue.h"
+
+// An instance: its path and its properties in the order they were set.
+// Setting a property again replaces its value in place, so a property never
+// appears twice. A property's type is its value's type (a null keeps one).
+class CimInstance {
+public:
+    struct Property {
+        std::string name;
+        CimValue value;
+    };
+
+    CimInstance() = default;
+    explicit CimInstance(CimObjectPath path) : _path(std::move(path)) {}
+
+    const CimObjectPath& path() const { return _path; }
+    void setPath(CimObjectPath path) { _path = std::move(path); }
+    const std::string& className() const { return _path.className(); }
+
+    const std::vector<Property>& properties() const { return _properties; }
+    void setProperty(std::string name, CimValue value);
+    // The value, or null when the instance has no such property.
+    const CimValue* property(std::string_view name) const;
+    bool removeProperty(std::string_view name);
+
+    // Only the named properties (names without regard to case), order kept.
+    // A null list means all; an empty list means none.
+    CimInstance filtered(const std::vector<std::string>* propertyList) const;
+
+    // Same path, same properties in any order.
+    bool operator==(const CimInstance& other) const;
+    bool operator!=(const CimInstance& other) const { return !(*this == other); }
+
+private:
+    CimObjectPath _path;
+    std::vector<Property> _properties;
+};
