@@ -22,6 +22,8 @@ bool CmpiArgs::hasArg(CmpiName const& name) const {
 
 CmpiData const& CmpiArgs::getArg(std::string const& name) const { return getArg(CmpiName(name)); }
 
+CmpiData const& CmpiArgs::getArg(char const* name) const { return getArg(CmpiName(name)); }
+
 CmpiData const& CmpiArgs::getArg(CmpiName const& name) const {
     for (auto const& arg : _args)
         if (arg.first == name)

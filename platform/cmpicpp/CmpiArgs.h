@@ -19,6 +19,7 @@ public:
     bool hasArg(CmpiName const& name) const;
     // A missing argument throws CmpiStatus(CMPI_RC_ERR_INVALID_PARAMETER, <name>).
     CmpiData const& getArg(std::string const& name) const;
+    CmpiData const& getArg(char const* name) const;
     CmpiData const& getArg(CmpiName const& name) const;
 
     unsigned int getArgCount() const { return static_cast<unsigned int>(_args.size()); }

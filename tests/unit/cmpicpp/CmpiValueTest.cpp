@@ -278,6 +278,7 @@ TEST(CmpiArgs, LookupByNameWithoutCaseAndMissingThrows) {
     args.setArg("DURATION", 60u);
     ASSERT_EQ(args.getArgCount(), 1u);
     EXPECT_EQ(args.getArg(std::string("duration")).getUint32(), 60u);
+    EXPECT_EQ(args.getArg("Duration").getType(), CMPI_uint32);
     try {
         args.getArg(std::string("Mode"));
         FAIL() << "missing argument did not throw";
