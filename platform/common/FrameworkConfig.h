@@ -15,6 +15,7 @@
 //   VELDRA_WORKER_INTERVAL_MS, VELDRA_WORKER_STAGGER_MS
 //                           shorten the autostart schedule for tests and demos
 //   VELDRA_TRAP_DESTINATIONS  comma-separated host[:port] list for SNMP traps
+//   VELDRA_HOSTNAME         reported host name instead of the system's (tests, demos)
 #include <optional>
 #include <string>
 

@@ -1,0 +1,397 @@
+#include "CmpiManagedInstanceCollection.h"
+
+#include "CmpiManagedInstanceAssociation.h"
+#include "CmpiManagedInstanceMultiAssociation.h"
+
+#include <algorithm>
+#include <exception>
+#include <mutex>
+
+using CmpiCpp::CmpiContext;
+using CmpiCpp::CmpiInstance;
+using CmpiCpp::CmpiInstanceResult;
+using CmpiCpp::CmpiName;
+using CmpiCpp::CmpiObjectPath;
+using CmpiCpp::CmpiObjectPathResult;
+
+namespace QLN {
+
+namespace {
+
+bool fits(CmpiName const& filter, CmpiName const& name) {
+    return filter.empty() || filter == name;
+}
+
+bool isAssociation(CmpiManagedInstance const* instance) {
+    return dynamic_cast<CmpiManagedInstanceAssociation const*>(instance) != nullptr ||
+           dynamic_cast<CmpiManagedInstanceMultiAssociation const*>(instance) != nullptr;
+}
+
+} // namespace
+
+CmpiManagedInstanceCollection::CmpiManagedInstanceCollection(Logger& logger) : _logger(logger) {
+    _logger.appendLogSource(":");
+    _logger.appendLogSource("CmpiManagedInstanceCollection");
+}
+
+CmpiManagedInstanceCollection::~CmpiManagedInstanceCollection() {
+    // Newest first: associations usually come after their ends.
+    while (!_entries.empty()) {
+        _entries.pop_back();
+    }
+}
+
+void CmpiManagedInstanceCollection::_index(Entry* entry) {
+    if (entry->key.empty()) {
+        return;
+    }
+    _byPath[entry->key] = entry;
+    std::vector<std::string const*> seen;
+    for (auto const& reference : entry->references) {
+        bool again = std::any_of(seen.begin(), seen.end(), [&](auto key) { return *key == reference.key; });
+        if (!again) {
+            _byEnd[reference.key].push_back(entry);
+            seen.push_back(&reference.key);
+        }
+    }
+}
+
+void CmpiManagedInstanceCollection::_unindex(Entry* entry) {
+    if (entry->key.empty()) {
+        return;
+    }
+    auto byPath = _byPath.find(entry->key);
+    if (byPath != _byPath.end() && byPath->second == entry) {
+        _byPath.erase(byPath);
+    }
+    for (auto const& reference : entry->references) {
+        auto byEnd = _byEnd.find(reference.key);
+        if (byEnd == _byEnd.end()) {
+            continue;
+        }
+        auto& list = byEnd->second;
+        list.erase(std::remove(list.begin(), list.end(), entry), list.end());
+        if (list.empty()) {
+            _byEnd.erase(byEnd);
+        }
+    }
+}
+
+std::size_t CmpiManagedInstanceCollection::_positionOf(Entry const* entry) const {
+    for (std::size_t i = 0; i < _entries.size(); ++i) {
+        if (_entries[i].get() == entry) {
+            return i;
+        }
+    }
+    return _entries.size();
+}
+
+bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance) {
+    if (!instance) {
+        _logger.error("createInstance: refused a null instance");
+        return false;
+    }
+    auto entry = std::make_unique<Entry>();
+    entry->instance.reset(instance);
+    // Path and references are read before the lock: nobody else sees the
+    // instance yet, and getPath() of an association asks its ends.
+    try {
+        CmpiObjectPath path = instance->getPath();
+        entry->className = instance->getClassName();
+        entry->key = path.canonicalKey();
+        if (isAssociation(instance)) {
+            for (unsigned int i = 0; i < path.getKeyCount(); ++i) {
+                auto const& value = path.getKeyAt(i);
+                if (value.getType() == CMPI_ref && !value.isNull()) {
+                    CmpiObjectPath const& end = value.getObjectPath();
+                    entry->references.push_back({path.getKeyNameAt(i), end, end.canonicalKey()});
+                }
+            }
+        }
+    } catch (std::exception const& e) {
+        // Ownership was handed over, so the instance stays (and is freed with
+        // the collection), but without a path nobody can find it.
+        entry->key.clear();
+        entry->references.clear();
+        _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s", e.what());
+    }
+
+    std::unique_ptr<Entry> replaced;
+    {
+        std::unique_lock lock(_mutex);
+        auto existing = entry->key.empty() ? _byPath.end() : _byPath.find(entry->key);
+        if (existing == _byPath.end()) {
+            _entries.push_back(std::move(entry));
+            _index(_entries.back().get());
+            return true;
+        }
+        std::size_t position = _positionOf(existing->second);
+        _unindex(existing->second);
+        replaced = std::move(_entries[position]);
+        _entries[position] = std::move(entry);
+        _index(_entries[position].get());
+    }
+    _logger.warn("createInstance: %s replaces an instance with the same path", replaced->key.c_str());
+    return false;
+}
+
+bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
+    std::string key = path.canonicalKey();
+    std::unique_ptr<Entry> gone;
+    {
+        std::unique_lock lock(_mutex);
+        auto found = _byPath.find(key);
+        if (found == _byPath.end()) {
+            return false;
+        }
+        std::size_t position = _positionOf(found->second);
+        _unindex(found->second);
+        gone = std::move(_entries[position]);
+        _entries.erase(_entries.begin() + static_cast<std::ptrdiff_t>(position));
+    }
+    // The destructor runs outside the lock: it may log, and may be slow.
+    gone.reset();
+    return true;
+}
+
+CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(CmpiObjectPath const& path) const {
+    std::string key = path.canonicalKey();
+    std::shared_lock lock(_mutex);
+    auto found = _byPath.find(key);
+    return found == _byPath.end() ? nullptr : found->second->instance.get();
+}
+
+CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(unsigned int index) const {
+    std::shared_lock lock(_mutex);
+    return index < _entries.size() ? _entries[index]->instance.get() : nullptr;
+}
+
+unsigned int CmpiManagedInstanceCollection::size() const {
+    std::shared_lock lock(_mutex);
+    return static_cast<unsigned int>(_entries.size());
+}
+
+unsigned int CmpiManagedInstanceCollection::cleanup() {
+    std::vector<std::unique_ptr<Entry>> gone;
+    {
+        std::unique_lock lock(_mutex);
+        std::vector<std::unique_ptr<Entry>> kept;
+        kept.reserve(_entries.size());
+        for (auto& entry : _entries) {
+            if (entry->instance->visible()) {
+                kept.push_back(std::move(entry));
+            } else {
+                _unindex(entry.get());
+                gone.push_back(std::move(entry));
+            }
+        }
+        _entries = std::move(kept);
+    }
+    return static_cast<unsigned int>(gone.size());
+}
+
+bool CmpiManagedInstanceCollection::_instanceOf(Entry const* entry, CmpiInstance& out, char const* what) const {
+    try {
+        out = entry->instance->getInstance();
+        return true;
+    } catch (std::exception const& e) {
+        _logger.warn("%s: skipped %s, getInstance failed: %s", what, entry->key.c_str(), e.what());
+    } catch (...) {
+        _logger.warn("%s: skipped %s, getInstance failed", what, entry->key.c_str());
+    }
+    return false;
+}
+
+void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& result, CmpiContext const&,
+                                                      CmpiObjectPath const& path) const {
+    CmpiName const& className = path.getClassName();
+    std::vector<CmpiObjectPath> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (auto const& entry : _entries) {
+            if (!entry->instance->visible() || !fits(className, entry->className)) {
+                continue;
+            }
+            try {
+                found.push_back(entry->instance->getPath());
+            } catch (std::exception const& e) {
+                _logger.warn("enumInstanceNames: skipped an instance of %s, getPath failed: %s",
+                             entry->className.c_str(), e.what());
+            }
+        }
+    }
+    for (auto const& each : found) {
+        result.returnObjectPath(each);
+    }
+}
+
+void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, CmpiContext const&,
+                                                  CmpiObjectPath const& path, char const** properties) const {
+    CmpiName const& className = path.getClassName();
+    std::vector<CmpiInstance> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (auto const& entry : _entries) {
+            if (!entry->instance->visible() || !fits(className, entry->className)) {
+                continue;
+            }
+            CmpiInstance instance;
+            if (_instanceOf(entry.get(), instance, "enumInstances")) {
+                found.push_back(instance.filtered(properties));
+            }
+        }
+    }
+    for (auto const& each : found) {
+        result.returnInstance(each);
+    }
+}
+
+bool CmpiManagedInstanceCollection::getInstance(CmpiInstanceResult& result, CmpiContext const&,
+                                                CmpiObjectPath const& path, char const** properties) const {
+    std::string key = path.canonicalKey();
+    CmpiInstance instance;
+    {
+        std::shared_lock lock(_mutex);
+        auto found = _byPath.find(key);
+        if (found == _byPath.end() || !found->second->instance->visible()) {
+            return false;
+        }
+        // A failure here is the caller's to see: one instance was asked for.
+        instance = found->second->instance->getInstance();
+    }
+    result.returnInstance(instance.filtered(properties));
+    return true;
+}
+
+std::vector<CmpiManagedInstanceCollection::Entry const*> CmpiManagedInstanceCollection::_fittingAssociations(
+    std::string const& sourceKey, CmpiName const& assocClass, CmpiName const& role) const {
+    std::vector<Entry const*> fitting;
+    auto found = _byEnd.find(sourceKey);
+    if (found == _byEnd.end()) {
+        return fitting;
+    }
+    for (Entry const* entry : found->second) {
+        if (!entry->instance->visible() || !fits(assocClass, entry->className)) {
+            continue;
+        }
+        bool named = std::any_of(entry->references.begin(), entry->references.end(), [&](Reference const& r) {
+            return r.key == sourceKey && fits(role, r.role);
+        });
+        if (named) {
+            fitting.push_back(entry);
+        }
+    }
+    return fitting;
+}
+
+// The far ends come from the association's reference keys rather than from
+// otherEnd(): the keys carry the role names that the role filters need, and
+// they serve two- and three-ended associations alike.
+std::vector<CmpiManagedInstanceCollection::FarEnd> CmpiManagedInstanceCollection::_farEnds(
+    CmpiObjectPath const& path, CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
+    CmpiName const& resultRole) const {
+    std::string sourceKey = path.canonicalKey();
+    std::vector<FarEnd> ends;
+    std::vector<std::string> seen;
+    for (Entry const* association : _fittingAssociations(sourceKey, assocClass, role)) {
+        auto const& references = association->references;
+        for (std::size_t source = 0; source < references.size(); ++source) {
+            if (references[source].key != sourceKey || !fits(role, references[source].role)) {
+                continue;
+            }
+            for (std::size_t far = 0; far < references.size(); ++far) {
+                Reference const& end = references[far];
+                if (far == source || !fits(resultRole, end.role) || !fits(resultClass, end.path.getClassName())) {
+                    continue;
+                }
+                if (std::find(seen.begin(), seen.end(), end.key) != seen.end()) {
+                    continue;
+                }
+                auto served = _byPath.find(end.key);
+                Entry const* entry = served == _byPath.end() ? nullptr : served->second;
+                if (entry && !entry->instance->visible()) {
+                    continue;
+                }
+                seen.push_back(end.key);
+                ends.push_back({end.path, entry});
+            }
+        }
+    }
+    return ends;
+}
+
+void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const&,
+                                                CmpiObjectPath const& path, CmpiName const& assocClass,
+                                                CmpiName const& resultClass, CmpiName const& role,
+                                                CmpiName const& resultRole, char const** properties) const {
+    std::vector<CmpiInstance> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (auto const& end : _farEnds(path, assocClass, resultClass, role, resultRole)) {
+            // An end served by another provider has no instance here; its
+            // name still shows in associatorNames.
+            CmpiInstance instance;
+            if (end.entry && _instanceOf(end.entry, instance, "associators")) {
+                found.push_back(instance.filtered(properties));
+            }
+        }
+    }
+    for (auto const& each : found) {
+        result.returnInstance(each);
+    }
+}
+
+void CmpiManagedInstanceCollection::associatorNames(CmpiObjectPathResult& result, CmpiContext const&,
+                                                    CmpiObjectPath const& path, CmpiName const& assocClass,
+                                                    CmpiName const& resultClass, CmpiName const& role,
+                                                    CmpiName const& resultRole) const {
+    std::vector<CmpiObjectPath> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (auto const& end : _farEnds(path, assocClass, resultClass, role, resultRole)) {
+            found.push_back(end.path);
+        }
+    }
+    for (auto const& each : found) {
+        result.returnObjectPath(each);
+    }
+}
+
+void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiContext const&,
+                                               CmpiObjectPath const& path, CmpiName const& resultClass,
+                                               CmpiName const& role, char const** properties) const {
+    std::vector<CmpiInstance> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (Entry const* association : _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+            CmpiInstance instance;
+            if (_instanceOf(association, instance, "references")) {
+                found.push_back(instance.filtered(properties));
+            }
+        }
+    }
+    for (auto const& each : found) {
+        result.returnInstance(each);
+    }
+}
+
+void CmpiManagedInstanceCollection::referenceNames(CmpiObjectPathResult& result, CmpiContext const&,
+                                                   CmpiObjectPath const& path, CmpiName const& resultClass,
+                                                   CmpiName const& role) const {
+    std::vector<CmpiObjectPath> found;
+    {
+        std::shared_lock lock(_mutex);
+        for (Entry const* association : _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+            try {
+                found.push_back(association->instance->getPath());
+            } catch (std::exception const& e) {
+                _logger.warn("referenceNames: skipped %s, getPath failed: %s", association->key.c_str(), e.what());
+            }
+        }
+    }
+    for (auto const& each : found) {
+        result.returnObjectPath(each);
+    }
+}
+
+} // namespace QLN

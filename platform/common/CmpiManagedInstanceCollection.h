@@ -1,0 +1,118 @@
+#pragma once
+// The owning container of every managed instance, and the answer to every
+// CMPI read request.
+//
+// Instances keep the order they were added in (getManagedInstance(index)).
+// A path finds its instance through a hash of the path's canonical key text;
+// an association is found from either end through a second index from each
+// end path to the associations whose reference keys name it. Both indexes
+// are built when an instance is added, from its getPath() at that moment, so
+// deleting an association never has to ask its (possibly gone) ends again.
+//
+// The collection guards its containers with a shared mutex of its own:
+// requests read beside each other, and a lookup made outside the provider's
+// lock (method dispatch beside a worker pass) is safe. Instances' own
+// getInstance() runs under the shared lock; results are handed to the result
+// object after the lock is released.
+#include "CmpiContext.h"
+#include "CmpiInstanceResult.h"
+#include "CmpiManagedInstance.h"
+#include "CmpiName.h"
+#include "CmpiObjectPath.h"
+#include "CmpiObjectPathResult.h"
+#include "Logger.h"
+
+#include <memory>
+#include <shared_mutex>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace QLN {
+
+class CmpiManagedInstanceCollection {
+public:
+    explicit CmpiManagedInstanceCollection(Logger& logger);
+    CmpiManagedInstanceCollection(CmpiManagedInstanceCollection const&) = delete;
+    CmpiManagedInstanceCollection& operator=(CmpiManagedInstanceCollection const&) = delete;
+    ~CmpiManagedInstanceCollection();
+
+    // Takes ownership. An instance whose path is already held replaces the
+    // old one at its place (the old one is deleted, and a warning logged) and
+    // the call returns false; otherwise the instance goes to the end and the
+    // call returns true. Null is refused with false.
+    bool createInstance(CmpiManagedInstance* instance);
+    // Removes and deletes; false (and nothing else) when no instance has the path.
+    bool deleteInstance(CmpiCpp::CmpiObjectPath const& path);
+    CmpiManagedInstance* getManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
+    // Null past the end, since the size may have changed under the caller.
+    CmpiManagedInstance* getManagedInstance(unsigned int index) const;
+    unsigned int size() const;
+    // Removes and deletes every invisible instance; returns how many went.
+    unsigned int cleanup();
+
+    void enumInstanceNames(CmpiCpp::CmpiObjectPathResult& result, CmpiCpp::CmpiContext const& context,
+                           CmpiCpp::CmpiObjectPath const& path) const;
+    void enumInstances(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
+                       CmpiCpp::CmpiObjectPath const& path, char const** properties) const;
+    bool getInstance(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
+                     CmpiCpp::CmpiObjectPath const& path, char const** properties) const;
+
+    // Filters as DSP0200 defines them; an empty name is no filter. `role` is
+    // the reference of the association that names the source, `resultRole`
+    // the one that names the far end. Class names compare without regard to
+    // case and without a class hierarchy.
+    void associators(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
+                     CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
+                     CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                     CmpiCpp::CmpiName const& resultRole, char const** properties) const;
+    void associatorNames(CmpiCpp::CmpiObjectPathResult& result, CmpiCpp::CmpiContext const& context,
+                         CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
+                         CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                         CmpiCpp::CmpiName const& resultRole) const;
+    // `resultClass` here filters the association class, as DSP0200 has it.
+    void references(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
+                    CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& resultClass,
+                    CmpiCpp::CmpiName const& role, char const** properties) const;
+    void referenceNames(CmpiCpp::CmpiObjectPathResult& result, CmpiCpp::CmpiContext const& context,
+                        CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& resultClass,
+                        CmpiCpp::CmpiName const& role) const;
+
+private:
+    struct Reference {
+        CmpiCpp::CmpiName role;
+        CmpiCpp::CmpiObjectPath path;
+        std::string key;
+    };
+    struct Entry {
+        std::unique_ptr<CmpiManagedInstance> instance;
+        CmpiCpp::CmpiName className;
+        std::string key;                    // empty when getPath() failed at insertion
+        std::vector<Reference> references;  // reference keys, for associations only
+    };
+    // A far end that fits the filters: its path, and the entry serving it
+    // here (null when another provider serves it).
+    struct FarEnd {
+        CmpiCpp::CmpiObjectPath path;
+        Entry const* entry;
+    };
+
+    void _index(Entry* entry);
+    void _unindex(Entry* entry);
+    void _eraseEntry(std::size_t position);
+    std::size_t _positionOf(Entry const* entry) const;
+    std::vector<Entry const*> _fittingAssociations(std::string const& sourceKey, CmpiCpp::CmpiName const& assocClass,
+                                                   CmpiCpp::CmpiName const& role) const;
+    std::vector<FarEnd> _farEnds(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
+                                 CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                                 CmpiCpp::CmpiName const& resultRole) const;
+    bool _instanceOf(Entry const* entry, CmpiCpp::CmpiInstance& out, char const* what) const;
+
+    Logger _logger;
+    mutable std::shared_mutex _mutex;
+    std::vector<std::unique_ptr<Entry>> _entries;
+    std::unordered_map<std::string, Entry*> _byPath;
+    std::unordered_map<std::string, std::vector<Entry*>> _byEnd;
+};
+
+} // namespace QLN

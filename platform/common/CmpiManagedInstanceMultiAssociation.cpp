@@ -1,0 +1,9 @@
+#include "CmpiManagedInstanceMultiAssociation.h"
+
+namespace QLN {
+
+CmpiManagedInstanceMultiAssociation::CmpiManagedInstanceMultiAssociation() = default;
+
+CmpiManagedInstanceMultiAssociation::~CmpiManagedInstanceMultiAssociation() = default;
+
+} // namespace QLN
