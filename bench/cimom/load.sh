@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Load check of veldra-cimd from a second process: starts the server on a
+# free port with a scenario, finds the class with the most instances, and
+# runs wrk against GetInstance of one of them and EnumerateInstances of all.
+#
+#   bench/cimom/load.sh [--build DIR] [--scenario FILE] [--registration FILE]
+#                       [--duration 10s] [--connections 8] [--threads 2]
+set -euo pipefail
+root="$(cd "$(dirname "$0")/../.." && pwd)"
+build="$root/build"
+scenario=""
+registration="$root/data/registration/veldra-cimd.yaml"
+duration=10s
+connections=8
+threads=2
+while [ $# -gt 0 ]; do
+  case "$1" in
+    --build) build="$2"; shift 2;;
+    --scenario) scenario="$2"; shift 2;;
+    --registration) registration="$2"; shift 2;;
+    --duration) duration="$2"; shift 2;;
+    --connections) connections="$2"; shift 2;;
+    --threads) threads="$2"; shift 2;;
+    *) echo "load.sh: unknown option $1" >&2; exit 2;;
+  esac
+done
+if [ -z "$scenario" ]; then
+  for s in "$root"/data/scenarios/large*.yaml "$root"/data/scenarios/demo.yaml; do
+    [ -f "$s" ] && { scenario="$s"; break; }
+  done
+fi
+command -v wrk >/dev/null || { echo "load.sh: wrk missing (scripts/bootstrap installs it)" >&2; exit 1; }
+
+work="$(mktemp -d)"
+cimd_pid=""
+cleanup() { [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null && wait "$cimd_pid" 2>/dev/null; rm -rf "$work"; }
+trap cleanup EXIT
+
+args=(--port 0 --port-file "$work/port" --log-level warn --threads 8)
+[ -n "$scenario" ] && args+=(--scenario "$scenario")
+[ -f "$registration" ] && args+=(--registration "$registration")
+"$build/bin/veldra-cimd" "${args[@]}" >"$work/stdout" 2>"$work/stderr" &
+cimd_pid=$!
+for _ in $(seq 1 200); do [ -s "$work/port" ] && break; sleep 0.1; done
+[ -s "$work/port" ] || { echo "veldra-cimd did not start:"; cat "$work/stderr"; exit 1; }
+port="$(cat "$work/port")"
+url="http://127.0.0.1:$port/root/mwq"
+echo "veldra-cimd on port $port, scenario: ${scenario:-none}"
+
+# The class with the most instances.
+best=""; best_count=0
+for cls in $(wbemcli -nl ecn "$url" 2>/dev/null | sed 's/.*://' ); do
+  n=$(wbemcli ein "$url:$cls" 2>/dev/null | grep -c . || true)
+  if [ "$n" -gt "$best_count" ]; then best="$cls"; best_count="$n"; fi
+done
+[ -n "$best" ] || { echo "no class has instances"; exit 1; }
+echo "largest class: $best ($best_count instances)"
+
+envelope() {
+  printf '<?xml version="1.0" encoding="utf-8" ?><CIM CIMVERSION="2.0" DTDVERSION="2.0"><MESSAGE ID="1" PROTOCOLVERSION="1.0"><SIMPLEREQ><IMETHODCALL NAME="%s"><LOCALNAMESPACEPATH><NAMESPACE NAME="root"/><NAMESPACE NAME="mwq"/></LOCALNAMESPACEPATH>%s</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>' "$1" "$2"
+}
+cim_post() {
+  curl -s -X POST "http://127.0.0.1:$port/cimom" -H 'Content-Type: application/xml; charset="utf-8"' \
+    -H "CIMOperation: MethodCall" -H "CIMMethod: $1" -H "CIMObject: root%2Fmwq" --data-binary "@$2"
+}
+
+envelope EnumerateInstanceNames "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$best\"/></IPARAMVALUE>" >"$work/ein.xml"
+first_name="$(cim_post EnumerateInstanceNames "$work/ein.xml" | python3 -c '
+import sys, xml.etree.ElementTree as ET
+root = ET.fromstring(sys.stdin.read())
+name = root.find(".//INSTANCENAME")
+print(ET.tostring(name, encoding="unicode").replace(" />", "/>"))')"
+envelope GetInstance "<IPARAMVALUE NAME=\"InstanceName\">$first_name</IPARAMVALUE>" >"$work/gi.xml"
+envelope EnumerateInstances "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$best\"/></IPARAMVALUE><IPARAMVALUE NAME=\"DeepInheritance\"><VALUE>TRUE</VALUE></IPARAMVALUE>" >"$work/ei.xml"
+
+for op in GetInstance:gi EnumerateInstances:ei; do
+  method="${op%%:*}"; file="$work/${op##*:}.xml"
+  if cim_post "$method" "$file" | grep -q "<ERROR "; then echo "$method answers an error; aborting"; exit 1; fi
+  echo "== $method ($best), $duration, $connections connections, $threads wrk threads"
+  BODY_FILE="$file" CIM_METHOD="$method" wrk -t"$threads" -c"$connections" -d"$duration" --latency \
+    -s "$root/bench/cimom/post.lua" "http://127.0.0.1:$port" | grep -E "Requests/sec|Latency|requests:|latency p|Non-2xx|Socket"
+done

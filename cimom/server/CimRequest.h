@@ -1,0 +1,48 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <memory>
+
+#include <string>
+#include <vector>
+
+// One parsed CIM-XML SIMPLEREQ. It owns the document; the parameter nodes
+// point into it and live as long as the request.
+class CimRequest {
+public:
+    struct Param {
+        std::string name;
+        std::string paramType;  // PARAMTYPE of an extrinsic PARAMVALUE, often empty
+        pugi::xml_node node;    // the IPARAMVALUE or PARAMVALUE element
+    };
+
+    // Throws CimProtocolError for malformed, too deep or structurally wrong input.
+    static CimRequest parse(const std::string& body, int maxDepth);
+
+    CimRequest(CimRequest&&) = default;
+    CimRequest& operator=(CimRequest&&) = default;
+
+    const std::string& messageId() const { return _messageId; }
+    bool intrinsic() const { return _intrinsic; }
+    const std::string& methodName() const { return _methodName; }
+    const std::string& nameSpace() const { return _nameSpace; }
+    // LOCALINSTANCEPATH or LOCALCLASSPATH of an extrinsic call.
+    pugi::xml_node target() const { return _target; }
+    const std::vector<Param>& params() const { return _params; }
+    const Param* param(const std::string& name) const;
+
+    // "a/b" from <LOCALNAMESPACEPATH><NAMESPACE NAME="a"/><NAMESPACE NAME="b"/>.
+    static std::string namespaceOf(pugi::xml_node localNamespacePath);
+
+private:
+    CimRequest() : _doc(std::make_unique<pugi::xml_document>()) {}
+
+    std::unique_ptr<pugi::xml_document> _doc;
+    std::string _messageId;
+    bool _intrinsic = true;
+    std::string _methodName;
+    std::string _nameSpace;
+    pugi::xml_node _target;
+    std::vector<Param> _params;
+};

@@ -1,0 +1,112 @@
+#include "ClassXml.h"
+
+#include <algorithm>
+
+namespace {
+
+std::string lower(std::string s) {
+    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return s;
+}
+
+}  // namespace
+
+std::string ClassXml::literalText(const CimClassDecl::Literal& literal) {
+    switch (literal.kind) {
+        case CimClassDecl::Literal::Kind::Boolean: return literal.text == "true" ? "TRUE" : "FALSE";
+        case CimClassDecl::Literal::Kind::String:
+        case CimClassDecl::Literal::Kind::Integer:
+        case CimClassDecl::Literal::Kind::Real:
+        case CimClassDecl::Literal::Kind::Char:
+        case CimClassDecl::Literal::Kind::Null: return literal.text;
+    }
+    return literal.text;
+}
+
+void ClassXml::writeValue(CimXmlWriter& out, const CimClassDecl::Value& value) {
+    if (value.isArray) {
+        out.open("VALUE.ARRAY");
+        for (const auto& item : value.items) {
+            if (item.kind == CimClassDecl::Literal::Kind::Null)
+                out.empty("VALUE.NULL");
+            else
+                out.element("VALUE", literalText(item));
+        }
+        out.close();
+    } else if (!value.items.empty() && value.items[0].kind != CimClassDecl::Literal::Kind::Null) {
+        out.element("VALUE", literalText(value.items[0]));
+    }
+}
+
+void ClassXml::writeQualifier(CimXmlWriter& out, const CimClassDecl::Qualifier& qualifier) {
+    out.open("QUALIFIER", {{"NAME", qualifier.name}, {"TYPE", qualifier.type}});
+    writeValue(out, qualifier.value);
+    out.close();
+}
+
+void ClassXml::_writeProperty(CimXmlWriter& out, const CimClassDecl::Property& p, const Options& options) {
+    CimXmlWriter::Attributes attributes{{"NAME", p.name}};
+    std::string tag = "PROPERTY";
+    if (p.type == "reference") {
+        tag = "PROPERTY.REFERENCE";
+        attributes.emplace_back("REFERENCECLASS", p.refClass);
+    } else {
+        attributes.emplace_back("TYPE", p.type);
+        if (p.isArray) {
+            tag = "PROPERTY.ARRAY";
+            if (p.arraySize > 0) attributes.emplace_back("ARRAYSIZE", std::to_string(p.arraySize));
+        }
+    }
+    if (options.includeClassOrigin) attributes.emplace_back("CLASSORIGIN", p.classOrigin);
+    if (p.propagated) attributes.emplace_back("PROPAGATED", "true");
+    out.open(tag, attributes);
+    if (options.includeQualifiers)
+        for (const auto& q : p.qualifiers) writeQualifier(out, q);
+    // A reference default would need a path; MOF files here carry none.
+    if (p.defaultValue && p.type != "reference") writeValue(out, *p.defaultValue);
+    out.close();
+}
+
+void ClassXml::_writeMethod(CimXmlWriter& out, const CimClassDecl::Method& m, const Options& options) {
+    CimXmlWriter::Attributes attributes{{"NAME", m.name}, {"TYPE", m.returnType}};
+    if (options.includeClassOrigin) attributes.emplace_back("CLASSORIGIN", m.classOrigin);
+    if (m.propagated) attributes.emplace_back("PROPAGATED", "true");
+    out.open("METHOD", attributes);
+    if (options.includeQualifiers)
+        for (const auto& q : m.qualifiers) writeQualifier(out, q);
+    for (const auto& p : m.parameters) {
+        CimXmlWriter::Attributes pa{{"NAME", p.name}};
+        std::string tag;
+        if (p.type == "reference") {
+            tag = p.isArray ? "PARAMETER.REFARRAY" : "PARAMETER.REFERENCE";
+            pa.emplace_back("REFERENCECLASS", p.refClass);
+        } else {
+            tag = p.isArray ? "PARAMETER.ARRAY" : "PARAMETER";
+            pa.emplace_back("TYPE", p.type);
+        }
+        if (p.isArray && p.arraySize > 0) pa.emplace_back("ARRAYSIZE", std::to_string(p.arraySize));
+        out.open(tag, pa);
+        if (options.includeQualifiers)
+            for (const auto& q : p.qualifiers) writeQualifier(out, q);
+        out.close();
+    }
+    out.close();
+}
+
+void ClassXml::writeClass(CimXmlWriter& out, const CimClassDecl& cls, const Options& options) {
+    CimXmlWriter::Attributes attributes{{"NAME", cls.name}};
+    if (!cls.superClass.empty()) attributes.emplace_back("SUPERCLASS", cls.superClass);
+    out.open("CLASS", attributes);
+    if (options.includeQualifiers)
+        for (const auto& q : cls.qualifiers) writeQualifier(out, q);
+    for (const auto& p : cls.properties) {
+        if (options.localOnly && p.propagated) continue;
+        if (options.propertyList && !options.propertyList->count(lower(p.name))) continue;
+        _writeProperty(out, p, options);
+    }
+    for (const auto& m : cls.methods) {
+        if (options.localOnly && m.propagated) continue;
+        _writeMethod(out, m, options);
+    }
+    out.close();
+}

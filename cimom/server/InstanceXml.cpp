@@ -1,0 +1,262 @@
+#include "InstanceXml.h"
+
+#include "ClassRepository.h"
+#include "CimError.h"
+#include "CimName.h"
+#include "CimOperationError.h"
+
+#include <cstring>
+
+namespace {
+
+[[noreturn]] void invalid(const std::string& what) {
+    throw CimOperationError(CimOperationError::invalidParameter, what);
+}
+
+std::string elementTypeName(const CimValue& value) {
+    CMPIType element = value.elementType();
+    if (element == CMPI_chars) return "string";
+    if (element == CMPI_instance) return "string";
+    return CimValue::typeName(element);
+}
+
+const char* keyValueType(CMPIType type) {
+    if (type == CMPI_boolean) return "boolean";
+    if (type & (CMPI_UINT | CMPI_SINT | CMPI_REAL)) return "numeric";
+    return "string";
+}
+
+// Text of a value as CIM-XML writes it; CimError from the value layer becomes
+// an invalid parameter here, as it only arises from what the client sent.
+CimValue parseText(CMPIType type, std::string_view text) {
+    try {
+        return CimValue::fromText(type, text);
+    } catch (const CimError& e) {
+        invalid(e.description());
+    }
+}
+
+std::string nameSpaceOf(pugi::xml_node namespacePath) {
+    std::string ns;
+    for (pugi::xml_node part : namespacePath.children("NAMESPACE")) {
+        if (!ns.empty()) ns += '/';
+        ns += part.attribute("NAME").value();
+    }
+    return ns;
+}
+
+}  // namespace
+
+void InstanceXml::writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace) {
+    out.open("LOCALNAMESPACEPATH");
+    size_t start = 0;
+    while (true) {
+        size_t slash = nameSpace.find('/', start);
+        out.empty("NAMESPACE", {{"NAME", nameSpace.substr(start, slash == std::string::npos ? slash : slash - start)}});
+        if (slash == std::string::npos) break;
+        start = slash + 1;
+    }
+    out.close();
+}
+
+void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path) {
+    out.open("INSTANCENAME", {{"CLASSNAME", path.className()}});
+    for (const auto& key : path.keys()) {
+        out.open("KEYBINDING", {{"NAME", key.name}});
+        if (key.value.type() == CMPI_ref && !key.value.isNull()) {
+            writeValue(out, key.value, "");
+        } else {
+            out.element("KEYVALUE", key.value.isNull() ? "" : key.value.toText(),
+                        {{"VALUETYPE", keyValueType(key.value.type())}});
+        }
+        out.close();
+    }
+    out.close();
+}
+
+void InstanceXml::writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host) {
+    out.open("INSTANCEPATH");
+    out.open("NAMESPACEPATH");
+    out.element("HOST", path.host().empty() ? host : path.host());
+    writeLocalNamespacePath(out, path.nameSpace());
+    out.close();
+    writeInstanceName(out, path);
+    out.close();
+}
+
+void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std::string& host) {
+    if (value.isArray()) {
+        bool refs = value.elementType() == CMPI_ref;
+        out.open(refs ? "VALUE.REFARRAY" : "VALUE.ARRAY");
+        for (const CimValue& e : value.elements()) {
+            if (e.isNull())
+                out.empty("VALUE.NULL");
+            else
+                writeValue(out, e, host);
+        }
+        out.close();
+        return;
+    }
+    if (value.type() == CMPI_ref) {
+        const CimObjectPath& path = value.asReference();
+        out.open("VALUE.REFERENCE");
+        if (!path.nameSpace().empty()) {
+            writeInstancePath(out, path, host);
+        } else {
+            writeInstanceName(out, path);
+        }
+        out.close();
+        return;
+    }
+    if (value.type() == CMPI_instance) {
+        // Embedded instances travel as escaped CIM-XML text.
+        CimXmlWriter inner;
+        writeInstance(inner, value.asInstance(), InstanceOptions{});
+        const std::string& text = inner.str();
+        out.element("VALUE", text.substr(text.find('\n') + 1));
+        return;
+    }
+    out.element("VALUE", value.toText());
+}
+
+void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options) {
+    out.open("INSTANCE", {{"CLASSNAME", instance.className()}});
+    if (options.includeQualifiers && options.cls) {
+        for (const auto& q : options.cls->qualifiers) {
+            out.open("QUALIFIER", {{"NAME", q.name}, {"TYPE", q.type}});
+            if (!q.value.isArray && !q.value.items.empty() &&
+                q.value.items[0].kind != CimClassDecl::Literal::Kind::Null) {
+                const auto& item = q.value.items[0];
+                out.element("VALUE", item.kind == CimClassDecl::Literal::Kind::Boolean
+                                         ? (item.text == "true" ? "TRUE" : "FALSE")
+                                         : item.text);
+            }
+            out.close();
+        }
+    }
+    for (const auto& p : instance.properties()) {
+        if (options.propertyList && !options.propertyList->count(CimName::lower(p.name))) continue;
+        const CimClassDecl::Property* decl = options.cls ? options.cls->findProperty(p.name) : nullptr;
+        const CimValue& v = p.value;
+        CimXmlWriter::Attributes attributes{{"NAME", p.name}};
+        std::string tag;
+        if (v.elementType() == CMPI_ref || (v.type() == CMPI_null && decl && decl->type == "reference")) {
+            tag = "PROPERTY.REFERENCE";
+            if (decl) attributes.emplace_back("REFERENCECLASS", decl->refClass);
+        } else {
+            std::string type = v.type() == CMPI_null ? (decl ? decl->type : "string") : elementTypeName(v);
+            tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY" : "PROPERTY";
+            attributes.emplace_back("TYPE", type);
+            if (v.elementType() == CMPI_instance) attributes.emplace_back("EmbeddedObject", "instance");
+        }
+        if (options.includeClassOrigin && decl) attributes.emplace_back("CLASSORIGIN", decl->classOrigin);
+        out.open(tag, attributes);
+        if (!v.isNull()) writeValue(out, v, "");
+        out.close();
+    }
+    out.close();
+}
+
+CimObjectPath InstanceXml::readInstanceName(pugi::xml_node node, const std::string& nameSpace,
+                                            const ClassRepository* classes) {
+    if (std::strcmp(node.name(), "INSTANCENAME") != 0) invalid(std::string("expected INSTANCENAME, found ") + node.name());
+    std::string className = node.attribute("CLASSNAME").value();
+    if (className.empty()) invalid("INSTANCENAME without CLASSNAME");
+    CimObjectPath path(nameSpace, className);
+    const CimClassDecl* cls = classes ? classes->find(nameSpace, className) : nullptr;
+    if (node.child("KEYVALUE") || node.child("VALUE.REFERENCE")) invalid("keys of " + className + " need names");
+    for (pugi::xml_node binding : node.children("KEYBINDING")) {
+        std::string name = binding.attribute("NAME").value();
+        if (name.empty()) invalid("KEYBINDING without NAME");
+        if (pugi::xml_node ref = binding.child("VALUE.REFERENCE")) {
+            path.addKey(name, CimValue::reference(readReference(ref, nameSpace, classes)));
+            continue;
+        }
+        pugi::xml_node kv = binding.child("KEYVALUE");
+        if (!kv) invalid("KEYBINDING " + name + " without a value");
+        std::string text = kv.text().get();
+        std::string valueType = kv.attribute("VALUETYPE").value();
+        if (valueType.empty()) valueType = "string";
+        const CimClassDecl::Property* decl = cls ? cls->findProperty(name) : nullptr;
+        CMPIType type = CMPI_null;
+        if (std::string explicitType = kv.attribute("TYPE").value(); !explicitType.empty())
+            type = CimValue::typeFromName(explicitType);
+        else if (decl && decl->type != "reference")
+            type = CimValue::typeFromName(decl->type);
+        if (type == CMPI_null) {
+            if (valueType == "boolean") {
+                type = CMPI_boolean;
+            } else if (valueType == "numeric") {
+                bool negative = !text.empty() && text[0] == '-';
+                bool real = text.find_first_of(".eE") != std::string::npos;
+                type = real ? CMPI_real64 : negative ? CMPI_sint64 : CMPI_uint64;
+            } else if (valueType == "string") {
+                type = CMPI_string;
+            } else {
+                invalid("KEYVALUE of " + name + " has VALUETYPE " + valueType);
+            }
+        }
+        path.addKey(name, parseText(type, text));
+    }
+    return path;
+}
+
+CimObjectPath InstanceXml::readReference(pugi::xml_node valueReference, const std::string& nameSpace,
+                                         const ClassRepository* classes) {
+    pugi::xml_node inner = valueReference.first_child();
+    std::string tag = inner.name();
+    if (tag == "INSTANCEPATH") {
+        pugi::xml_node nsPath = inner.child("NAMESPACEPATH");
+        std::string ns = nameSpaceOf(nsPath.child("LOCALNAMESPACEPATH"));
+        CimObjectPath path = readInstanceName(inner.child("INSTANCENAME"), ns.empty() ? nameSpace : ns, classes);
+        path.setHost(nsPath.child("HOST").text().get());
+        return path;
+    }
+    if (tag == "LOCALINSTANCEPATH") {
+        std::string ns = nameSpaceOf(inner.child("LOCALNAMESPACEPATH"));
+        return readInstanceName(inner.child("INSTANCENAME"), ns.empty() ? nameSpace : ns, classes);
+    }
+    if (tag == "INSTANCENAME") return readInstanceName(inner, nameSpace, classes);
+    if (tag == "CLASSNAME") return CimObjectPath(nameSpace, inner.attribute("NAME").value());
+    if (tag == "LOCALCLASSPATH" || tag == "CLASSPATH") {
+        pugi::xml_node local = tag == "CLASSPATH" ? inner.child("NAMESPACEPATH").child("LOCALNAMESPACEPATH")
+                                                  : inner.child("LOCALNAMESPACEPATH");
+        std::string ns = nameSpaceOf(local);
+        return CimObjectPath(ns.empty() ? nameSpace : ns, inner.child("CLASSNAME").attribute("NAME").value());
+    }
+    invalid("VALUE.REFERENCE holds no path");
+}
+
+CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type, const std::string& nameSpace,
+                                     const ClassRepository* classes) {
+    CMPIType element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
+    if (pugi::xml_node ref = paramValue.child("VALUE.REFERENCE"))
+        return CimValue::reference(readReference(ref, nameSpace, classes));
+    if (pugi::xml_node refs = paramValue.child("VALUE.REFARRAY")) {
+        std::vector<CimValue> items;
+        for (pugi::xml_node r : refs.children()) {
+            if (std::strcmp(r.name(), "VALUE.NULL") == 0)
+                items.push_back(CimValue::null(CMPI_ref));
+            else
+                items.push_back(CimValue::reference(readReference(r, nameSpace, classes)));
+        }
+        return CimValue::array(CMPI_ref, std::move(items));
+    }
+    // Untyped values that the class does not declare travel as strings.
+    if (element == CMPI_null || element == CMPI_ref) element = CMPI_string;
+    if (pugi::xml_node array = paramValue.child("VALUE.ARRAY")) {
+        std::vector<CimValue> items;
+        for (pugi::xml_node v : array.children()) {
+            if (std::strcmp(v.name(), "VALUE.NULL") == 0)
+                items.push_back(CimValue::null(element));
+            else
+                items.push_back(parseText(element, v.text().get()));
+        }
+        return CimValue::array(element, std::move(items));
+    }
+    if (pugi::xml_node v = paramValue.child("VALUE")) {
+        if (type & CMPI_ARRAY) invalid(std::string("parameter ") + paramValue.attribute("NAME").value() + " needs an array");
+        return parseText(element, v.text().get());
+    }
+    return CimValue::null(type == CMPI_null ? CMPI_string : type);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "CimClassDecl.h"
+#include "CimInstance.h"
+#include "CimObjectPath.h"
+#include "CimValue.h"
+#include "CimXmlWriter.h"
+
+#include <pugixml.hpp>
+
+#include <optional>
+#include <set>
+#include <string>
+
+class ClassRepository;
+
+// CIM-XML of instances, paths and values, both ways, in the shapes wbemcli
+// reads. Decoding throws CimOperationError(INVALID_PARAMETER) on bad input.
+class InstanceXml {
+public:
+    struct InstanceOptions {
+        const CimClassDecl* cls = nullptr;  // types nulls and adds qualifiers/origin
+        bool includeQualifiers = false;
+        bool includeClassOrigin = false;
+        std::optional<std::set<std::string>> propertyList;  // lower-case names
+    };
+
+    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path);
+    // INSTANCEPATH: NAMESPACEPATH (HOST, LOCALNAMESPACEPATH) then INSTANCENAME.
+    static void writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host);
+    static void writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace);
+    static void writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options);
+    // VALUE, VALUE.ARRAY or VALUE.REFERENCE for a non-null value.
+    static void writeValue(CimXmlWriter& out, const CimValue& value, const std::string& host);
+
+    // Reads an INSTANCENAME; key types follow the class's MOF when held.
+    static CimObjectPath readInstanceName(pugi::xml_node node, const std::string& nameSpace,
+                                          const ClassRepository* classes);
+    // Reads any of the path forms a VALUE.REFERENCE may hold.
+    static CimObjectPath readReference(pugi::xml_node valueReference, const std::string& nameSpace,
+                                       const ClassRepository* classes);
+    // Reads the value inside a PARAMVALUE; type is the declared one (CMPI_null: untyped).
+    static CimValue readParamValue(pugi::xml_node paramValue, CMPIType type, const std::string& nameSpace,
+                                   const ClassRepository* classes);
+};

@@ -1,0 +1,48 @@
+#include "ServerLog.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <mutex>
+
+namespace {
+std::atomic<int> currentLevel{static_cast<int>(ServerLog::Level::Info)};
+std::mutex writeMutex;
+}  // namespace
+
+void ServerLog::setLevel(Level level) { currentLevel = static_cast<int>(level); }
+
+bool ServerLog::parseLevel(const std::string& text, Level& level) {
+    if (text == "error") level = Level::Error;
+    else if (text == "warn") level = Level::Warn;
+    else if (text == "info") level = Level::Info;
+    else if (text == "debug") level = Level::Debug;
+    else return false;
+    return true;
+}
+
+bool ServerLog::enabled(Level level) { return static_cast<int>(level) <= currentLevel.load(); }
+
+void ServerLog::_write(Level level, const std::string& line) {
+    if (!enabled(level)) return;
+    const char* name = "";
+    switch (level) {
+        case Level::Error: name = "ERROR"; break;
+        case Level::Warn: name = "WARN"; break;
+        case Level::Info: name = "INFO"; break;
+        case Level::Debug: name = "DEBUG"; break;
+    }
+    std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::tm tm{};
+    gmtime_r(&now, &tm);
+    char stamp[32];
+    std::strftime(stamp, sizeof stamp, "%Y-%m-%dT%H:%M:%SZ", &tm);
+    std::lock_guard<std::mutex> lock(writeMutex);
+    std::fprintf(stderr, "%s veldra-cimd %s %s\n", stamp, name, line.c_str());
+}
+
+void ServerLog::error(const std::string& line) { _write(Level::Error, line); }
+void ServerLog::warn(const std::string& line) { _write(Level::Warn, line); }
+void ServerLog::info(const std::string& line) { _write(Level::Info, line); }
+void ServerLog::debug(const std::string& line) { _write(Level::Debug, line); }
