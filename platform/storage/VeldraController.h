@@ -1,0 +1,68 @@
+#pragma once
+// One controller, as a long-lived handle owned by the storage-access root.
+//
+// Besides the current state of the hardware (the pure virtual operations,
+// supplied by a back end) it keeps what the caller stored: the "last"
+// snapshots and the consumed counters. A live counter moves whenever the
+// state it guards changes; caller and library compare live and consumed by
+// inequality only.
+#include "VeldraControllerData.h"
+#include "VeldraEnclosure.h"
+#include "VeldraLogicalDisk.h"
+#include "VeldraPhysicalDisk.h"
+
+#include <atomic>
+#include <mutex>
+#include <vector>
+
+class VeldraController {
+public:
+    VeldraController();
+    VeldraController(VeldraController const&) = delete;
+    VeldraController& operator=(VeldraController const&) = delete;
+    virtual ~VeldraController();
+
+    // Current state.
+    virtual VeldraControllerData getVDData() = 0;
+    virtual std::vector<VeldraEnclosure> getAllEnclosures() = 0;
+    virtual std::vector<VeldraPhysicalDisk> getAllPhysicalDisks() = 0;
+    virtual std::vector<VeldraLogicalDisk> getAllLogicalDisks() = 0;
+    virtual bool getSupportsLumenCarrierAuthentication() = 0;
+    // Light the locators; negative on failure.
+    virtual int identifyAllPhysicalDisks(u32 duration) = 0;
+    virtual int identifyPhysicalDisks(std::vector<VeldraPhysicalDisk> disks, u32 duration) = 0;
+
+    // Live counters.
+    virtual u32 getDiskVectorCount() = 0;
+    virtual u32 getControllerDataCount() = 0;
+    virtual u32 getPossibleSignificantDiskVectorChangeCount() = 0;
+
+    // What the caller stored.
+    void getLastVDData(VeldraControllerData& out);
+    void setLastVDData(VeldraControllerData const& data);
+    std::vector<VeldraEnclosure> getLastAllEnclosures();
+    void setLastAllEnclosures(std::vector<VeldraEnclosure>& enclosures);
+    std::vector<VeldraPhysicalDisk> getLastAllPhysicalDisks();
+    void setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& disks);
+    void getLastLogicalDisks(std::vector<VeldraLogicalDisk>& out);
+    void setLastLogicalDisks(std::vector<VeldraLogicalDisk> disks);
+
+    u32 getConsumedDiskVectorCount() const { return _consumedDiskVector; }
+    void setConsumedDiskVectorCount(u32 value) { _consumedDiskVector = value; }
+    u32 getConsumedControllerDataCount() const { return _consumedControllerData; }
+    void setConsumedControllerDataCount(u32 value) { _consumedControllerData = value; }
+    u32 getConsumedPossibleSignificantDiskVectorChangeCount() const { return _consumedSignificant; }
+    void setConsumedPossibleSignificantDiskVectorChangeCount(u32 value) { _consumedSignificant = value; }
+
+private:
+    // The worker writes snapshots under the provider's lock, but the view
+    // classes read outside it; this lock keeps each copy whole.
+    std::mutex _snapshotMutex;
+    VeldraControllerData _lastData;
+    std::vector<VeldraEnclosure> _lastEnclosures;
+    std::vector<VeldraPhysicalDisk> _lastPhysicalDisks;
+    std::vector<VeldraLogicalDisk> _lastLogicalDisks;
+    std::atomic<u32> _consumedDiskVector{0};
+    std::atomic<u32> _consumedControllerData{0};
+    std::atomic<u32> _consumedSignificant{0};
+};
