@@ -1,0 +1,197 @@
+#include "QLNVeldraProvider.h"
+
+#include "CmpiStatus.h"
+#include "QLNPhysloc.h"
+#include "QLNUtil.h"
+
+#include <stdexcept>
+
+namespace {
+char const* const performWork = "PerformWork";
+// The return value of a method the provider does not know; the number of
+// CMPI_RC_ERR_METHOD_NOT_FOUND, handed back as a value, never thrown.
+std::uint32_t const methodNotFound = 17;
+// Only these classes have extrinsic methods.
+char const* const diskDriveClass = "QLN_VDDiskDrive";
+char const* const storageVolumeClass = "QLN_VDStorageVolume";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+int const physlocHandle = 255;
+
+// Holds the provider mutex for one scope, also when an exception passes.
+class ProviderLock {
+public:
+    explicit ProviderLock(pthread_mutex_t& mutex) : _mutex(mutex) { pthread_mutex_lock(&_mutex); }
+    ~ProviderLock() { pthread_mutex_unlock(&_mutex); }
+    ProviderLock(ProviderLock const&) = delete;
+    ProviderLock& operator=(ProviderLock const&) = delete;
+
+private:
+    pthread_mutex_t& _mutex;
+};
+} // namespace
+
+namespace QLN {
+
+using CmpiCpp::CmpiArgs;
+using CmpiCpp::CmpiContext;
+using CmpiCpp::CmpiInstanceResult;
+using CmpiCpp::CmpiMethodResult;
+using CmpiCpp::CmpiName;
+using CmpiCpp::CmpiObjectPath;
+using CmpiCpp::CmpiObjectPathResult;
+using CmpiCpp::CmpiSelectExp;
+using CmpiCpp::CmpiStatus;
+
+QLNVeldraProvider::QLNVeldraProvider(CmpiCpp::CmpiBroker const& broker, Logger& logger)
+    : _managedInstances(logger), _indicationsEnabled(false), _workerEnteredWithIndications(false),
+      _heartbeatEnabled(false), _internalVDControllerMRA(nullptr) {
+    QLNUtil::setBroker(broker);
+    _logger = logger;
+    pthread_mutex_init(&_providerMutex, nullptr);
+    _indicationsEnabled = false;
+    _workerEnteredWithIndications = false;
+    _heartbeatEnabled = QLNUtil::HeartBeatIndicationsEnabled();
+    _logger.info("cxtor()");
+    QLNPhysloc::init(physlocHandle);
+    _internalVDControllerMRA = internalVeldraControllerMRAFactory(_logger);
+    if (_internalVDControllerMRA == nullptr) {
+        // The storage library has logged why; without it there is nothing to serve.
+        throw std::runtime_error("storage access could not be started");
+    }
+    _cmpiManagedInstanceFactory();
+}
+
+QLNVeldraProvider::~QLNVeldraProvider() {
+    _logger.info("dxtor() unloading provider");
+    delete _internalVDControllerMRA;
+    QLNPhysloc::close(physlocHandle);
+    pthread_mutex_destroy(&_providerMutex);
+}
+
+void QLNVeldraProvider::enumInstanceNames(CmpiContext const& context, CmpiObjectPath const& path,
+                                          CmpiObjectPathResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.enumInstanceNames(result, context, path);
+}
+
+void QLNVeldraProvider::enumInstances(CmpiContext const& context, CmpiObjectPath const& path,
+                                      char const** properties, CmpiInstanceResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.enumInstances(result, context, path, properties);
+}
+
+void QLNVeldraProvider::getInstance(CmpiContext const& context, CmpiObjectPath const& path,
+                                    char const** properties, CmpiInstanceResult& result) {
+    bool found = false;
+    {
+        ProviderLock lock(_providerMutex);
+        found = _managedInstances.getInstance(result, context, path, properties);
+    }
+    if (!found) {
+        throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
+    }
+}
+
+CmpiCpp::CmpiBroker QLNVeldraProvider::getBroker() { return CmpiCpp::CmpiBroker(QLNUtil::getBroker()); }
+
+// Unloading is the destructor's work alone.
+void QLNVeldraProvider::cleanup(CmpiContext const&, bool) {}
+
+void QLNVeldraProvider::associators(CmpiContext const& context, CmpiObjectPath const& path,
+                                    CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
+                                    CmpiName const& resultRole, char const** properties,
+                                    CmpiInstanceResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.associators(result, context, path, assocClass, resultClass, role, resultRole, properties);
+}
+
+void QLNVeldraProvider::associatorNames(CmpiContext const& context, CmpiObjectPath const& path,
+                                        CmpiName const& assocClass, CmpiName const& resultClass,
+                                        CmpiName const& role, CmpiName const& resultRole,
+                                        CmpiObjectPathResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.associatorNames(result, context, path, assocClass, resultClass, role, resultRole);
+}
+
+void QLNVeldraProvider::references(CmpiContext const& context, CmpiObjectPath const& path,
+                                   CmpiName const& resultClass, CmpiName const& role, char const** properties,
+                                   CmpiInstanceResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.references(result, context, path, resultClass, role, properties);
+}
+
+void QLNVeldraProvider::referenceNames(CmpiContext const& context, CmpiObjectPath const& path,
+                                       CmpiName const& resultClass, CmpiName const& role,
+                                       CmpiObjectPathResult& result) {
+    ProviderLock lock(_providerMutex);
+    _managedInstances.referenceNames(result, context, path, resultClass, role);
+}
+
+void QLNVeldraProvider::authorizeFilter(CmpiContext const&, CmpiSelectExp const&, CmpiName const&,
+                                        CmpiObjectPath const&, std::string const&) {}
+
+void QLNVeldraProvider::mustPoll(CmpiContext const&, CmpiSelectExp const&, CmpiName const&,
+                                 CmpiObjectPath const&) {}
+
+// Any activation turns delivery on; deactivation, even of the last filter,
+// leaves it on. Only disableIndications turns it off.
+void QLNVeldraProvider::activateFilter(CmpiContext const&, CmpiSelectExp const&, CmpiName const&,
+                                       CmpiObjectPath const&, bool) {
+    _indicationsEnabled = true;
+}
+
+void QLNVeldraProvider::deActivateFilter(CmpiContext const&, CmpiSelectExp const&, CmpiName const&,
+                                         CmpiObjectPath const&, bool) {}
+
+void QLNVeldraProvider::enableIndications() { _indicationsEnabled = true; }
+
+void QLNVeldraProvider::disableIndications() { _indicationsEnabled = false; }
+
+void QLNVeldraProvider::invokeMethod(CmpiContext const& context, CmpiObjectPath const& path,
+                                     CmpiName const& method, CmpiArgs const& in, CmpiMethodResult& result) {
+    std::uint32_t outcome = 0;
+    if (method == CmpiName(performWork)) {
+        outcome = _backgroundWorker(context);
+    } else {
+        outcome = _invokeMethodOnInstance(path, method, in);
+    }
+    result.returnData(outcome);
+}
+
+int QLNVeldraProvider::getProviderKind() { return 2; }
+
+// No lock on purpose: methods run beside reads and beside the worker, and
+// the collection guards its own lookups.
+std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const&,
+                                                         CmpiArgs const&) {
+    std::uint32_t const outcome = methodNotFound;
+    CmpiName const className = path.getClassName();
+    if (!(className == CmpiName(diskDriveClass) || className == CmpiName(storageVolumeClass) ||
+          className == CmpiName(arraySystemClass))) {
+        return outcome;
+    }
+    CmpiManagedInstance* instance = _managedInstances.getManagedInstance(path);
+    if (instance == nullptr) {
+        return outcome;
+    }
+    // The graph holds no instance of the three method classes yet, so an
+    // instance found under one of their names is not of that class.
+    throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
+}
+
+void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
+    _logger.info("_cmpiManagedInstanceFactory");
+    _logger.info("the instance graph is not built yet: serving an empty collection");
+}
+
+std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const&) {
+    _logger.info("::_backgroundWorker");
+    if (_indicationsEnabled) {
+        _workerEnteredWithIndications = true;
+    }
+    ProviderLock lock(_providerMutex);
+    // The reconcile steps join with the controller model; a pass has nothing to compare yet.
+    return 0;
+}
+
+} // namespace QLN
