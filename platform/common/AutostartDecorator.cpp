@@ -30,8 +30,9 @@ AutostartDecorator::AutostartDecorator(CmpiCpp::CmpiBroker const& broker, Logger
         throw CmpiStatus(CMPI_RC_ERR_FAILED, "AutostartDecorator needs an autostart instance");
     }
     _readSchedule(*autostart);
-    _logger.info("cxtor() PerformWork in %s after %lld ms, then every %lld ms", _workerNameSpace.c_str(),
-                 static_cast<long long>(_stagger.count()), static_cast<long long>(_interval.count()));
+    _logger.info("cxtor() PerformWork in %s after %lld ms, then every %lld ms",
+                 _workerNameSpace.c_str(), static_cast<long long>(_stagger.count()),
+                 static_cast<long long>(_interval.count()));
     // Nothing below may throw once the instance is owned, or the handler
     // below would free it a second time.
     _autostart.reset(autostart);
@@ -60,20 +61,23 @@ void AutostartDecorator::_readSchedule(CmpiManagedInstance const& autostart) {
         staggerSeconds = instance.getProperty("WorkerPollIntervalStagger").getUint16();
         _workerNameSpace = instance.getProperty("WorkerMethodNameSpace").getString();
     } catch (CmpiStatus const& e) {
-        throw CmpiStatus(CMPI_RC_ERR_FAILED, "autostart instance " + instance.getClassName().str() +
-                                                 " lacks a worker property (WorkerPollInterval, "
-                                                 "WorkerPollIntervalStagger, WorkerMethodNameSpace): " +
-                                                 e.str());
+        throw CmpiStatus(CMPI_RC_ERR_FAILED,
+                         "autostart instance " + instance.getClassName().str() +
+                             " lacks a worker property (WorkerPollInterval, "
+                             "WorkerPollIntervalStagger, WorkerMethodNameSpace): " +
+                             e.str());
     }
     _interval = std::chrono::milliseconds(
         FrameworkConfig::getInt("VELDRA_WORKER_INTERVAL_MS", intervalSeconds * 1000));
-    _stagger = std::chrono::milliseconds(FrameworkConfig::getInt("VELDRA_WORKER_STAGGER_MS", staggerSeconds * 1000));
+    _stagger = std::chrono::milliseconds(
+        FrameworkConfig::getInt("VELDRA_WORKER_STAGGER_MS", staggerSeconds * 1000));
     if (_interval.count() <= 0) {
-        throw std::runtime_error("worker interval must be above 0, is " + std::to_string(_interval.count()) + " ms");
+        throw std::runtime_error("worker interval must be above 0, is " +
+                                 std::to_string(_interval.count()) + " ms");
     }
     if (_stagger.count() < 0) {
-        throw std::runtime_error("worker stagger must not be negative, is " + std::to_string(_stagger.count()) +
-                                 " ms");
+        throw std::runtime_error("worker stagger must not be negative, is " +
+                                 std::to_string(_stagger.count()) + " ms");
     }
 }
 

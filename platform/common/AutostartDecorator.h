@@ -26,8 +26,8 @@ class AutostartDecorator : public ProviderDecorator {
 public:
     // Takes over `autostart`, also when the constructor throws. The instance
     // must carry the three worker properties, with an interval above 0.
-    AutostartDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger, CmpiManagedInstance* autostart,
-                       ProviderFactory factory);
+    AutostartDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger,
+                       CmpiManagedInstance* autostart, ProviderFactory factory);
     ~AutostartDecorator() override;
 
     void cleanup(CmpiCpp::CmpiContext const& context, bool terminating) override;

@@ -10,7 +10,8 @@ void CapturedMethodResult::returnData(std::uint32_t returnValue) {
     _returnValue = returnValue;
 }
 
-void CapturedMethodResult::addOutArg(CmpiCpp::CmpiName const& name, CmpiCpp::CmpiData const& value) {
+void CapturedMethodResult::addOutArg(CmpiCpp::CmpiName const& name,
+                                     CmpiCpp::CmpiData const& value) {
     _outArgs.emplace_back(name, value);
 }
 

@@ -22,7 +22,9 @@ public:
 
     // Nullopt when the method never set a return value.
     std::optional<std::uint32_t> returnValue() const { return _returnValue; }
-    std::vector<std::pair<CmpiCpp::CmpiName, CmpiCpp::CmpiData>> const& outArgs() const { return _outArgs; }
+    std::vector<std::pair<CmpiCpp::CmpiName, CmpiCpp::CmpiData>> const& outArgs() const {
+        return _outArgs;
+    }
 
 private:
     std::optional<std::uint32_t> _returnValue;

@@ -48,7 +48,8 @@ void CmpiManagedInstanceCollection::_index(Entry* entry) {
     _byPath[entry->key] = entry;
     std::vector<std::string const*> seen;
     for (auto const& reference : entry->references) {
-        bool again = std::any_of(seen.begin(), seen.end(), [&](auto key) { return *key == reference.key; });
+        bool again =
+            std::any_of(seen.begin(), seen.end(), [&](auto key) { return *key == reference.key; });
         if (!again) {
             _byEnd[reference.key].push_back(entry);
             seen.push_back(&reference.key);
@@ -113,7 +114,8 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         // the collection), but without a path nobody can find it.
         entry->key.clear();
         entry->references.clear();
-        _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s", e.what());
+        _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s",
+                      e.what());
     }
 
     std::unique_ptr<Entry> replaced;
@@ -131,7 +133,8 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         _entries[position] = std::move(entry);
         _index(_entries[position].get());
     }
-    _logger.warn("createInstance: %s replaces an instance with the same path", replaced->key.c_str());
+    _logger.warn("createInstance: %s replaces an instance with the same path",
+                 replaced->key.c_str());
     return false;
 }
 
@@ -154,7 +157,8 @@ bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
     return true;
 }
 
-CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(CmpiObjectPath const& path) const {
+CmpiManagedInstance*
+CmpiManagedInstanceCollection::getManagedInstance(CmpiObjectPath const& path) const {
     std::string key = path.canonicalKey();
     std::shared_lock lock(_mutex);
     auto found = _byPath.find(key);
@@ -190,7 +194,8 @@ unsigned int CmpiManagedInstanceCollection::cleanup() {
     return static_cast<unsigned int>(gone.size());
 }
 
-bool CmpiManagedInstanceCollection::_instanceOf(Entry const* entry, CmpiInstance& out, char const* what) const {
+bool CmpiManagedInstanceCollection::_instanceOf(Entry const* entry, CmpiInstance& out,
+                                                char const* what) const {
     try {
         out = entry->instance->getInstance();
         return true;
@@ -202,7 +207,8 @@ bool CmpiManagedInstanceCollection::_instanceOf(Entry const* entry, CmpiInstance
     return false;
 }
 
-void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& result, CmpiContext const&,
+void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& result,
+                                                      CmpiContext const&,
                                                       CmpiObjectPath const& path) const {
     CmpiName const& className = path.getClassName();
     std::vector<CmpiObjectPath> found;
@@ -226,7 +232,8 @@ void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& resu
 }
 
 void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, CmpiContext const&,
-                                                  CmpiObjectPath const& path, char const** properties) const {
+                                                  CmpiObjectPath const& path,
+                                                  char const** properties) const {
     CmpiName const& className = path.getClassName();
     std::vector<CmpiInstance> found;
     {
@@ -247,7 +254,8 @@ void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, Cm
 }
 
 bool CmpiManagedInstanceCollection::getInstance(CmpiInstanceResult& result, CmpiContext const&,
-                                                CmpiObjectPath const& path, char const** properties) const {
+                                                CmpiObjectPath const& path,
+                                                char const** properties) const {
     std::string key = path.canonicalKey();
     CmpiInstance instance;
     {
@@ -263,8 +271,10 @@ bool CmpiManagedInstanceCollection::getInstance(CmpiInstanceResult& result, Cmpi
     return true;
 }
 
-std::vector<CmpiManagedInstanceCollection::Entry const*> CmpiManagedInstanceCollection::_fittingAssociations(
-    std::string const& sourceKey, CmpiName const& assocClass, CmpiName const& role) const {
+std::vector<CmpiManagedInstanceCollection::Entry const*>
+CmpiManagedInstanceCollection::_fittingAssociations(std::string const& sourceKey,
+                                                    CmpiName const& assocClass,
+                                                    CmpiName const& role) const {
     std::vector<Entry const*> fitting;
     auto found = _byEnd.find(sourceKey);
     if (found == _byEnd.end()) {
@@ -274,9 +284,9 @@ std::vector<CmpiManagedInstanceCollection::Entry const*> CmpiManagedInstanceColl
         if (!entry->instance->visible() || !fits(assocClass, entry->className)) {
             continue;
         }
-        bool named = std::any_of(entry->references.begin(), entry->references.end(), [&](Reference const& r) {
-            return r.key == sourceKey && fits(role, r.role);
-        });
+        bool named = std::any_of(
+            entry->references.begin(), entry->references.end(),
+            [&](Reference const& r) { return r.key == sourceKey && fits(role, r.role); });
         if (named) {
             fitting.push_back(entry);
         }
@@ -287,9 +297,10 @@ std::vector<CmpiManagedInstanceCollection::Entry const*> CmpiManagedInstanceColl
 // The far ends come from the association's reference keys rather than from
 // otherEnd(): the keys carry the role names that the role filters need, and
 // they serve two- and three-ended associations alike.
-std::vector<CmpiManagedInstanceCollection::FarEnd> CmpiManagedInstanceCollection::_farEnds(
-    CmpiObjectPath const& path, CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
-    CmpiName const& resultRole) const {
+std::vector<CmpiManagedInstanceCollection::FarEnd>
+CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName const& assocClass,
+                                        CmpiName const& resultClass, CmpiName const& role,
+                                        CmpiName const& resultRole) const {
     std::string sourceKey = path.canonicalKey();
     std::vector<FarEnd> ends;
     std::vector<std::string> seen;
@@ -301,7 +312,8 @@ std::vector<CmpiManagedInstanceCollection::FarEnd> CmpiManagedInstanceCollection
             }
             for (std::size_t far = 0; far < references.size(); ++far) {
                 Reference const& end = references[far];
-                if (far == source || !fits(resultRole, end.role) || !fits(resultClass, end.path.getClassName())) {
+                if (far == source || !fits(resultRole, end.role) ||
+                    !fits(resultClass, end.path.getClassName())) {
                     continue;
                 }
                 if (std::find(seen.begin(), seen.end(), end.key) != seen.end()) {
@@ -321,9 +333,11 @@ std::vector<CmpiManagedInstanceCollection::FarEnd> CmpiManagedInstanceCollection
 }
 
 void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const&,
-                                                CmpiObjectPath const& path, CmpiName const& assocClass,
+                                                CmpiObjectPath const& path,
+                                                CmpiName const& assocClass,
                                                 CmpiName const& resultClass, CmpiName const& role,
-                                                CmpiName const& resultRole, char const** properties) const {
+                                                CmpiName const& resultRole,
+                                                char const** properties) const {
     std::vector<CmpiInstance> found;
     {
         std::shared_lock lock(_mutex);
@@ -341,9 +355,11 @@ void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, Cmpi
     }
 }
 
-void CmpiManagedInstanceCollection::associatorNames(CmpiObjectPathResult& result, CmpiContext const&,
-                                                    CmpiObjectPath const& path, CmpiName const& assocClass,
-                                                    CmpiName const& resultClass, CmpiName const& role,
+void CmpiManagedInstanceCollection::associatorNames(CmpiObjectPathResult& result,
+                                                    CmpiContext const&, CmpiObjectPath const& path,
+                                                    CmpiName const& assocClass,
+                                                    CmpiName const& resultClass,
+                                                    CmpiName const& role,
                                                     CmpiName const& resultRole) const {
     std::vector<CmpiObjectPath> found;
     {
@@ -358,12 +374,14 @@ void CmpiManagedInstanceCollection::associatorNames(CmpiObjectPathResult& result
 }
 
 void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiContext const&,
-                                               CmpiObjectPath const& path, CmpiName const& resultClass,
-                                               CmpiName const& role, char const** properties) const {
+                                               CmpiObjectPath const& path,
+                                               CmpiName const& resultClass, CmpiName const& role,
+                                               char const** properties) const {
     std::vector<CmpiInstance> found;
     {
         std::shared_lock lock(_mutex);
-        for (Entry const* association : _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+        for (Entry const* association :
+             _fittingAssociations(path.canonicalKey(), resultClass, role)) {
             CmpiInstance instance;
             if (_instanceOf(association, instance, "references")) {
                 found.push_back(instance.filtered(properties));
@@ -376,16 +394,19 @@ void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiC
 }
 
 void CmpiManagedInstanceCollection::referenceNames(CmpiObjectPathResult& result, CmpiContext const&,
-                                                   CmpiObjectPath const& path, CmpiName const& resultClass,
+                                                   CmpiObjectPath const& path,
+                                                   CmpiName const& resultClass,
                                                    CmpiName const& role) const {
     std::vector<CmpiObjectPath> found;
     {
         std::shared_lock lock(_mutex);
-        for (Entry const* association : _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+        for (Entry const* association :
+             _fittingAssociations(path.canonicalKey(), resultClass, role)) {
             try {
                 found.push_back(association->instance->getPath());
             } catch (std::exception const& e) {
-                _logger.warn("referenceNames: skipped %s, getPath failed: %s", association->key.c_str(), e.what());
+                _logger.warn("referenceNames: skipped %s, getPath failed: %s",
+                             association->key.c_str(), e.what());
             }
         }
     }

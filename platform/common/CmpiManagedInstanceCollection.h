@@ -51,7 +51,8 @@ public:
     // Removes and deletes every invisible instance; returns how many went.
     unsigned int cleanup();
 
-    void enumInstanceNames(CmpiCpp::CmpiObjectPathResult& result, CmpiCpp::CmpiContext const& context,
+    void enumInstanceNames(CmpiCpp::CmpiObjectPathResult& result,
+                           CmpiCpp::CmpiContext const& context,
                            CmpiCpp::CmpiObjectPath const& path) const;
     void enumInstances(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
                        CmpiCpp::CmpiObjectPath const& path, char const** properties) const;
@@ -87,8 +88,8 @@ private:
     struct Entry {
         std::unique_ptr<CmpiManagedInstance> instance;
         CmpiCpp::CmpiName className;
-        std::string key;                    // empty when getPath() failed at insertion
-        std::vector<Reference> references;  // reference keys, for associations only
+        std::string key;                   // empty when getPath() failed at insertion
+        std::vector<Reference> references; // reference keys, for associations only
     };
     // A far end that fits the filters: its path, and the entry serving it
     // here (null when another provider serves it).
@@ -101,10 +102,13 @@ private:
     void _unindex(Entry* entry);
     void _eraseEntry(std::size_t position);
     std::size_t _positionOf(Entry const* entry) const;
-    std::vector<Entry const*> _fittingAssociations(std::string const& sourceKey, CmpiCpp::CmpiName const& assocClass,
+    std::vector<Entry const*> _fittingAssociations(std::string const& sourceKey,
+                                                   CmpiCpp::CmpiName const& assocClass,
                                                    CmpiCpp::CmpiName const& role) const;
-    std::vector<FarEnd> _farEnds(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
-                                 CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+    std::vector<FarEnd> _farEnds(CmpiCpp::CmpiObjectPath const& path,
+                                 CmpiCpp::CmpiName const& assocClass,
+                                 CmpiCpp::CmpiName const& resultClass,
+                                 CmpiCpp::CmpiName const& role,
                                  CmpiCpp::CmpiName const& resultRole) const;
     bool _instanceOf(Entry const* entry, CmpiCpp::CmpiInstance& out, char const* what) const;
 

@@ -62,7 +62,8 @@ std::map<std::string, std::string> parseFile(std::string const& file) {
     }
     for (auto const& entry : root) {
         if (!entry.first.IsScalar()) {
-            throw std::runtime_error(where(file, entry.first.Mark()) + ": a key must be a plain name");
+            throw std::runtime_error(where(file, entry.first.Mark()) +
+                                     ": a key must be a plain name");
         }
         std::string key = entry.first.Scalar();
         if (entry.second.IsNull()) {
@@ -132,8 +133,8 @@ bool FrameworkConfig::getBool(std::string const& key, bool fallback) {
     if (text == "0" || text == "false" || text == "no" || text == "off") {
         return false;
     }
-    throw std::runtime_error("framework configuration: " + key + " must be a switch (true/false), not \"" +
-                             *value + "\"");
+    throw std::runtime_error("framework configuration: " + key +
+                             " must be a switch (true/false), not \"" + *value + "\"");
 }
 
 long FrameworkConfig::getInt(std::string const& key, long fallback) {
@@ -145,9 +146,10 @@ long FrameworkConfig::getInt(std::string const& key, long fallback) {
     char* end = nullptr;
     errno = 0;
     long number = std::strtol(text, &end, 10);
-    if (value->empty() || errno == ERANGE || *end != '\0' || std::isspace(static_cast<unsigned char>(*text))) {
-        throw std::runtime_error("framework configuration: " + key + " must be a whole number, not \"" +
-                                 *value + "\"");
+    if (value->empty() || errno == ERANGE || *end != '\0' ||
+        std::isspace(static_cast<unsigned char>(*text))) {
+        throw std::runtime_error("framework configuration: " + key +
+                                 " must be a whole number, not \"" + *value + "\"");
     }
     return number;
 }

@@ -2,7 +2,8 @@
 
 namespace QLN {
 
-LoggedProvider::LoggedProvider(CmpiCpp::CmpiBroker const& broker, Logger& logger, ProviderFactory factory)
+LoggedProvider::LoggedProvider(CmpiCpp::CmpiBroker const& broker, Logger& logger,
+                               ProviderFactory factory)
     : ProviderDecorator(broker, logger, factory) {
     _logger.appendLogSource(":");
     _logger.appendLogSource("LoggedProvider");
@@ -16,11 +17,13 @@ LoggedProvider::~LoggedProvider() {
 void LoggedProvider::_callStarted(Call const& call) {
     char const* operation = operationName(call.operation);
     // Enumerations are about a class; single-object calls about a path.
-    bool classOnly = call.operation == Operation::EnumInstanceNames || call.operation == Operation::EnumInstances ||
+    bool classOnly = call.operation == Operation::EnumInstanceNames ||
+                     call.operation == Operation::EnumInstances ||
                      call.operation == Operation::ExecQuery;
     std::string about;
     if (call.path && !call.path->empty()) {
-        about = classOnly ? call.path->getNameSpace().str() + ":" + call.path->getClassName().str() : call.path->str();
+        about = classOnly ? call.path->getNameSpace().str() + ":" + call.path->getClassName().str()
+                          : call.path->str();
     }
     if (call.name && !call.name->empty()) {
         about = call.name->str() + (about.empty() ? "" : " on " + about);

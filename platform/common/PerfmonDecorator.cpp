@@ -2,7 +2,8 @@
 
 namespace QLN {
 
-PerfmonDecorator::PerfmonDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger, ProviderFactory factory)
+PerfmonDecorator::PerfmonDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger,
+                                   ProviderFactory factory)
     : ProviderDecorator(broker, logger, factory) {
     _logger.appendLogSource(":");
     _logger.appendLogSource("PerfmonDecorator");
@@ -23,8 +24,8 @@ void PerfmonDecorator::_callEnded(Call const& call, std::chrono::nanoseconds ela
     }
     counters.totalNanoseconds.fetch_add(nanoseconds, std::memory_order_relaxed);
     std::uint64_t seen = counters.maxNanoseconds.load(std::memory_order_relaxed);
-    while (nanoseconds > seen &&
-           !counters.maxNanoseconds.compare_exchange_weak(seen, nanoseconds, std::memory_order_relaxed)) {
+    while (nanoseconds > seen && !counters.maxNanoseconds.compare_exchange_weak(
+                                     seen, nanoseconds, std::memory_order_relaxed)) {
     }
 }
 
@@ -43,8 +44,9 @@ void PerfmonDecorator::logSummary() const {
             continue;
         }
         any = true;
-        _logger.info("perfmon %s: %llu calls, %llu failed, mean %.3f ms, max %.3f ms", operationName(operation),
-                     static_cast<unsigned long long>(f.calls), static_cast<unsigned long long>(f.failures),
+        _logger.info("perfmon %s: %llu calls, %llu failed, mean %.3f ms, max %.3f ms",
+                     operationName(operation), static_cast<unsigned long long>(f.calls),
+                     static_cast<unsigned long long>(f.failures),
                      static_cast<double>(f.totalNanoseconds) / static_cast<double>(f.calls) / 1e6,
                      static_cast<double>(f.maxNanoseconds) / 1e6);
     }

@@ -59,7 +59,8 @@ char const* ProviderDecorator::operationName(Operation operation) {
     return "unknown";
 }
 
-ProviderDecorator::ProviderDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger, ProviderFactory factory)
+ProviderDecorator::ProviderDecorator(CmpiCpp::CmpiBroker const& broker, Logger& logger,
+                                     ProviderFactory factory)
     : _broker(broker), _logger(logger) {
     if (!factory) {
         throw CmpiStatus(CMPI_RC_ERR_FAILED, "decorator built without an inner factory");
@@ -127,7 +128,8 @@ CmpiCpp::CmpiBroker ProviderDecorator::getBroker() {
 }
 
 void ProviderDecorator::cleanup(CmpiContext const& context, bool terminating) {
-    _forward({Operation::Cleanup, &context, nullptr, nullptr}, [&] { _wrapped->cleanup(context, terminating); });
+    _forward({Operation::Cleanup, &context, nullptr, nullptr},
+             [&] { _wrapped->cleanup(context, terminating); });
 }
 
 int ProviderDecorator::getProviderKind() {
@@ -140,14 +142,14 @@ void ProviderDecorator::enumInstanceNames(CmpiContext const& context, CmpiObject
              [&] { _instanceProvider().enumInstanceNames(context, path, result); });
 }
 
-void ProviderDecorator::enumInstances(CmpiContext const& context, CmpiObjectPath const& path, char const** properties,
-                                      CmpiInstanceResult& result) {
+void ProviderDecorator::enumInstances(CmpiContext const& context, CmpiObjectPath const& path,
+                                      char const** properties, CmpiInstanceResult& result) {
     _forward({Operation::EnumInstances, &context, &path, nullptr},
              [&] { _instanceProvider().enumInstances(context, path, properties, result); });
 }
 
-void ProviderDecorator::getInstance(CmpiContext const& context, CmpiObjectPath const& path, char const** properties,
-                                    CmpiInstanceResult& result) {
+void ProviderDecorator::getInstance(CmpiContext const& context, CmpiObjectPath const& path,
+                                    char const** properties, CmpiInstanceResult& result) {
     _forward({Operation::GetInstance, &context, &path, nullptr},
              [&] { _instanceProvider().getInstance(context, path, properties, result); });
 }
@@ -169,67 +171,78 @@ void ProviderDecorator::deleteInstance(CmpiContext const& context, CmpiObjectPat
              [&] { _instanceProvider().deleteInstance(context, path); });
 }
 
-void ProviderDecorator::execQuery(CmpiContext const& context, CmpiObjectPath const& path, std::string const& query,
-                                  std::string const& language, CmpiInstanceResult& result) {
+void ProviderDecorator::execQuery(CmpiContext const& context, CmpiObjectPath const& path,
+                                  std::string const& query, std::string const& language,
+                                  CmpiInstanceResult& result) {
     CmpiName queryName(query);
     _forward({Operation::ExecQuery, &context, &path, &queryName},
              [&] { _instanceProvider().execQuery(context, path, query, language, result); });
 }
 
 void ProviderDecorator::associators(CmpiContext const& context, CmpiObjectPath const& path,
-                                    CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
-                                    CmpiName const& resultRole, char const** properties, CmpiInstanceResult& result) {
+                                    CmpiName const& assocClass, CmpiName const& resultClass,
+                                    CmpiName const& role, CmpiName const& resultRole,
+                                    char const** properties, CmpiInstanceResult& result) {
     _forward({Operation::Associators, &context, &path, &assocClass}, [&] {
-        _associationProvider().associators(context, path, assocClass, resultClass, role, resultRole, properties,
-                                           result);
+        _associationProvider().associators(context, path, assocClass, resultClass, role, resultRole,
+                                           properties, result);
     });
 }
 
 void ProviderDecorator::associatorNames(CmpiContext const& context, CmpiObjectPath const& path,
-                                        CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
-                                        CmpiName const& resultRole, CmpiObjectPathResult& result) {
+                                        CmpiName const& assocClass, CmpiName const& resultClass,
+                                        CmpiName const& role, CmpiName const& resultRole,
+                                        CmpiObjectPathResult& result) {
     _forward({Operation::AssociatorNames, &context, &path, &assocClass}, [&] {
-        _associationProvider().associatorNames(context, path, assocClass, resultClass, role, resultRole, result);
+        _associationProvider().associatorNames(context, path, assocClass, resultClass, role,
+                                               resultRole, result);
     });
 }
 
 void ProviderDecorator::references(CmpiContext const& context, CmpiObjectPath const& path,
-                                   CmpiName const& resultClass, CmpiName const& role, char const** properties,
-                                   CmpiInstanceResult& result) {
-    _forward({Operation::References, &context, &path, &resultClass},
-             [&] { _associationProvider().references(context, path, resultClass, role, properties, result); });
+                                   CmpiName const& resultClass, CmpiName const& role,
+                                   char const** properties, CmpiInstanceResult& result) {
+    _forward({Operation::References, &context, &path, &resultClass}, [&] {
+        _associationProvider().references(context, path, resultClass, role, properties, result);
+    });
 }
 
 void ProviderDecorator::referenceNames(CmpiContext const& context, CmpiObjectPath const& path,
                                        CmpiName const& resultClass, CmpiName const& role,
                                        CmpiObjectPathResult& result) {
-    _forward({Operation::ReferenceNames, &context, &path, &resultClass},
-             [&] { _associationProvider().referenceNames(context, path, resultClass, role, result); });
+    _forward({Operation::ReferenceNames, &context, &path, &resultClass}, [&] {
+        _associationProvider().referenceNames(context, path, resultClass, role, result);
+    });
 }
 
 void ProviderDecorator::authorizeFilter(CmpiContext const& context, CmpiSelectExp const& filter,
                                         CmpiName const& className, CmpiObjectPath const& path,
                                         std::string const& owner) {
-    _forward({Operation::AuthorizeFilter, &context, &path, &className},
-             [&] { _indicationProvider().authorizeFilter(context, filter, className, path, owner); });
+    _forward({Operation::AuthorizeFilter, &context, &path, &className}, [&] {
+        _indicationProvider().authorizeFilter(context, filter, className, path, owner);
+    });
 }
 
-void ProviderDecorator::mustPoll(CmpiContext const& context, CmpiSelectExp const& filter, CmpiName const& className,
-                                 CmpiObjectPath const& path) {
+void ProviderDecorator::mustPoll(CmpiContext const& context, CmpiSelectExp const& filter,
+                                 CmpiName const& className, CmpiObjectPath const& path) {
     _forward({Operation::MustPoll, &context, &path, &className},
              [&] { _indicationProvider().mustPoll(context, filter, className, path); });
 }
 
 void ProviderDecorator::activateFilter(CmpiContext const& context, CmpiSelectExp const& filter,
-                                       CmpiName const& className, CmpiObjectPath const& path, bool firstActivation) {
-    _forward({Operation::ActivateFilter, &context, &path, &className},
-             [&] { _indicationProvider().activateFilter(context, filter, className, path, firstActivation); });
+                                       CmpiName const& className, CmpiObjectPath const& path,
+                                       bool firstActivation) {
+    _forward({Operation::ActivateFilter, &context, &path, &className}, [&] {
+        _indicationProvider().activateFilter(context, filter, className, path, firstActivation);
+    });
 }
 
 void ProviderDecorator::deActivateFilter(CmpiContext const& context, CmpiSelectExp const& filter,
-                                         CmpiName const& className, CmpiObjectPath const& path, bool lastActivation) {
-    _forward({Operation::DeActivateFilter, &context, &path, &className},
-             [&] { _indicationProvider().deActivateFilter(context, filter, className, path, lastActivation); });
+                                         CmpiName const& className, CmpiObjectPath const& path,
+                                         bool lastActivation) {
+    _forward({Operation::DeActivateFilter, &context, &path, &className}, [&] {
+        _indicationProvider().deActivateFilter(context, filter, className, path, lastActivation);
+    });
 }
 
 void ProviderDecorator::enableIndications() {
@@ -242,8 +255,9 @@ void ProviderDecorator::disableIndications() {
              [&] { _indicationProvider().disableIndications(); });
 }
 
-void ProviderDecorator::invokeMethod(CmpiContext const& context, CmpiObjectPath const& path, CmpiName const& method,
-                                     CmpiArgs const& in, CmpiMethodResult& result) {
+void ProviderDecorator::invokeMethod(CmpiContext const& context, CmpiObjectPath const& path,
+                                     CmpiName const& method, CmpiArgs const& in,
+                                     CmpiMethodResult& result) {
     _forward({Operation::InvokeMethod, &context, &path, &method},
              [&] { _methodProvider().invokeMethod(context, path, method, in, result); });
 }

@@ -61,25 +61,27 @@ public:
     void getInstance(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                      char const** properties, CmpiCpp::CmpiInstanceResult& result) override;
     void createInstance(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
-                        CmpiCpp::CmpiInstance const& instance, CmpiCpp::CmpiObjectPathResult& result) override;
+                        CmpiCpp::CmpiInstance const& instance,
+                        CmpiCpp::CmpiObjectPathResult& result) override;
     void modifyInstance(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                         CmpiCpp::CmpiInstance const& instance, char const** properties) override;
-    void deleteInstance(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path) override;
+    void deleteInstance(CmpiCpp::CmpiContext const& context,
+                        CmpiCpp::CmpiObjectPath const& path) override;
     void execQuery(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                    std::string const& query, std::string const& language,
                    CmpiCpp::CmpiInstanceResult& result) override;
 
     void associators(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                      CmpiCpp::CmpiName const& assocClass, CmpiCpp::CmpiName const& resultClass,
-                     CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole, char const** properties,
-                     CmpiCpp::CmpiInstanceResult& result) override;
+                     CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole,
+                     char const** properties, CmpiCpp::CmpiInstanceResult& result) override;
     void associatorNames(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                          CmpiCpp::CmpiName const& assocClass, CmpiCpp::CmpiName const& resultClass,
                          CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole,
                          CmpiCpp::CmpiObjectPathResult& result) override;
     void references(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
-                    CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role, char const** properties,
-                    CmpiCpp::CmpiInstanceResult& result) override;
+                    CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                    char const** properties, CmpiCpp::CmpiInstanceResult& result) override;
     void referenceNames(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                         CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
                         CmpiCpp::CmpiObjectPathResult& result) override;

@@ -75,7 +75,8 @@ std::string QLNPhysloc::physlocToHWLocation(physloc_t const& location) {
         return b(location, 1) == 0 ? std::string("System Board")
                                    : "System Board Device " + std::to_string(b(location, 1));
     case static_cast<int>(Kind::EnclosureBay):
-        return "Enclosure " + std::to_string(b(location, 1)) + " Bay " + std::to_string(b(location, 2));
+        return "Enclosure " + std::to_string(b(location, 1)) + " Bay " +
+               std::to_string(b(location, 2));
     case static_cast<int>(Kind::Mezzanine):
         return "Mezzanine Slot " + std::to_string(b(location, 1));
     case static_cast<int>(Kind::InternalSlot):
@@ -92,7 +93,8 @@ std::string QLNPhysloc::physlocToHWLocation(physloc_t const& location) {
     }
 }
 
-std::string QLNPhysloc::physlocToUniqueID(std::string const& prefix, physloc_t const& location, int const& index) {
+std::string QLNPhysloc::physlocToUniqueID(std::string const& prefix, physloc_t const& location,
+                                          int const& index) {
     std::string kind;
     std::string code;
     switch (kindOf(location)) {
@@ -118,8 +120,9 @@ std::string QLNPhysloc::physlocToUniqueID(std::string const& prefix, physloc_t c
         break;
     case static_cast<int>(Kind::PciSlot):
         kind = "PCI";
-        code = b(location, 2) == 0 ? std::to_string(b(location, 1))
-                                   : "R" + std::to_string(b(location, 2)) + "S" + std::to_string(b(location, 1));
+        code = b(location, 2) == 0
+                   ? std::to_string(b(location, 1))
+                   : "R" + std::to_string(b(location, 2)) + "S" + std::to_string(b(location, 1));
         break;
     default: {
         // An unassigned kind: all eight bytes, so that distinct records stay distinct.
@@ -135,7 +138,8 @@ std::string QLNPhysloc::physlocToUniqueID(std::string const& prefix, physloc_t c
     return prefix + ":" + std::to_string(index) + ":" + kind + ":" + code;
 }
 
-void QLNPhysloc::createLocationInfoVectors(std::string const& location, std::vector<std::string>& names,
+void QLNPhysloc::createLocationInfoVectors(std::string const& location,
+                                           std::vector<std::string>& names,
                                            std::vector<unsigned short>& numbers) {
     names.clear();
     numbers.clear();
@@ -152,7 +156,8 @@ void QLNPhysloc::createLocationInfoVectors(std::string const& location, std::vec
         name.clear();
     };
     while (words >> word) {
-        bool numeric = word.find_first_not_of("0123456789") == std::string::npos && word.size() <= 5;
+        bool numeric =
+            word.find_first_not_of("0123456789") == std::string::npos && word.size() <= 5;
         if (numeric && !name.empty()) {
             unsigned long value = std::stoul(word);
             closePart(static_cast<unsigned short>(value > 65535 ? 65535 : value));
@@ -178,7 +183,8 @@ void QLNPhysloc::createLocationInfoVectors(std::string const& location, std::vec
     }
 }
 
-void QLNPhysloc::createLocationInfoVectors(physloc_t const& location, std::vector<std::string>& names,
+void QLNPhysloc::createLocationInfoVectors(physloc_t const& location,
+                                           std::vector<std::string>& names,
                                            std::vector<unsigned short>& numbers) {
     createLocationInfoVectors(physlocToHWLocation(location), names, numbers);
 }

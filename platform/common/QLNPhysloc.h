@@ -35,7 +35,14 @@ namespace QLN {
 
 class QLNPhysloc {
 public:
-    enum class Kind { None = 0, SystemBoard = 1, EnclosureBay = 2, Mezzanine = 3, InternalSlot = 4, PciSlot = 5 };
+    enum class Kind {
+        None = 0,
+        SystemBoard = 1,
+        EnclosureBay = 2,
+        Mezzanine = 3,
+        InternalSlot = 4,
+        PciSlot = 5
+    };
 
     // The rendering is table driven and needs no open resources; init and
     // close count their callers so that an unbalanced close is visible.
@@ -47,14 +54,17 @@ public:
     static physloc_t make(Kind kind, uint8_t b1 = 0, uint8_t b2 = 0, uint8_t b3 = 0);
 
     static std::string physlocToHWLocation(physloc_t const& location);
-    static std::string physlocToUniqueID(std::string const& prefix, physloc_t const& location, int const& index);
+    static std::string physlocToUniqueID(std::string const& prefix, physloc_t const& location,
+                                         int const& index);
 
     // Fills two parallel vectors with the location's parts, outermost first:
     // "PCI Slot 2 on Riser 1" gives ("Riser", 1), ("PCI Slot", 2); a part
     // without a number ("System Board") gets 0. Both vectors are cleared first.
-    static void createLocationInfoVectors(std::string const& location, std::vector<std::string>& names,
+    static void createLocationInfoVectors(std::string const& location,
+                                          std::vector<std::string>& names,
                                           std::vector<unsigned short>& numbers);
-    static void createLocationInfoVectors(physloc_t const& location, std::vector<std::string>& names,
+    static void createLocationInfoVectors(physloc_t const& location,
+                                          std::vector<std::string>& names,
                                           std::vector<unsigned short>& numbers);
 };
 

@@ -54,7 +54,8 @@ std::optional<std::vector<unsigned short>> versionParts(std::string const& versi
             continue;
         }
         // A build suffix ends the numbers; it must not be empty.
-        if ((separator == '-' || separator == '_' || separator == '+' || separator == ' ') && at + 1 < text.size()) {
+        if ((separator == '-' || separator == '_' || separator == '+' || separator == ' ') &&
+            at + 1 < text.size()) {
             break;
         }
         return std::nullopt;
@@ -85,7 +86,8 @@ _CMPIBroker const* QLNUtil::getBroker() {
 }
 
 std::string QLNUtil::getHostName() {
-    if (auto configured = FrameworkConfig::get("VELDRA_HOSTNAME"); configured && !configured->empty()) {
+    if (auto configured = FrameworkConfig::get("VELDRA_HOSTNAME");
+        configured && !configured->empty()) {
         return *configured;
     }
     char name[HOST_NAME_MAX + 1] = {};
@@ -104,7 +106,8 @@ bool QLNUtil::HeartBeatIndicationsEnabled() {
 }
 
 CmpiObjectPath QLNUtil::getComputerSystemPath() {
-    CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(getBroker(), hostNameSpace, "QLN_ComputerSystem");
+    CmpiObjectPath path =
+        CmpiCpp::makeCmpiObjectPath(getBroker(), hostNameSpace, "QLN_ComputerSystem");
     std::string host = getHostName();
     path.setHost(host);
     path.addKey("CreationClassName", "QLN_ComputerSystem");
@@ -121,10 +124,12 @@ CmpiObjectPath QLNUtil::getChassisPath() {
     return path;
 }
 
-void QLNUtil::postStatus(Logger& logger, CmpiCpp::CmpiContext const&, CmpiCpp::CmpiInstance const& status) {
+void QLNUtil::postStatus(Logger& logger, CmpiCpp::CmpiContext const&,
+                         CmpiCpp::CmpiInstance const& status) {
     std::string text;
     for (unsigned int i = 0; i < status.getPropertyCount(); ++i) {
-        text += (i ? ", " : "") + status.getPropertyNameAt(i).str() + "=" + status.getPropertyAt(i).str();
+        text += (i ? ", " : "") + status.getPropertyNameAt(i).str() + "=" +
+                status.getPropertyAt(i).str();
     }
     logger.info("postStatus %s: %s", status.getClassName().c_str(), text.c_str());
 }

@@ -37,7 +37,8 @@ public:
 
     // Hands a status instance to the framework. There is no other consumer
     // yet, so posting means one info line with the class and its properties.
-    static void postStatus(Logger& logger, CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiInstance const& status);
+    static void postStatus(Logger& logger, CmpiCpp::CmpiContext const& context,
+                           CmpiCpp::CmpiInstance const& status);
 
     // Dotted versions: "5.2.0-1234", "2.10.03", "7.1". Two or three numeric
     // parts, each up to 65535, separated by dots; the last part may carry a

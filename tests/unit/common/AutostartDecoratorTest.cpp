@@ -22,7 +22,8 @@ namespace {
 
 int threadCount() {
     int count = 0;
-    for ([[maybe_unused]] auto const& each : std::filesystem::directory_iterator("/proc/self/task")) {
+    for ([[maybe_unused]] auto const& each :
+         std::filesystem::directory_iterator("/proc/self/task")) {
         ++count;
     }
     return count;
@@ -58,7 +59,8 @@ protected:
         env.set("VELDRA_LOG_LEVEL", "info");
     }
 
-    std::unique_ptr<AutostartDecorator> make(std::string const& intervalMs, std::string const& staggerMs) {
+    std::unique_ptr<AutostartDecorator> make(std::string const& intervalMs,
+                                             std::string const& staggerMs) {
         env.set("VELDRA_WORKER_INTERVAL_MS", intervalMs);
         env.set("VELDRA_WORKER_STAGGER_MS", staggerMs);
         return std::make_unique<AutostartDecorator>(CmpiCpp::CmpiBroker(broker.get()), logger,
@@ -112,10 +114,14 @@ TEST_F(Autostart, FailedPassesAreLoggedAndScheduleGoesOn) {
     ASSERT_TRUE(waitFor([] { return TestProvider::state().calls() >= 5; }));
     decorator.reset();
     std::string log = readFile(dir.file("log"));
-    EXPECT_NE(log.find("ERROR QLNVeldra:AutostartDecorator: PerformWork failed: CMPI_RC_ERR_FAILED"), std::string::npos)
+    EXPECT_NE(
+        log.find("ERROR QLNVeldra:AutostartDecorator: PerformWork failed: CMPI_RC_ERR_FAILED"),
+        std::string::npos)
         << log;
     EXPECT_NE(log.find("PerformWork failed: out of luck"), std::string::npos) << log;
-    EXPECT_NE(log.find("WARN QLNVeldra:AutostartDecorator: PerformWork returned 5"), std::string::npos) << log;
+    EXPECT_NE(log.find("WARN QLNVeldra:AutostartDecorator: PerformWork returned 5"),
+              std::string::npos)
+        << log;
 }
 
 // Fault: a stop waits out the sleep (an hour here) or never joins; cleanup
@@ -124,7 +130,8 @@ TEST_F(Autostart, CleanupAndDestructionStopPromptly) {
     int before = threadCount();
     auto decorator = make("3600000", "0");
     ASSERT_TRUE(waitFor([] { return TestProvider::state().calls() >= 1; }));
-    auto stopped = std::async(std::launch::async, [&] { decorator->cleanup(CmpiCpp::CmpiContext(), false); });
+    auto stopped =
+        std::async(std::launch::async, [&] { decorator->cleanup(CmpiCpp::CmpiContext(), false); });
     ASSERT_EQ(stopped.wait_for(10s), std::future_status::ready) << "cleanup slept through the stop";
     EXPECT_EQ(TestProvider::state().cleanups, 1);
     EXPECT_EQ(broker.detached, 1);
@@ -134,7 +141,8 @@ TEST_F(Autostart, CleanupAndDestructionStopPromptly) {
     // A decorator still in its stagger stops as promptly.
     auto waiting = make("3600000", "3600000");
     auto destroyed = std::async(std::launch::async, [&] { waiting.reset(); });
-    ASSERT_EQ(destroyed.wait_for(10s), std::future_status::ready) << "destructor slept through the stop";
+    ASSERT_EQ(destroyed.wait_for(10s), std::future_status::ready)
+        << "destructor slept through the stop";
     EXPECT_EQ(broker.attached, 1); // the second one never attached
     decorator.reset();
     EXPECT_TRUE(waitFor([&] { return threadCount() == before; }));
@@ -149,7 +157,8 @@ TEST_F(Autostart, ServesItsOwnClassAndForwardsOthers) {
     CmpiCpp::CmpiContext context(&requestContext);
 
     InstanceSink own;
-    decorator->enumInstances(context, CmpiCpp::CmpiObjectPath("root/mwq", "qln_autostartveldra"), nullptr, own);
+    decorator->enumInstances(context, CmpiCpp::CmpiObjectPath("root/mwq", "qln_autostartveldra"),
+                             nullptr, own);
     ASSERT_EQ(own.instances.size(), 1u);
     EXPECT_EQ(own.instances[0].getProperty("WorkerPollInterval").getUint16(), 30);
     EXPECT_EQ(broker.prepared, 1);
@@ -164,7 +173,8 @@ TEST_F(Autostart, ServesItsOwnClassAndForwardsOthers) {
     EXPECT_THROW(decorator->getInstance(context, wrongKey, nullptr, single), CmpiCpp::CmpiStatus);
 
     PathSink names;
-    decorator->enumInstanceNames(context, CmpiCpp::CmpiObjectPath("root/mwq", "QLN_VDDiskDrive"), names);
+    decorator->enumInstanceNames(context, CmpiCpp::CmpiObjectPath("root/mwq", "QLN_VDDiskDrive"),
+                                 names);
     EXPECT_EQ(TestProvider::state().enumerations, 1);
     EXPECT_EQ(broker.prepared, 1); // once only
 }
@@ -176,7 +186,8 @@ TEST_F(Autostart, ScheduleFromInstanceAndBadRecords) {
     env.unset("VELDRA_WORKER_INTERVAL_MS");
     env.unset("VELDRA_WORKER_STAGGER_MS");
     {
-        AutostartDecorator decorator(broker.get(), logger, new TestAutostartInstance(&instancesDestroyed),
+        AutostartDecorator decorator(broker.get(), logger,
+                                     new TestAutostartInstance(&instancesDestroyed),
                                      &TestProvider::factory);
         EXPECT_EQ(decorator.interval(), 30s);
         EXPECT_EQ(decorator.stagger(), 18s);
@@ -184,7 +195,8 @@ TEST_F(Autostart, ScheduleFromInstanceAndBadRecords) {
     }
     EXPECT_EQ(instancesDestroyed, 1);
 
-    EXPECT_THROW(AutostartDecorator(broker.get(), logger, new TestAutostartInstance(&instancesDestroyed, false),
+    EXPECT_THROW(AutostartDecorator(broker.get(), logger,
+                                    new TestAutostartInstance(&instancesDestroyed, false),
                                     &TestProvider::factory),
                  CmpiCpp::CmpiStatus);
     EXPECT_EQ(instancesDestroyed, 2);

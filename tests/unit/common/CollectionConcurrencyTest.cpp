@@ -24,7 +24,8 @@ TEST(CollectionConcurrency, ReadersBesideWriter) {
     for (int i = 0; i < 20; ++i) {
         auto* disk = new TestInstance("QLN_Disk", "fixed" + std::to_string(i));
         collection.createInstance(disk);
-        collection.createInstance(new TestAssociation("QLN_SystemDisk", "GroupComponent", system, "PartComponent", disk));
+        collection.createInstance(
+            new TestAssociation("QLN_SystemDisk", "GroupComponent", system, "PartComponent", disk));
     }
 
     std::atomic<bool> done{false};
@@ -40,7 +41,8 @@ TEST(CollectionConcurrency, ReadersBesideWriter) {
             }
             InstanceSink rows;
             collection.associators(rows, context, system->getPath(), {}, {}, {}, {}, nullptr);
-            if (collection.getManagedInstance(TestInstance::pathOf("QLN_Disk", "fixed7")) == nullptr) {
+            if (collection.getManagedInstance(TestInstance::pathOf("QLN_Disk", "fixed7")) ==
+                nullptr) {
                 lostFixed = true;
             }
             unsigned int size = collection.size();
@@ -65,7 +67,8 @@ TEST(CollectionConcurrency, ReadersBesideWriter) {
         for (int i = 0; i < 5; ++i) {
             auto* disk = new TestInstance("QLN_Disk", "moving" + std::to_string(i));
             collection.createInstance(disk);
-            auto* link = new TestAssociation("QLN_SystemDisk", "GroupComponent", system, "PartComponent", disk);
+            auto* link = new TestAssociation("QLN_SystemDisk", "GroupComponent", system,
+                                             "PartComponent", disk);
             collection.createInstance(link);
             made.push_back(link->getPath());
             made.push_back(disk->getPath());

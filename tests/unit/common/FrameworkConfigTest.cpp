@@ -28,8 +28,9 @@ TEST(FrameworkConfig, FileValuesAndEnvironmentOverride) {
     env.unset("VELDRA_PERFMON");
     env.unset("VELDRA_WORKER_INTERVAL_MS");
     env.unset("VELDRA_LOG_LEVEL");
-    env.set("VELDRA_CONFIG", dir.write("f.conf", "VELDRA_PERFMON: on\nVELDRA_WORKER_INTERVAL_MS: 250\n"
-                                                 "VELDRA_LOG_LEVEL: warn\nVELDRA_SCENARIO:\n"));
+    env.set("VELDRA_CONFIG",
+            dir.write("f.conf", "VELDRA_PERFMON: on\nVELDRA_WORKER_INTERVAL_MS: 250\n"
+                                "VELDRA_LOG_LEVEL: warn\nVELDRA_SCENARIO:\n"));
     EXPECT_TRUE(FrameworkConfig::getBool("VELDRA_PERFMON", false));
     EXPECT_EQ(FrameworkConfig::getInt("VELDRA_WORKER_INTERVAL_MS", 0), 250);
     EXPECT_EQ(FrameworkConfig::getString("VELDRA_SCENARIO", "x"), "");

@@ -42,7 +42,8 @@ TEST(Logger, FileDestinationLevelAndSourceChain) {
     auto lines = linesOf(file);
     ASSERT_EQ(lines.size(), 3u);
     EXPECT_EQ(lines[0], "earlier line");
-    std::regex shape(R"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z WARN QLNVeldra:QLN_VDArraySystem: status Degraded \(3\)$)");
+    std::regex shape(
+        R"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d{3}Z WARN QLNVeldra:QLN_VDArraySystem: status Degraded \(3\)$)");
     EXPECT_TRUE(std::regex_match(lines[1], shape)) << lines[1];
     EXPECT_NE(lines[2].find(" ERROR QLNVeldra: plain"), std::string::npos) << lines[2];
     EXPECT_EQ(root.getLogSource(), "QLNVeldra");

@@ -18,11 +18,13 @@ TEST(QLNUtil, VersionParsing) {
         int major, minor, revision; // -1: that part is missing
     };
     Case const cases[] = {
-        {"5.2.0-1234", true, 5, 2, 0},  {"2.10.03", true, 2, 10, 3}, {" 7.1 ", true, 7, 1, -1},
-        {"1.2.3 build 7", true, 1, 2, 3}, {"65535.0.1", true, 65535, 0, 1},
-        {"", false, -1, -1, -1},        {"5", false, -1, -1, -1},    {"5..2", false, -1, -1, -1},
-        {"v5.2", false, -1, -1, -1},     {"5.2.", false, -1, -1, -1}, {"5.2.0.1", false, -1, -1, -1},
-        {"65536.1", false, -1, -1, -1},  {"5.2-", false, -1, -1, -1}, {"5.x", false, -1, -1, -1},
+        {"5.2.0-1234", true, 5, 2, 0},    {"2.10.03", true, 2, 10, 3},
+        {" 7.1 ", true, 7, 1, -1},        {"1.2.3 build 7", true, 1, 2, 3},
+        {"65535.0.1", true, 65535, 0, 1}, {"", false, -1, -1, -1},
+        {"5", false, -1, -1, -1},         {"5..2", false, -1, -1, -1},
+        {"v5.2", false, -1, -1, -1},      {"5.2.", false, -1, -1, -1},
+        {"5.2.0.1", false, -1, -1, -1},   {"65536.1", false, -1, -1, -1},
+        {"5.2-", false, -1, -1, -1},      {"5.x", false, -1, -1, -1},
     };
     for (auto const& c : cases) {
         SCOPED_TRACE(c.text);
@@ -91,25 +93,4 @@ TEST(QLNUtil, HostPathsAndSwitches) {
     env.unset("VELDRA_PERFMON");
     env.set("VELDRA_CONFIG", dir.write("bad.conf", "VELDRA_PERFMON: [\n"));
     EXPECT_THROW(QLNUtil::PerfmonEnabled(), std::runtime_error);
-}
-
-// Fault: a posted status leaves no trace.
-TEST(QLNUtil, PostStatusLogsTheInstance) {
-    TempDir dir;
-    ScopedEnv env;
-    env.set("VELDRA_LOG", dir.file("log"));
-    env.set("VELDRA_LOG_LEVEL", "info");
-    CmpiCpp::CmpiObjectPath path("root/mwq", "QLN_VDStorageSpecificCollection");
-    path.addKey("InstanceID", "group");
-    CmpiCpp::CmpiInstance status(path);
-    status.addProperty("GroupOperationalStatus", static_cast<unsigned short>(3));
-    Logger logger("QLNVeldra");
-    QLNUtil::postStatus(logger, CmpiCpp::CmpiContext(), status);
-    std::ifstream in(dir.file("log"));
-    std::stringstream text;
-    text << in.rdbuf();
-    EXPECT_NE(text.str().find("QLNVeldra: postStatus QLN_VDStorageSpecificCollection: InstanceID=group, "
-                              "GroupOperationalStatus=3"),
-              std::string::npos)
-        << text.str();
 }

@@ -8,7 +8,9 @@
 
 class InstanceSink : public CmpiCpp::CmpiInstanceResult {
 public:
-    void returnInstance(CmpiCpp::CmpiInstance const& instance) override { instances.push_back(instance); }
+    void returnInstance(CmpiCpp::CmpiInstance const& instance) override {
+        instances.push_back(instance);
+    }
     std::vector<std::string> names() const {
         std::vector<std::string> out;
         for (auto const& each : instances) {
@@ -26,7 +28,8 @@ public:
     std::vector<std::string> names() const {
         std::vector<std::string> out;
         for (auto const& each : paths) {
-            out.push_back(each.hasKey("Name") ? each.getKey("Name").getString() : each.getClassName().str());
+            out.push_back(each.hasKey("Name") ? each.getKey("Name").getString()
+                                              : each.getClassName().str());
         }
         return out;
     }

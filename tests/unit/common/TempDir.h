@@ -8,7 +8,8 @@
 class TempDir {
 public:
     TempDir() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "veldra-common-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "veldra-common-XXXXXX").string();
         char* made = mkdtemp(pattern.data());
         _path = made ? made : pattern;
     }

@@ -8,13 +8,13 @@ class TestAssociation : public QLN::CmpiManagedInstanceAssociation {
 public:
     TestAssociation(std::string className, std::string firstRole, QLN::CmpiManagedInstance* first,
                     std::string secondRole, QLN::CmpiManagedInstance* second)
-        : _className(std::move(className)), _firstRole(std::move(firstRole)), _secondRole(std::move(secondRole)),
-          _first(first), _second(second) {}
+        : _className(std::move(className)), _firstRole(std::move(firstRole)),
+          _secondRole(std::move(secondRole)), _first(first), _second(second) {}
     // An end served elsewhere, known by its path only.
     TestAssociation(std::string className, std::string firstRole, CmpiCpp::CmpiObjectPath firstPath,
                     std::string secondRole, QLN::CmpiManagedInstance* second)
-        : _className(std::move(className)), _firstRole(std::move(firstRole)), _secondRole(std::move(secondRole)),
-          _firstPath(std::move(firstPath)), _second(second) {}
+        : _className(std::move(className)), _firstRole(std::move(firstRole)),
+          _secondRole(std::move(secondRole)), _firstPath(std::move(firstPath)), _second(second) {}
 
     CmpiCpp::CmpiObjectPath getPath() const override {
         CmpiCpp::CmpiObjectPath path("root/mwq", _className);

@@ -38,7 +38,9 @@ public:
     std::atomic<CMPIContext const*> attachedWith{nullptr};
 
 private:
-    static TestBroker* _self(CMPIBroker const* broker) { return static_cast<TestBroker*>(broker->hdl); }
+    static TestBroker* _self(CMPIBroker const* broker) {
+        return static_cast<TestBroker*>(broker->hdl);
+    }
     static CMPIContext* _prepare(CMPIBroker const* broker, CMPIContext const* context) {
         TestBroker* self = _self(broker);
         self->preparedWith = context;

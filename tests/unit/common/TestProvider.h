@@ -56,7 +56,9 @@ public:
         static State shared;
         return shared;
     }
-    static CmpiCpp::CmpiProvider* factory(CmpiCpp::CmpiBroker const&, Logger&) { return new TestProvider(); }
+    static CmpiCpp::CmpiProvider* factory(CmpiCpp::CmpiBroker const&, Logger&) {
+        return new TestProvider();
+    }
 
     TestProvider() { ++state().built; }
     ~TestProvider() override { ++state().destroyed; }
@@ -65,37 +67,35 @@ public:
     void cleanup(CmpiCpp::CmpiContext const&, bool) override { ++state().cleanups; }
     int getProviderKind() override { return 2; }
 
-    void enumInstanceNames(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const& path,
-                           CmpiCpp::CmpiObjectPathResult& result) override {
+    // Names stand for one entry per enumeration; everything else is inert.
+    using Ctx = CmpiCpp::CmpiContext;
+    using Path = CmpiCpp::CmpiObjectPath;
+    using Name = CmpiCpp::CmpiName;
+    using Exp = CmpiCpp::CmpiSelectExp;
+    using Rows = CmpiCpp::CmpiInstanceResult;
+    using Paths = CmpiCpp::CmpiObjectPathResult;
+    void enumInstanceNames(Ctx const&, Path const& path, Paths& result) override {
         ++state().enumerations;
         result.returnObjectPath(path);
     }
-    void enumInstances(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, char const**,
-                       CmpiCpp::CmpiInstanceResult&) override {
+    void enumInstances(Ctx const&, Path const&, char const**, Rows&) override {
         ++state().enumerations;
     }
-    void getInstance(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, char const**,
-                     CmpiCpp::CmpiInstanceResult&) override {
+    void getInstance(Ctx const&, Path const&, char const**, Rows&) override {
         throw CmpiCpp::CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
     }
-    void associators(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, CmpiCpp::CmpiName const&,
-                     CmpiCpp::CmpiName const&, CmpiCpp::CmpiName const&, CmpiCpp::CmpiName const&, char const**,
-                     CmpiCpp::CmpiInstanceResult&) override {}
-    void associatorNames(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, CmpiCpp::CmpiName const&,
-                         CmpiCpp::CmpiName const&, CmpiCpp::CmpiName const&, CmpiCpp::CmpiName const&,
-                         CmpiCpp::CmpiObjectPathResult&) override {}
-    void references(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, CmpiCpp::CmpiName const&,
-                    CmpiCpp::CmpiName const&, char const**, CmpiCpp::CmpiInstanceResult&) override {}
-    void referenceNames(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const&, CmpiCpp::CmpiName const&,
-                        CmpiCpp::CmpiName const&, CmpiCpp::CmpiObjectPathResult&) override {}
-    void authorizeFilter(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiSelectExp const&, CmpiCpp::CmpiName const&,
-                         CmpiCpp::CmpiObjectPath const&, std::string const&) override {}
-    void mustPoll(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiSelectExp const&, CmpiCpp::CmpiName const&,
-                  CmpiCpp::CmpiObjectPath const&) override {}
-    void activateFilter(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiSelectExp const&, CmpiCpp::CmpiName const&,
-                        CmpiCpp::CmpiObjectPath const&, bool) override {}
-    void deActivateFilter(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiSelectExp const&, CmpiCpp::CmpiName const&,
-                          CmpiCpp::CmpiObjectPath const&, bool) override {}
+    void associators(Ctx const&, Path const&, Name const&, Name const&, Name const&, Name const&,
+                     char const**, Rows&) override {}
+    void associatorNames(Ctx const&, Path const&, Name const&, Name const&, Name const&,
+                         Name const&, Paths&) override {}
+    void references(Ctx const&, Path const&, Name const&, Name const&, char const**,
+                    Rows&) override {}
+    void referenceNames(Ctx const&, Path const&, Name const&, Name const&, Paths&) override {}
+    void authorizeFilter(Ctx const&, Exp const&, Name const&, Path const&,
+                         std::string const&) override {}
+    void mustPoll(Ctx const&, Exp const&, Name const&, Path const&) override {}
+    void activateFilter(Ctx const&, Exp const&, Name const&, Path const&, bool) override {}
+    void deActivateFilter(Ctx const&, Exp const&, Name const&, Path const&, bool) override {}
     void enableIndications() override {}
     void disableIndications() override {}
 
@@ -106,7 +106,8 @@ public:
         {
             State& s = state();
             std::lock_guard lock(s.mutex);
-            s.methods.push_back({method.str(), path.getNameSpace().str(), std::this_thread::get_id(), context.toCMPI()});
+            s.methods.push_back({method.str(), path.getNameSpace().str(),
+                                 std::this_thread::get_id(), context.toCMPI()});
             if (s.methods.size() <= s.script.size()) {
                 action = s.script[s.methods.size() - 1];
             }

@@ -23,8 +23,9 @@ public:
         return instance;
     }
     CmpiCpp::CmpiName getClassName() const override { return "QLN_TestPath"; }
-    std::vector<CmpiCpp::CmpiObjectPath> otherEnd(CmpiCpp::CmpiObjectPath const& end,
-                                                  CmpiCpp::CmpiName const& resultRole) const override {
+    std::vector<CmpiCpp::CmpiObjectPath>
+    otherEnd(CmpiCpp::CmpiObjectPath const& end,
+             CmpiCpp::CmpiName const& resultRole) const override {
         std::vector<CmpiCpp::CmpiObjectPath> others;
         bool known = false;
         for (auto const* each : _ends) {
