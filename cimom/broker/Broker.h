@@ -1,0 +1,63 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include "BrokerUpcalls.h"
+#include "IndicationSink.h"
+#include "ObjectRegistry.h"
+#include "cmpift.h"
+
+class BrokerContext;
+
+// The object manager's CMPIBroker: the four function tables (main,
+// encapsulated, extended, memory) over the registry of CMPI objects.
+// Up-calls go to a BrokerUpcalls (the provider manager), indications to an
+// IndicationSink, class hierarchy questions to a callback of the server.
+// Services we do not offer answer CMPI_RC_ERR_NOT_SUPPORTED.
+class Broker {
+public:
+    // True when className is ancestor or derives from it in nameSpace.
+    using ClassIsA = std::function<bool(const std::string& nameSpace, const std::string& className,
+                                        const std::string& ancestor)>;
+    // severity: CMPI_SEV_ERROR, CMPI_SEV_INFO, CMPI_SEV_WARNING, CMPI_DEV_DEBUG.
+    using LogFunction = std::function<void(int severity, const std::string& text)>;
+
+    static constexpr const char* name = "veldra-cimd";
+
+    Broker();
+    ~Broker();
+    Broker(const Broker&) = delete;
+    Broker& operator=(const Broker&) = delete;
+
+    const CMPIBroker* cmpi() const { return &_cmpi; }
+    ObjectRegistry& registry() { return _registry; }
+
+    void setUpcalls(BrokerUpcalls* upcalls);
+    void setIndicationSink(std::shared_ptr<IndicationSink> sink);
+    void setClassIsA(ClassIsA isA);
+    void setLog(LogFunction log);
+
+    // A context of the current arena carrying the invocation flags, the
+    // namespace (as CMPIInitNameSpace) and the principal.
+    BrokerContext* newContext(const std::string& nameSpace, CMPIFlags flags,
+                              const std::string& principal = std::string());
+
+    // Used by the table functions.
+    static Broker* from(const CMPIBroker* mb);
+    BrokerUpcalls& upcalls();
+    void deliver(const std::string& nameSpace, const CimInstance& indication);
+    bool isA(const std::string& nameSpace, const std::string& className, const std::string& ancestor);
+    void log(int severity, const std::string& text);
+
+private:
+    CMPIBroker _cmpi;
+    ObjectRegistry _registry;
+    mutable std::mutex _mutex;
+    BrokerUpcalls* _upcalls = nullptr;
+    std::shared_ptr<IndicationSink> _sink;
+    ClassIsA _isA;
+    LogFunction _log;
+};

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "CimValue.h"
+#include "EncapsulatedObject.h"
+#include "cmpift.h"
+
+// CMPIArgs: named method parameters in the order they were added; adding a
+// name again replaces its value.
+class BrokerArgs : public EncapsulatedObject {
+public:
+    using Arg = std::pair<std::string, CimValue>;
+
+    BrokerArgs(ObjectRegistry& registry, std::vector<Arg> args = {});
+
+    CMPIArgs* cmpi() { return &_cmpi; }
+    const std::vector<Arg>& args() const { return _args; }
+    void add(const std::string& name, CimValue value);
+    const char* cmpiTypeName() const override { return "CMPIArgs"; }
+
+    static BrokerArgs* from(const CMPIArgs* a);
+
+private:
+    CMPIArgs _cmpi;
+    std::vector<Arg> _args;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "EncapsulatedObject.h"
+#include "cmpift.h"
+
+// CMPIDateTime, held in its CIM text form (which may carry unspecified
+// fields that have no binary value).
+class BrokerDateTime : public EncapsulatedObject {
+public:
+    BrokerDateTime(ObjectRegistry& registry, std::string cimText);
+
+    CMPIDateTime* cmpi() { return &_cmpi; }
+    const std::string& text() const { return _text; }
+    const char* cmpiTypeName() const override { return "CMPIDateTime"; }
+    std::string describe() const override { return _text; }
+
+    static BrokerDateTime* from(const CMPIDateTime* d);
+
+private:
+    CMPIDateTime _cmpi;
+    std::string _text;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "CimValue.h"
+#include "EncapsulatedObject.h"
+#include "cmpift.h"
+
+// CMPIEnumeration over the results of an up-call: instances (CMPI_instance)
+// or paths (CMPI_ref), walked once with getNext.
+class BrokerEnumeration : public EncapsulatedObject {
+public:
+    BrokerEnumeration(ObjectRegistry& registry, std::vector<CimValue> items, std::size_t position = 0);
+
+    CMPIEnumeration* cmpi() { return &_cmpi; }
+    const std::vector<CimValue>& items() const { return _items; }
+    std::size_t& position() { return _position; }
+    const char* cmpiTypeName() const override { return "CMPIEnumeration"; }
+
+    static BrokerEnumeration* from(const CMPIEnumeration* e);
+
+private:
+    CMPIEnumeration _cmpi;
+    std::vector<CimValue> _items;
+    std::size_t _position;
+};

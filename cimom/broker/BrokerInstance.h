@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "CimInstance.h"
+#include "EncapsulatedObject.h"
+#include "cmpift.h"
+
+// CMPIInstance over a CimInstance. Key properties that a provider sets are
+// mirrored into the path's keys of the same name, so getObjectPath agrees
+// with the properties.
+class BrokerInstance : public EncapsulatedObject {
+public:
+    BrokerInstance(ObjectRegistry& registry, CimInstance instance);
+
+    CMPIInstance* cmpi() { return &_cmpi; }
+    CimInstance& instance() { return _instance; }
+    const CimInstance& instance() const { return _instance; }
+    const char* cmpiTypeName() const override { return "CMPIInstance"; }
+    std::string describe() const override;
+
+    // Honours a filter set with setPropertyFilter.
+    void setProperty(const std::string& name, CimValue value);
+    void setFilter(std::optional<std::vector<std::string>> filter) { _filter = std::move(filter); }
+
+    static BrokerInstance* from(const CMPIInstance* inst);
+
+private:
+    CMPIInstance _cmpi;
+    CimInstance _instance;
+    std::optional<std::vector<std::string>> _filter;
+};

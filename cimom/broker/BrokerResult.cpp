@@ -1,0 +1,108 @@
+#include "BrokerResult.h"
+
+#include "BrokerInstance.h"
+#include "BrokerObjectPath.h"
+#include "BrokerStatus.h"
+#include "CimError.h"
+#include "ObjectRegistry.h"
+#include "ValueConverter.h"
+
+namespace {
+
+using Self = BrokerResult;
+
+CMPIStatus release(CMPIResult* r) {
+    return BrokerStatus::onStatus<Self>(r, [](Self& self) { self.registry().release(&self); });
+}
+
+CMPIResult* clone(const CMPIResult* r, CMPIStatus* rc) {
+    return BrokerStatus::on<Self>(r, rc, static_cast<CMPIResult*>(nullptr), [](Self&) -> CMPIResult* {
+        throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "a result cannot be cloned");
+    });
+}
+
+CMPIStatus returnData(const CMPIResult* r, const CMPIValue* value, const CMPIType type) {
+    return BrokerStatus::onStatus<Self>(r, [&](Self& self) { self.addData(ValueConverter::toCim(value, type)); });
+}
+
+CMPIStatus returnInstance(const CMPIResult* r, const CMPIInstance* inst) {
+    return BrokerStatus::onStatus<Self>(r, [&](Self& self) {
+        BrokerInstance* i = BrokerInstance::from(inst);
+        if (i == nullptr) {
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "returned instance is not one of the broker's");
+        }
+        self.addInstance(i->instance());
+    });
+}
+
+CMPIStatus returnObjectPath(const CMPIResult* r, const CMPIObjectPath* ref) {
+    return BrokerStatus::onStatus<Self>(r, [&](Self& self) {
+        BrokerObjectPath* p = BrokerObjectPath::from(ref);
+        if (p == nullptr) {
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "returned path is not one of the broker's");
+        }
+        self.addPath(p->path());
+    });
+}
+
+CMPIStatus returnDone(const CMPIResult* r) {
+    return BrokerStatus::onStatus<Self>(r, [](Self& self) { self.markDone(); });
+}
+
+CMPIStatus returnError(const CMPIResult* r, const CMPIError*) {
+    return BrokerStatus::onStatus<Self>(r, [](Self&) {
+        throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "extended errors are not supported");
+    });
+}
+
+const CMPIResultFT resultTable = {CMPICurrentVersion, release,          clone,      returnData,
+                                  returnInstance,     returnObjectPath, returnDone, returnError};
+
+}  // namespace
+
+BrokerResult::BrokerResult(ObjectRegistry& registry)
+    : EncapsulatedObject(registry), _cmpi{this, &resultTable} {}
+
+void BrokerResult::addInstance(CimInstance inst) {
+    std::lock_guard<std::mutex> lock(_mutex);
+    _instances.push_back(std::move(inst));
+}
+
+void BrokerResult::addPath(CimObjectPath path) {
+    std::lock_guard<std::mutex> lock(_mutex);
+    _paths.push_back(std::move(path));
+}
+
+void BrokerResult::addData(CimValue value) {
+    std::lock_guard<std::mutex> lock(_mutex);
+    _data.push_back(std::move(value));
+}
+
+void BrokerResult::markDone() {
+    std::lock_guard<std::mutex> lock(_mutex);
+    _done = true;
+}
+
+std::vector<CimInstance> BrokerResult::takeInstances() {
+    std::lock_guard<std::mutex> lock(_mutex);
+    return std::move(_instances);
+}
+
+std::vector<CimObjectPath> BrokerResult::takePaths() {
+    std::lock_guard<std::mutex> lock(_mutex);
+    return std::move(_paths);
+}
+
+std::vector<CimValue> BrokerResult::takeData() {
+    std::lock_guard<std::mutex> lock(_mutex);
+    return std::move(_data);
+}
+
+bool BrokerResult::done() const {
+    std::lock_guard<std::mutex> lock(_mutex);
+    return _done;
+}
+
+BrokerResult* BrokerResult::from(const CMPIResult* r) {
+    return (r != nullptr && r->ft == &resultTable) ? static_cast<BrokerResult*>(r->hdl) : nullptr;
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <mutex>
+#include <vector>
+
+#include "CimInstance.h"
+#include "CimObjectPath.h"
+#include "CimValue.h"
+#include "EncapsulatedObject.h"
+#include "cmpift.h"
+
+// CMPIResult that copies whatever a provider returns into C++ vectors, so
+// the results outlive the call's objects.
+class BrokerResult : public EncapsulatedObject {
+public:
+    explicit BrokerResult(ObjectRegistry& registry);
+
+    CMPIResult* cmpi() { return &_cmpi; }
+    const char* cmpiTypeName() const override { return "CMPIResult"; }
+
+    void addInstance(CimInstance inst);
+    void addPath(CimObjectPath path);
+    void addData(CimValue value);
+    void markDone();
+
+    std::vector<CimInstance> takeInstances();
+    std::vector<CimObjectPath> takePaths();
+    std::vector<CimValue> takeData();
+    bool done() const;
+
+    static BrokerResult* from(const CMPIResult* r);
+
+private:
+    CMPIResult _cmpi;
+    mutable std::mutex _mutex;  // a provider may return from threads of its own
+    std::vector<CimInstance> _instances;
+    std::vector<CimObjectPath> _paths;
+    std::vector<CimValue> _data;
+    bool _done = false;
+};

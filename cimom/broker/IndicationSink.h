@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "CimInstance.h"
+
+// Where indications that providers deliver through the broker go. The
+// server implements it to reach its listeners; it must be thread-safe, as
+// providers deliver from threads of their own.
+class IndicationSink {
+public:
+    virtual ~IndicationSink() = default;
+    virtual void deliver(const std::string& nameSpace, const CimInstance& indication) = 0;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "ProviderRegistration.h"
+#include "cmpift.h"
+
+class Broker;
+
+// One provider library opened with dlopen, reached only through its
+// _Generic_Create_<Kind>MI entry points and the tables they return.
+class LoadedProvider {
+public:
+    // Opens the library and creates one MI per registered kind. On any
+    // failure nothing stays loaded and CimError(CMPI_RC_ERR_FAILED) tells
+    // which provider, library and entry point failed and how.
+    LoadedProvider(const ProviderRegistration& registration, const std::string& libraryFile,
+                   Broker& broker);
+    ~LoadedProvider();
+    LoadedProvider(const LoadedProvider&) = delete;
+    LoadedProvider& operator=(const LoadedProvider&) = delete;
+
+    const ProviderRegistration& registration() const { return _registration; }
+    const std::string& libraryFile() const { return _libraryFile; }
+    CMPIInstanceMI* instanceMI() const { return _instance; }
+    CMPIAssociationMI* associationMI() const { return _association; }
+    CMPIMethodMI* methodMI() const { return _method; }
+    CMPIIndicationMI* indicationMI() const { return _indication; }
+
+    // Every MI's cleanup (terminating), then dlclose; safe to call twice.
+    void shutdown();
+
+private:
+    void* _entry(const char* symbol);
+    void _create(ProviderRegistration::Kind kind);
+
+    ProviderRegistration _registration;
+    std::string _libraryFile;
+    Broker& _broker;
+    void* _handle = nullptr;
+    CMPIInstanceMI* _instance = nullptr;
+    CMPIAssociationMI* _association = nullptr;
+    CMPIMethodMI* _method = nullptr;
+    CMPIIndicationMI* _indication = nullptr;
+};

@@ -1,0 +1,517 @@
+#include "ProviderManager.h"
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+#include "BrokerArgs.h"
+#include "BrokerContext.h"
+#include "BrokerObjectPath.h"
+#include "BrokerResult.h"
+#include "BrokerStatus.h"
+#include "CimError.h"
+#include "CimName.h"
+#include "LoadedProvider.h"
+#include "MemoryIndicationSink.h"
+#include "RegistrationFile.h"
+
+namespace {
+
+// Calls nested on one thread (a provider's up-call during its own request)
+// must not take the lifecycle lock again: a waiting shutdown would deadlock them.
+thread_local int callDepth = 0;
+
+const char* cstr(const std::string& s) { return s.empty() ? nullptr : s.c_str(); }
+
+// A NULL-terminated array over the names, or null for "all properties".
+class PropertyArray {
+public:
+    explicit PropertyArray(const BrokerUpcalls::PropertyList* list) {
+        if (list != nullptr) {
+            for (const std::string& s : *list) {
+                _ptrs.push_back(s.c_str());
+            }
+            _ptrs.push_back(nullptr);
+        }
+    }
+    const char** get() { return _ptrs.empty() ? nullptr : _ptrs.data(); }
+
+private:
+    std::vector<const char*> _ptrs;
+};
+
+}  // namespace
+
+// Shared hold on the providers for one call, unless this thread holds one already.
+class ProviderManager::CallGuard {
+public:
+    explicit CallGuard(const ProviderManager& pm) : _pm(pm), _locked(callDepth == 0) {
+        if (_locked) {
+            while (!_pm._lifecycle.try_lock_shared()) {
+                if (_pm._shuttingDown) {
+                    throw CimError(CMPI_RC_ERR_FAILED, "the provider manager is shutting down");
+                }
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            }
+            if (_pm._shuttingDown) {
+                _pm._lifecycle.unlock_shared();
+                throw CimError(CMPI_RC_ERR_FAILED, "the provider manager is shut down");
+            }
+        }
+        ++callDepth;
+    }
+    ~CallGuard() {
+        --callDepth;
+        if (_locked) {
+            _pm._lifecycle.unlock_shared();
+        }
+    }
+    CallGuard(const CallGuard&) = delete;
+    CallGuard& operator=(const CallGuard&) = delete;
+
+private:
+    const ProviderManager& _pm;
+    bool _locked;
+};
+
+ProviderManager::ProviderManager() : ProviderManager(Options{}) {}
+
+ProviderManager::ProviderManager(Options options)
+    : _options(std::move(options)), _broker(std::make_unique<Broker>()) {
+    if (_options.log) {
+        _broker->setLog(_options.log);
+    }
+    _sink = _options.indicationSink;
+    if (!_sink) {
+        Broker* broker = _broker.get();
+        _sink = std::make_shared<MemoryIndicationSink>(
+            [broker](const std::string& line) { broker->log(CMPI_SEV_INFO, line); });
+    }
+    _broker->setIndicationSink(_sink);
+    if (_options.classIsA) {
+        _broker->setClassIsA(_options.classIsA);
+    }
+    _broker->setUpcalls(this);
+}
+
+ProviderManager::~ProviderManager() {
+    shutdown();
+    _broker->setUpcalls(nullptr);
+}
+
+std::string ProviderManager::_findLibrary(const std::string& library,
+                                          const std::vector<std::string>& dirs) const {
+    if (library.find('/') != std::string::npos) {
+        return library;
+    }
+    const std::string file = "lib" + library + ".so";
+    for (const std::string& dir : dirs) {
+        const std::filesystem::path candidate = std::filesystem::path(dir) / file;
+        std::error_code ec;
+        if (std::filesystem::exists(candidate, ec)) {
+            return candidate.string();
+        }
+    }
+    std::string searched;
+    for (const std::string& dir : dirs) {
+        searched += (searched.empty() ? "" : ", ") + dir;
+    }
+    throw CimError(CMPI_RC_ERR_FAILED, "library " + file + " not found (searched: " +
+                                           (searched.empty() ? "no directories" : searched) + ")");
+}
+
+void ProviderManager::loadRegistrationFile(const std::string& path) {
+    const RegistrationFile::Contents contents = RegistrationFile::load(path);
+    for (const ProviderRegistration& reg : contents.providers) {
+        load(reg, contents.libraryDirs);
+    }
+}
+
+void ProviderManager::load(const ProviderRegistration& registration,
+                           const std::vector<std::string>& extraLibraryDirs) {
+    if (registration.namespaces.empty() || registration.kinds.empty()) {
+        throw CimError(CMPI_RC_ERR_FAILED,
+                       "provider " + registration.name + ": no namespace or no kind registered");
+    }
+    std::vector<std::string> dirs = extraLibraryDirs;
+    dirs.insert(dirs.end(), _options.libraryDirs.begin(), _options.libraryDirs.end());
+    std::string file;
+    try {
+        file = _findLibrary(registration.library, dirs);
+    } catch (const CimError& e) {
+        throw CimError(CMPI_RC_ERR_FAILED, "provider " + registration.name + ": " + e.description());
+    }
+    std::unique_lock<std::shared_mutex> lock(_lifecycle);
+    if (_shuttingDown) {
+        throw CimError(CMPI_RC_ERR_FAILED, "the provider manager is shut down");
+    }
+    for (const auto& p : _providers) {
+        if (CimName::equal(p->registration().name, registration.name)) {
+            throw CimError(CMPI_RC_ERR_FAILED, "provider " + registration.name + " is already loaded");
+        }
+    }
+    auto provider = std::make_unique<LoadedProvider>(registration, file, *_broker);
+    _broker->log(CMPI_SEV_INFO, "provider " + registration.name + " loaded from " + file);
+    _providers.push_back(std::move(provider));
+}
+
+std::vector<std::string> ProviderManager::providerNames() const {
+    std::shared_lock<std::shared_mutex> lock(_lifecycle);
+    std::vector<std::string> names;
+    for (const auto& p : _providers) {
+        names.push_back(p->registration().name);
+    }
+    return names;
+}
+
+LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& nameSpace,
+                                              const std::string& className) const {
+    for (const auto& p : _providers) {
+        const ProviderRegistration& reg = p->registration();
+        bool hasRole = false;
+        switch (role) {
+        case Role::Instance: hasRole = p->instanceMI() != nullptr; break;
+        case Role::Association: hasRole = p->associationMI() != nullptr; break;
+        case Role::Method: hasRole = p->methodMI() != nullptr; break;
+        case Role::Indication: hasRole = p->indicationMI() != nullptr; break;
+        }
+        if (!hasRole) {
+            continue;
+        }
+        bool inNamespace = false;
+        for (const std::string& ns : reg.namespaces) {
+            inNamespace = inNamespace || CimName::equal(ns, nameSpace);
+        }
+        if (!inNamespace) {
+            continue;
+        }
+        for (const std::string& cls : reg.classes) {
+            if (CimName::equal(cls, className)) {
+                return p.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
+std::vector<LoadedProvider*> ProviderManager::_associationProviders(const std::string& nameSpace,
+                                                                    const std::string& assocClass) const {
+    std::vector<LoadedProvider*> out;
+    for (const auto& p : _providers) {
+        if (p->associationMI() == nullptr) {
+            continue;
+        }
+        const ProviderRegistration& reg = p->registration();
+        bool inNamespace = false;
+        for (const std::string& ns : reg.namespaces) {
+            inNamespace = inNamespace || CimName::equal(ns, nameSpace);
+        }
+        if (!inNamespace) {
+            continue;
+        }
+        bool serves = assocClass.empty();
+        // A provider serves the requested class if one of its classes is that
+        // class or derives from it (the server's hierarchy decides).
+        for (std::size_t i = 0; !serves && i < reg.classes.size(); ++i) {
+            serves = _broker->isA(nameSpace, reg.classes[i], assocClass);
+        }
+        if (serves) {
+            out.push_back(p.get());
+        }
+    }
+    return out;
+}
+
+bool ProviderManager::hasInstanceProvider(const std::string& nameSpace, const std::string& className) const {
+    std::shared_lock<std::shared_mutex> lock(_lifecycle);
+    return _providerFor(Role::Instance, nameSpace, className) != nullptr;
+}
+
+bool ProviderManager::hasMethodProvider(const std::string& nameSpace, const std::string& className) const {
+    std::shared_lock<std::shared_mutex> lock(_lifecycle);
+    return _providerFor(Role::Method, nameSpace, className) != nullptr;
+}
+
+bool ProviderManager::hasAssociationProvider(const std::string& nameSpace,
+                                             const std::string& assocClass) const {
+    std::shared_lock<std::shared_mutex> lock(_lifecycle);
+    return !_associationProviders(nameSpace, assocClass).empty();
+}
+
+void ProviderManager::_check(CMPIStatus status, const LoadedProvider& provider,
+                             const char* operation) const {
+    if (status.rc == CMPI_RC_OK) {
+        return;
+    }
+    std::string msg = BrokerStatus::message(status);
+    if (msg.empty()) {
+        msg = "provider " + provider.registration().name + " failed " + operation;
+    }
+    throw CimError(status.rc, msg);
+}
+
+void ProviderManager::_complete(const CimObjectPath& request, CimObjectPath& path) {
+    // Providers often leave the namespace out of the paths they return.
+    if (path.nameSpace().empty()) {
+        path.setNameSpace(request.nameSpace());
+    }
+}
+
+std::vector<CimInstance> ProviderManager::_finish(const CimObjectPath& request,
+                                                  std::vector<CimInstance> found,
+                                                  const PropertyList* propertyList) {
+    for (CimInstance& inst : found) {
+        CimObjectPath path = inst.path();
+        _complete(request, path);
+        inst.setPath(std::move(path));
+        if (propertyList != nullptr) {
+            inst = inst.filtered(propertyList);
+        }
+    }
+    return found;
+}
+
+std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObjectPath& classPath) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " + classPath.className() +
+                                                      " in " + classPath.nameSpace());
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    BrokerResult* result = _broker->registry().make<BrokerResult>();
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
+    BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
+    _check(p->instanceMI()->ft->enumerateInstanceNames(p->instanceMI(), ctx->cmpi(), result->cmpi(), op),
+           *p, "enumerateInstanceNames");
+    std::vector<CimObjectPath> paths = result->takePaths();
+    for (CimObjectPath& path : paths) {
+        _complete(classPath, path);
+    }
+    return paths;
+}
+
+std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath& classPath,
+                                                             const PropertyList* propertyList) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " + classPath.className() +
+                                                      " in " + classPath.nameSpace());
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    BrokerResult* result = _broker->registry().make<BrokerResult>();
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
+    BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
+    PropertyArray props(propertyList);
+    _check(p->instanceMI()->ft->enumerateInstances(p->instanceMI(), ctx->cmpi(), result->cmpi(), op,
+                                                   props.get()),
+           *p, "enumerateInstances");
+    return _finish(classPath, result->takeInstances(), propertyList);
+}
+
+CimInstance ProviderManager::getInstance(const CimObjectPath& path, const PropertyList* propertyList) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Instance, path.nameSpace(), path.className());
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
+                       "no instance provider for " + path.className() + " in " + path.nameSpace());
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    BrokerResult* result = _broker->registry().make<BrokerResult>();
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+    BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+    PropertyArray props(propertyList);
+    _check(p->instanceMI()->ft->getInstance(p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
+           *p, "getInstance");
+    std::vector<CimInstance> found = _finish(path, result->takeInstances(), propertyList);
+    if (found.empty()) {
+        throw CimError(CMPI_RC_ERR_NOT_FOUND, "no instance " + path.toString());
+    }
+    return found.front();
+}
+
+std::vector<CimInstance> ProviderManager::associators(const CimObjectPath& path,
+                                                      const std::string& assocClass,
+                                                      const std::string& resultClass,
+                                                      const std::string& role,
+                                                      const std::string& resultRole,
+                                                      const PropertyList* propertyList) {
+    CallGuard guard(*this);
+    std::vector<CimInstance> all;
+    for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
+        ObjectRegistry::Scope scope(_broker->registry());
+        BrokerResult* result = _broker->registry().make<BrokerResult>();
+        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        PropertyArray props(propertyList);
+        _check(p->associationMI()->ft->associators(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                                   cstr(assocClass), cstr(resultClass), cstr(role),
+                                                   cstr(resultRole), props.get()),
+               *p, "associators");
+        for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
+            all.push_back(std::move(i));
+        }
+    }
+    return all;
+}
+
+std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath& path,
+                                                            const std::string& assocClass,
+                                                            const std::string& resultClass,
+                                                            const std::string& role,
+                                                            const std::string& resultRole) {
+    CallGuard guard(*this);
+    std::vector<CimObjectPath> all;
+    for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
+        ObjectRegistry::Scope scope(_broker->registry());
+        BrokerResult* result = _broker->registry().make<BrokerResult>();
+        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        _check(p->associationMI()->ft->associatorNames(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                                       cstr(assocClass), cstr(resultClass), cstr(role),
+                                                       cstr(resultRole)),
+               *p, "associatorNames");
+        for (CimObjectPath& found : result->takePaths()) {
+            _complete(path, found);
+            all.push_back(std::move(found));
+        }
+    }
+    return all;
+}
+
+std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
+                                                     const std::string& resultClass,
+                                                     const std::string& role,
+                                                     const PropertyList* propertyList) {
+    CallGuard guard(*this);
+    std::vector<CimInstance> all;
+    for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
+        ObjectRegistry::Scope scope(_broker->registry());
+        BrokerResult* result = _broker->registry().make<BrokerResult>();
+        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        PropertyArray props(propertyList);
+        _check(p->associationMI()->ft->references(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                                  cstr(resultClass), cstr(role), props.get()),
+               *p, "references");
+        for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
+            all.push_back(std::move(i));
+        }
+    }
+    return all;
+}
+
+std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& path,
+                                                           const std::string& resultClass,
+                                                           const std::string& role) {
+    CallGuard guard(*this);
+    std::vector<CimObjectPath> all;
+    for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
+        ObjectRegistry::Scope scope(_broker->registry());
+        BrokerResult* result = _broker->registry().make<BrokerResult>();
+        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        _check(p->associationMI()->ft->referenceNames(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                                      cstr(resultClass), cstr(role)),
+               *p, "referenceNames");
+        for (CimObjectPath& found : result->takePaths()) {
+            _complete(path, found);
+            all.push_back(std::move(found));
+        }
+    }
+    return all;
+}
+
+MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std::string& method,
+                                           const Args& inArgs) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Method, path.nameSpace(), path.className());
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
+                       "no method provider for " + path.className() + " in " + path.nameSpace());
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    BrokerResult* result = _broker->registry().make<BrokerResult>();
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
+    BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+    BrokerArgs* in = _broker->registry().make<BrokerArgs>(inArgs);
+    BrokerArgs* out = _broker->registry().make<BrokerArgs>();
+    _check(p->methodMI()->ft->invokeMethod(p->methodMI(), ctx->cmpi(), result->cmpi(), op,
+                                           method.c_str(), in->cmpi(), out->cmpi()),
+           *p, "invokeMethod");
+    MethodResult r;
+    std::vector<CimValue> data = result->takeData();
+    if (!data.empty()) {
+        r.returnValue = std::move(data.front());
+    }
+    r.outArgs = out->args();
+    return r;
+}
+
+void ProviderManager::activateFilter(const std::string& nameSpace, const std::string& className,
+                                     bool firstActivation) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Indication, nameSpace, className);
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
+                       "no indication provider for " + className + " in " + nameSpace);
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
+    BrokerContext* ctx = _broker->newContext(nameSpace, 0);
+    _check(p->indicationMI()->ft->activateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
+                                                 className.c_str(), op, firstActivation ? 1 : 0),
+           *p, "activateFilter");
+}
+
+void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::string& className,
+                                       bool lastActivation) {
+    CallGuard guard(*this);
+    LoadedProvider* p = _providerFor(Role::Indication, nameSpace, className);
+    if (p == nullptr) {
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
+                       "no indication provider for " + className + " in " + nameSpace);
+    }
+    ObjectRegistry::Scope scope(_broker->registry());
+    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
+    BrokerContext* ctx = _broker->newContext(nameSpace, 0);
+    _check(p->indicationMI()->ft->deActivateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
+                                                   className.c_str(), op, lastActivation ? 1 : 0),
+           *p, "deActivateFilter");
+}
+
+void ProviderManager::enableIndications() {
+    CallGuard guard(*this);
+    for (const auto& p : _providers) {
+        if (CMPIIndicationMI* mi = p->indicationMI()) {
+            ObjectRegistry::Scope scope(_broker->registry());
+            BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
+            _check(mi->ft->enableIndications(mi, ctx->cmpi()), *p, "enableIndications");
+        }
+    }
+}
+
+void ProviderManager::disableIndications() {
+    CallGuard guard(*this);
+    for (const auto& p : _providers) {
+        if (CMPIIndicationMI* mi = p->indicationMI()) {
+            ObjectRegistry::Scope scope(_broker->registry());
+            BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
+            _check(mi->ft->disableIndications(mi, ctx->cmpi()), *p, "disableIndications");
+        }
+    }
+}
+
+void ProviderManager::shutdown() {
+    _shuttingDown = true;
+    std::unique_lock<std::shared_mutex> lock(_lifecycle);
+    // Unload in reverse order of loading, as a provider may use one loaded before it.
+    while (!_providers.empty()) {
+        std::unique_ptr<LoadedProvider> p = std::move(_providers.back());
+        _providers.pop_back();
+        const std::string name = p->registration().name;
+        p->shutdown();
+        _broker->log(CMPI_SEV_INFO, "provider " + name + " unloaded");
+    }
+}

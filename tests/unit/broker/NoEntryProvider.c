@@ -1,0 +1,3 @@
+/* A shared library without any CMPI entry point, to check that loading it
+   is refused with a clear error. */
+int veldraNotAProvider(void) { return 42; }
