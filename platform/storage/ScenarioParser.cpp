@@ -264,6 +264,11 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
             fail("physicalDisks", i, "bay", "two disks without serial number share enclosure " +
                                                 std::to_string(d.enclosureBoxNumber) + " bay " + std::to_string(d.bay));
     }
+    // A volume may name a member that was pulled: it keeps its slot.
+    std::set<u32> memberIds = ids;
+    for (size_t i = 0; i < pulled.size(); ++i)
+        if (!memberIds.insert(pulled[i]->id).second)
+            fail("pulled", i, "id", "id " + std::to_string(pulled[i]->id) + " is used twice");
     std::set<std::string> enclosureSerials;
     std::set<u32> boxes;
     for (size_t i = 0; i < controller.enclosures.size(); ++i) {
@@ -283,13 +288,13 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
         if (!numbers.insert(l.number).second)
             fail("logicalDisks", i, "number", "volume number " + std::to_string(l.number) + " is used twice");
         for (u32 id : l.dataDisks)
-            if (!ids.count(id)) fail("logicalDisks", i, "dataDisks", "no physical disk has id " + std::to_string(id));
+            if (!memberIds.count(id)) fail("logicalDisks", i, "dataDisks", "no physical disk has id " + std::to_string(id));
         for (u32 id : l.spareDisks)
-            if (!ids.count(id)) fail("logicalDisks", i, "spareDisks", "no physical disk has id " + std::to_string(id));
+            if (!memberIds.count(id)) fail("logicalDisks", i, "spareDisks", "no physical disk has id " + std::to_string(id));
         for (auto const& [spare, failed] : l.replaced)
-            if (!ids.count(spare) || !ids.count(failed))
+            if (!memberIds.count(spare) || !memberIds.count(failed))
                 fail("logicalDisks", i, "replaced",
-                     "no physical disk has id " + std::to_string(ids.count(spare) ? failed : spare));
+                     "no physical disk has id " + std::to_string(memberIds.count(spare) ? failed : spare));
     }
     return controller;
 }
