@@ -1,0 +1,190 @@
+#include "IdentityHelpers.h"
+
+#include "CmpiBroker.h"
+#include "QLNPhysloc.h"
+#include "QLNUtil.h"
+#include "VeldraStorageFunctions.h"
+
+#include <cstdio>
+#include <cstring>
+#include <sstream>
+
+namespace {
+
+char const* const nameSpace = "root/mwq";
+char const* const arrayControllerClass = "QLN_VDArrayController";
+char const* const pciDeviceClass = "QLN_PCIDevice";
+char const* const storageVolumeClass = "QLN_VDStorageVolume";
+char const* const diskDriveClass = "QLN_VDDiskDrive";
+char const* const storageEnclosureClass = "QLN_VDStorageEnclosure";
+char const* const enclosureProcessorClass = "QLN_VDStorageEnclosureProcessor";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+char const* const computerSystemClass = "QLN_ComputerSystem";
+
+// The kind of location lives in the low nibble of the first byte; 5 is a PCI slot.
+int const pciSlotKind = 5;
+
+int locationKind(physloc_t const& location) { return location.bytes[0] & 0x0f; }
+
+CmpiCpp::CmpiObjectPath makePath(char const* className) {
+    CmpiCpp::CmpiBroker broker(QLN::QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, nameSpace, className);
+    path.setHost(QLN::QLNUtil::getHostName());
+    return path;
+}
+
+std::string enclosureTag(int index, VeldraEnclosure const& enclosure) {
+    return std::to_string(index) + "-" + std::to_string(enclosure.getEnclosureBoxNumber());
+}
+
+} // namespace
+
+namespace QLN {
+
+bool isPhyslocNull(physloc_t const& location) {
+    return std::memcmp(location.bytes, BMC_physloc_NULL.bytes, sizeof(location.bytes)) == 0;
+}
+
+std::string removeWhitespace(std::string text) {
+    std::istringstream words(text);
+    std::string word;
+    std::string joined;
+    while (words >> word) {
+        joined += word;
+    }
+    return joined;
+}
+
+std::string getControllerTag(VeldraControllerData data, int index) {
+    // A failed read leaves the record as it was; start from the null record so
+    // that the unique ID below is still defined.
+    physloc_t location = BMC_physloc_NULL;
+    int status = data.getPhysloc(location);
+    std::string prefix;
+    if (status != 0) {
+        prefix = "UNKNOWN-";
+    } else if (locationKind(location) == pciSlotKind) {
+        prefix = "PCISLOT-";
+    } else if (isPhyslocNull(location)) {
+        prefix = "EXTERNAL-";
+    } else {
+        prefix = "EMBEDDED-";
+    }
+    // Asked in every case: the unique part tells apart controllers that share a prefix.
+    std::string id = QLNPhysloc::physlocToUniqueID("bogus", location, index);
+    std::string::size_type colon = id.rfind(':');
+    return prefix + (colon == std::string::npos ? id : id.substr(colon + 1));
+}
+
+std::string getControllerName(VeldraControllerData data, int index) {
+    std::string serial;
+    if (data.getControllerSerialNumber(serial) == 0 && !serial.empty()) {
+        return serial;
+    }
+    return getControllerTag(data, index);
+}
+
+std::string getControllerDisplayName(VeldraControllerData const& data) {
+    physloc_t location = BMC_physloc_NULL;
+    int status = data.getPhysloc(location);
+    std::string prefix;
+    if (status != 0) {
+        prefix = "Veldra Unknown ";
+    } else if (locationKind(location) == pciSlotKind) {
+        prefix = "Veldra in ";
+    } else if (locationKind(location) != 0) {
+        prefix = "Veldra ";
+    } else {
+        // Here "external" is the kind nibble alone, not the whole null record
+        // as in the tag: a display text may be loose, a key may not.
+        prefix = "Veldra External ";
+    }
+    return prefix + QLNPhysloc::physlocToHWLocation(location);
+}
+
+CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData data, int index) {
+    CmpiCpp::CmpiObjectPath path = makePath(arrayControllerClass);
+    path.addKey("CreationClassName", arrayControllerClass);
+    path.addKey("Name", getControllerName(data, index));
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data) {
+    CmpiCpp::CmpiObjectPath path = makePath(pciDeviceClass);
+    path.addKey("CreationClassName", pciDeviceClass);
+    path.addKey("SystemCreationClassName", computerSystemClass);
+    path.addKey("SystemName", QLNUtil::getHostName());
+    VeldraControllerPCIInfo info;
+    std::string address = "NO PCI DATA";
+    if (data.getPCIInfo(info) == 0) {
+        // The device number is printed in decimal; other tools of the family
+        // read the address that way, so it stays.
+        char text[64];
+        std::snprintf(text, sizeof(text), "%04x:%02x:%02d.%d", static_cast<unsigned int>(info.domain),
+                      static_cast<unsigned int>(info.bus), static_cast<int>(info.device),
+                      static_cast<int>(info.function));
+        address = text;
+    }
+    path.addKey("DeviceID", "MWQ:QLN_PCIDevice:" + address);
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index, VeldraLogicalDisk logicalDisk) {
+    CmpiCpp::CmpiObjectPath path = makePath(storageVolumeClass);
+    path.addKey("SystemCreationClassName", arraySystemClass);
+    path.addKey("CreationClassName", storageVolumeClass);
+    path.addKey("SystemName", getControllerName(data, index));
+    path.addKey("DeviceID", logicalDisk.getSerialNumber());
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index, VeldraPhysicalDisk disk) {
+    CmpiCpp::CmpiObjectPath path = makePath(diskDriveClass);
+    path.addKey("SystemCreationClassName", arraySystemClass);
+    path.addKey("CreationClassName", diskDriveClass);
+    path.addKey("SystemName", getControllerName(data, index));
+    std::string serial = removeWhitespace(disk.getSerialNumber());
+    std::string deviceId;
+    if (serial.empty()) {
+        deviceId = std::to_string(index) + "-" + std::to_string(disk.getEnclosureBoxNumber()) + ":" +
+                   std::to_string(disk.getBay());
+    } else {
+        deviceId = removeWhitespace(disk.getModel()) + "-" + serial;
+    }
+    path.addKey("DeviceID", deviceId);
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure enclosure) {
+    CmpiCpp::CmpiObjectPath path = makePath(storageEnclosureClass);
+    path.addKey("CreationClassName", storageEnclosureClass);
+    path.addKey("Tag", enclosureTag(index, enclosure));
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure enclosure) {
+    CmpiCpp::CmpiObjectPath path = makePath(enclosureProcessorClass);
+    path.addKey("CreationClassName", enclosureProcessorClass);
+    path.addKey("Name", enclosureTag(index, enclosure));
+    return path;
+}
+
+bool isEnclosureBox(VeldraEnclosure enclosure, int box) {
+    return enclosure.getEnclosureBoxNumber() == static_cast<u32>(box);
+}
+
+bool isSamePhysicalDisk(VeldraPhysicalDisk disk, std::string serial, int box, int bay) {
+    std::string own = disk.getSerialNumber();
+    if (!serial.empty()) {
+        return serial == own;
+    }
+    // Only a disk without a serial number is known by its place.
+    return own.empty() && disk.getEnclosureBoxNumber() == box && disk.getBay() == bay;
+}
+
+bool isPhysicalDiskAtPort(VeldraPhysicalDisk disk, std::string port, int box, int bay) {
+    return isPortInPaths(port, disk.getLastAllPhysicalPaths()) && disk.getEnclosureBoxNumber() == box &&
+           disk.getBay() == bay;
+}
+
+} // namespace QLN

@@ -1,0 +1,45 @@
+#pragma once
+// How hardware becomes a CIM identity: controller names and tags, disk
+// DeviceIDs, enclosure tags and the paths that change detection builds for
+// devices it no longer holds an instance of. Every key of the instance graph
+// comes from here, so the texts must not drift.
+//
+// `index` is the controller's 1-based number in the order the storage-access
+// root delivers them. The controller data is taken by value on purpose: the
+// callers hand in snapshots they keep using.
+#include "CmpiObjectPath.h"
+#include "VeldraControllerData.h"
+#include "VeldraEnclosure.h"
+#include "VeldraLogicalDisk.h"
+#include "VeldraPhysicalDisk.h"
+#include "physloc.h"
+
+#include <string>
+
+namespace QLN {
+
+bool isPhyslocNull(physloc_t const& location);
+
+// Drops all whitespace, at the ends and inside: " WD 123 " gives "WD123".
+std::string removeWhitespace(std::string text);
+
+// "PCISLOT-", "EXTERNAL-", "EMBEDDED-" or "UNKNOWN-" and the location's unique code.
+std::string getControllerTag(VeldraControllerData data, int index);
+// The serial number when there is one, else the tag.
+std::string getControllerName(VeldraControllerData data, int index);
+// "Veldra in PCI Slot 3", "Veldra External ...": for people, not a key.
+std::string getControllerDisplayName(VeldraControllerData const& data);
+
+CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData data, int index);
+CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data);
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index, VeldraLogicalDisk logicalDisk);
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index, VeldraPhysicalDisk disk);
+CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure enclosure);
+CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure enclosure);
+
+// The comparison steps of the worker's linear searches.
+bool isEnclosureBox(VeldraEnclosure enclosure, int box);
+bool isSamePhysicalDisk(VeldraPhysicalDisk disk, std::string serial, int box, int bay);
+bool isPhysicalDiskAtPort(VeldraPhysicalDisk disk, std::string port, int box, int bay);
+
+} // namespace QLN
