@@ -50,6 +50,8 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
     _server->set_read_timeout(_settings.timeoutSeconds, 0);
     _server->set_write_timeout(_settings.timeoutSeconds, 0);
     _server->set_keep_alive_timeout(5);
+    // wbemcli and load tools reuse one connection for many requests.
+    _server->set_keep_alive_max_count(1000);
     _server->set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
         if (request.headers.size() > _settings.maxHeaders) {
             response.status = 431;

@@ -1,0 +1,341 @@
+#include "InstanceOperations.h"
+
+#include "ClassRepository.h"
+#include "CimError.h"
+#include "CimName.h"
+#include "CimOperationError.h"
+#include "CimOperationHandler.h"
+#include "InstanceXml.h"
+#include "ProviderManager.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+namespace {
+
+[[noreturn]] void fail(int code, const std::string& what) { throw CimOperationError(code, what); }
+
+// The provider manager speaks CimError; the answer to the client is the same code.
+template <typename Call>
+auto viaProvider(Call&& call) -> decltype(call()) {
+    try {
+        return call();
+    } catch (const CimError& e) {
+        fail(static_cast<int>(e.code()), e.description().empty() ? CimError::codeName(e.code()) : e.description());
+    }
+}
+
+// An enumeration over several classes skips classes whose provider has
+// nothing for it, rather than failing the whole answer.
+bool skippable(const CimError& e) {
+    return e.code() == CMPI_RC_ERR_NOT_SUPPORTED || e.code() == CMPI_RC_ERR_NOT_FOUND ||
+           e.code() == CMPI_RC_ERR_INVALID_CLASS;
+}
+
+std::optional<std::vector<std::string>> toList(const std::optional<std::set<std::string>>& names) {
+    if (!names) return std::nullopt;
+    return std::vector<std::string>(names->begin(), names->end());
+}
+
+}  // namespace
+
+InstanceOperations::InstanceOperations(const ClassRepository& classes, ProviderManager& providers)
+    : _classes(classes), _providers(providers) {}
+
+void InstanceOperations::_checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const {
+    for (const auto& p : request.params()) {
+        bool known = std::any_of(allowed.begin(), allowed.end(), [&](const char* a) { return CimName::equal(p.name, a); });
+        if (!known) fail(CimOperationError::invalidParameter, "unknown parameter " + p.name + " for " + request.methodName());
+    }
+}
+
+std::string InstanceOperations::_requireClass(const CimRequest& request, const char* param) const {
+    std::string name = CimOperationHandler::classNameParam(request, param);
+    if (name.empty()) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
+    if (!_classes.find(request.nameSpace(), name))
+        fail(CimOperationError::invalidClass, "class " + name + " does not exist");
+    return name;
+}
+
+CimObjectPath InstanceOperations::_objectName(const CimRequest& request, const char* param) const {
+    const CimRequest::Param* p = request.param(param);
+    if (!p) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
+    pugi::xml_node node = p->node.child("INSTANCENAME");
+    if (!node) {
+        if (p->node.child("CLASSNAME"))
+            fail(CimOperationError::notSupported, "class-level " + request.methodName() + " is not supported");
+        fail(CimOperationError::invalidParameter, std::string(param) + " needs an INSTANCENAME");
+    }
+    CimObjectPath path = InstanceXml::readInstanceName(node, request.nameSpace(), &_classes);
+    if (!_classes.find(request.nameSpace(), path.className()))
+        fail(CimOperationError::invalidClass, "class " + path.className() + " does not exist");
+    return path;
+}
+
+void InstanceOperations::registerWith(CimOperationHandler& handler) const {
+    handler.addOperation("EnumerateInstanceNames", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ClassName"});
+        _enumerateInstanceNames(request, out);
+    });
+    handler.addOperation("EnumerateInstances", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ClassName", "LocalOnly", "DeepInheritance", "IncludeQualifiers", "IncludeClassOrigin",
+                               "PropertyList"});
+        _enumerateInstances(request, out);
+    });
+    handler.addOperation("GetInstance", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"InstanceName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
+        _getInstance(request, out);
+    });
+    handler.addOperation("Associators", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole", "IncludeQualifiers",
+                               "IncludeClassOrigin", "PropertyList"});
+        _associators(request, out, false);
+    });
+    handler.addOperation("AssociatorNames", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole"});
+        _associators(request, out, true);
+    });
+    handler.addOperation("References", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ObjectName", "ResultClass", "Role", "IncludeQualifiers", "IncludeClassOrigin",
+                               "PropertyList"});
+        _references(request, out, false);
+    });
+    handler.addOperation("ReferenceNames", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"ObjectName", "ResultClass", "Role"});
+        _references(request, out, true);
+    });
+    handler.setMethodCall([this](const CimRequest& request, CimXmlWriter& out) { invokeMethod(request, out); });
+}
+
+void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const {
+    std::string className = _requireClass(request, "ClassName");
+    PathSet seen;
+    out.open("IRETURNVALUE");
+    for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
+        if (!_providers.hasInstanceProvider(request.nameSpace(), cls)) continue;
+        std::vector<CimObjectPath> paths;
+        try {
+            paths = _providers.enumerateInstanceNames(CimObjectPath(request.nameSpace(), cls));
+        } catch (const CimError& e) {
+            if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
+        }
+        for (const CimObjectPath& path : paths)
+            if (seen.insert(path).second) InstanceXml::writeInstanceName(out, path);
+    }
+    out.close();
+}
+
+void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWriter& out) const {
+    std::string className = _requireClass(request, "ClassName");
+    bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
+    CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
+    InstanceXml::InstanceOptions options;
+    options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+    options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+    options.propertyList = CimOperationHandler::propertyListParam(request);
+    const CimClassDecl* requested = _classes.find(request.nameSpace(), className);
+    if (!deep) {
+        // Without deep inheritance only the requested class's properties are shown.
+        std::set<std::string> own;
+        for (const auto& p : requested->properties) own.insert(CimName::lower(p.name));
+        if (options.propertyList) {
+            std::set<std::string> both;
+            for (const auto& n : *options.propertyList)
+                if (own.count(n)) both.insert(n);
+            own = std::move(both);
+        }
+        options.propertyList = std::move(own);
+    }
+    auto providerList = toList(options.propertyList);
+    PathSet seen;
+    out.open("IRETURNVALUE");
+    for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
+        if (!_providers.hasInstanceProvider(request.nameSpace(), cls)) continue;
+        std::vector<CimInstance> instances;
+        try {
+            instances = _providers.enumerateInstances(CimObjectPath(request.nameSpace(), cls),
+                                                      providerList ? &*providerList : nullptr);
+        } catch (const CimError& e) {
+            if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
+        }
+        for (const CimInstance& instance : instances) {
+            if (!seen.insert(instance.path()).second) continue;
+            options.cls = _classes.find(request.nameSpace(), instance.className());
+            out.open("VALUE.NAMEDINSTANCE");
+            InstanceXml::writeInstanceName(out, instance.path());
+            InstanceXml::writeInstance(out, instance, options);
+            out.close();
+        }
+    }
+    out.close();
+}
+
+void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& out) const {
+    CimObjectPath path = _objectName(request, "InstanceName");
+    CimOperationHandler::boolParam(request, "LocalOnly", false);
+    InstanceXml::InstanceOptions options;
+    options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+    options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+    options.propertyList = CimOperationHandler::propertyListParam(request);
+    options.cls = _classes.find(request.nameSpace(), path.className());
+    if (!_providers.hasInstanceProvider(request.nameSpace(), path.className()))
+        fail(CimOperationError::notFound, "no provider serves " + path.className());
+    auto providerList = toList(options.propertyList);
+    CimInstance instance =
+        viaProvider([&] { return _providers.getInstance(path, providerList ? &*providerList : nullptr); });
+    out.open("IRETURNVALUE");
+    InstanceXml::writeInstance(out, instance, options);
+    out.close();
+}
+
+std::vector<std::string> InstanceOperations::_associationClasses(const std::string& nameSpace,
+                                                                 const std::string& assocClass) const {
+    // No class given: one call, which the manager sends to every association provider.
+    if (assocClass.empty()) return {""};
+    std::vector<std::string> classes = _classes.selfAndDescendants(nameSpace, assocClass);
+    std::erase_if(classes, [&](const std::string& c) { return !_providers.hasAssociationProvider(nameSpace, c); });
+    return classes;
+}
+
+void InstanceOperations::_associators(const CimRequest& request, CimXmlWriter& out, bool names) const {
+    CimObjectPath object = _objectName(request, "ObjectName");
+    std::string assocClass = CimOperationHandler::classNameParam(request, "AssocClass");
+    std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
+    std::string role = CimOperationHandler::stringParam(request, "Role");
+    std::string resultRole = CimOperationHandler::stringParam(request, "ResultRole");
+    for (const std::string* c : {&assocClass, &resultClass})
+        if (!c->empty() && !_classes.knowsClassName(request.nameSpace(), *c))
+            fail(CimOperationError::invalidParameter, "class " + *c + " does not exist");
+    InstanceXml::InstanceOptions options;
+    if (!names) {
+        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+        options.propertyList = CimOperationHandler::propertyListParam(request);
+    }
+    auto providerList = toList(options.propertyList);
+    PathSet seen;
+    out.open("IRETURNVALUE");
+    for (const std::string& assoc : _associationClasses(request.nameSpace(), assocClass)) {
+        if (names) {
+            auto paths = viaProvider([&] {
+                return _providers.associatorNames(object, assoc, resultClass, role, resultRole);
+            });
+            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), seen);
+        } else {
+            auto instances = viaProvider([&] {
+                return _providers.associators(object, assoc, resultClass, role, resultRole,
+                                              providerList ? &*providerList : nullptr);
+            });
+            for (CimInstance& instance : instances)
+                _writeObjectWithPath(out, instance, request.nameSpace(), options, seen);
+        }
+    }
+    out.close();
+}
+
+void InstanceOperations::_references(const CimRequest& request, CimXmlWriter& out, bool names) const {
+    CimObjectPath object = _objectName(request, "ObjectName");
+    std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
+    std::string role = CimOperationHandler::stringParam(request, "Role");
+    if (!resultClass.empty() && !_classes.knowsClassName(request.nameSpace(), resultClass))
+        fail(CimOperationError::invalidParameter, "class " + resultClass + " does not exist");
+    InstanceXml::InstanceOptions options;
+    if (!names) {
+        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+        options.propertyList = CimOperationHandler::propertyListParam(request);
+    }
+    auto providerList = toList(options.propertyList);
+    PathSet seen;
+    out.open("IRETURNVALUE");
+    // For references the result class is the association class itself.
+    for (const std::string& assoc : _associationClasses(request.nameSpace(), resultClass)) {
+        if (names) {
+            auto paths = viaProvider([&] { return _providers.referenceNames(object, assoc, role); });
+            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), seen);
+        } else {
+            auto instances = viaProvider([&] {
+                return _providers.references(object, assoc, role, providerList ? &*providerList : nullptr);
+            });
+            for (CimInstance& instance : instances)
+                _writeObjectWithPath(out, instance, request.nameSpace(), options, seen);
+        }
+    }
+    out.close();
+}
+
+void InstanceOperations::_writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace,
+                                          PathSet& seen) const {
+    if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
+    if (!seen.insert(path).second) return;
+    out.open("OBJECTPATH");
+    InstanceXml::writeInstancePath(out, path, _host);
+    out.close();
+}
+
+void InstanceOperations::_writeObjectWithPath(CimXmlWriter& out, const CimInstance& instance,
+                                              const std::string& nameSpace, InstanceXml::InstanceOptions& options,
+                                              PathSet& seen) const {
+    CimObjectPath path = instance.path();
+    if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
+    if (!seen.insert(path).second) return;
+    options.cls = _classes.find(path.nameSpace(), path.className());
+    out.open("VALUE.OBJECTWITHPATH");
+    InstanceXml::writeInstancePath(out, path, _host);
+    InstanceXml::writeInstance(out, instance, options);
+    out.close();
+}
+
+void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& out) const {
+    pugi::xml_node target = request.target();
+    CimObjectPath path;
+    if (pugi::xml_node name = target.child("INSTANCENAME")) {
+        path = InstanceXml::readInstanceName(name, request.nameSpace(), &_classes);
+    } else if (pugi::xml_node cls = target.child("CLASSNAME")) {
+        path = CimObjectPath(request.nameSpace(), cls.attribute("NAME").value());
+    } else {
+        fail(CimOperationError::invalidParameter, "method call without a target");
+    }
+    const CimClassDecl* cls = _classes.find(request.nameSpace(), path.className());
+    if (!cls) fail(CimOperationError::invalidClass, "class " + path.className() + " does not exist");
+    const CimClassDecl::Method* method = cls->findMethod(request.methodName());
+    if (!method)
+        fail(CimOperationError::methodNotFound, "class " + cls->name + " has no method " + request.methodName());
+
+    BrokerUpcalls::Args in;
+    for (const auto& p : request.params()) {
+        const CimClassDecl::Parameter* decl = nullptr;
+        for (const auto& candidate : method->parameters)
+            if (CimName::equal(candidate.name, p.name)) decl = &candidate;
+        if (!decl) fail(CimOperationError::invalidParameter, "method " + method->name + " has no parameter " + p.name);
+        // The MOF types what the client sent untyped; a PARAMTYPE it did send wins.
+        CMPIType type = CimValue::typeFromName(p.paramType.empty() ? decl->type : p.paramType);
+        if (type != CMPI_null && decl->isArray) type = static_cast<CMPIType>(type | CMPI_ARRAY);
+        in.emplace_back(decl->name, InstanceXml::readParamValue(p.node, type, request.nameSpace(), &_classes));
+    }
+    if (!_providers.hasMethodProvider(request.nameSpace(), path.className()))
+        fail(CimOperationError::notSupported, "no method provider serves " + path.className());
+    MethodResult answer = viaProvider([&] { return _providers.invokeMethod(path, method->name, in); });
+    const CimValue& result = answer.returnValue;
+    const auto& outArgs = answer.outArgs;
+
+    std::string returnType = result.isNull() || result.type() == CMPI_null ? method->returnType
+                                                                           : CimValue::typeName(result.elementType());
+    out.open("RETURNVALUE", {{"PARAMTYPE", returnType}});
+    // The client crashes on an empty RETURNVALUE, so a null result still carries a VALUE.
+    if (result.isNull())
+        out.element("VALUE", "");
+    else
+        InstanceXml::writeValue(out, result, _host);
+    out.close();
+    for (const auto& [name, value] : outArgs) {
+        CimXmlWriter::Attributes attributes{{"NAME", name}};
+        if (value.type() != CMPI_null) {
+            std::string type = CimValue::typeName(value.elementType());
+            attributes.emplace_back("PARAMTYPE", type);
+        }
+        out.open("PARAMVALUE", attributes);
+        if (!value.isNull()) InstanceXml::writeValue(out, value, _host);
+        out.close();
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "CimInstance.h"
+#include "CimObjectPath.h"
+#include "CimRequest.h"
+#include "CimXmlWriter.h"
+#include "InstanceXml.h"
+
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+class ClassRepository;
+class CimOperationHandler;
+class ProviderManager;
+
+// The instance, association and method operations: reads their parameters,
+// asks the providers of the class and its subclasses through the
+// ProviderManager, and writes the results in the shapes wbemcli reads.
+class InstanceOperations {
+public:
+    InstanceOperations(const ClassRepository& classes, ProviderManager& providers);
+
+    // HOST written into INSTANCEPATHs ("127.0.0.1:5988").
+    void setHost(std::string host) { _host = std::move(host); }
+
+    // Adds the instance, association and method operations to the handler's table.
+    void registerWith(CimOperationHandler& handler) const;
+
+    void invokeMethod(const CimRequest& request, CimXmlWriter& out) const;
+
+private:
+    void _enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const;
+    void _enumerateInstances(const CimRequest& request, CimXmlWriter& out) const;
+    void _getInstance(const CimRequest& request, CimXmlWriter& out) const;
+    void _associators(const CimRequest& request, CimXmlWriter& out, bool names) const;
+    void _references(const CimRequest& request, CimXmlWriter& out, bool names) const;
+
+    std::string _requireClass(const CimRequest& request, const char* param) const;
+    CimObjectPath _objectName(const CimRequest& request, const char* param) const;
+    // Association classes to ask: the given one and its subclasses, or every
+    // association class of the namespace.
+    std::vector<std::string> _associationClasses(const std::string& nameSpace, const std::string& assocClass) const;
+    void _checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const;
+
+    // Results of several providers may overlap; each path is written once.
+    using PathSet = std::unordered_set<CimObjectPath, CimObjectPathHash>;
+    void _writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace, PathSet& seen) const;
+    void _writeObjectWithPath(CimXmlWriter& out, const CimInstance& instance, const std::string& nameSpace,
+                              InstanceXml::InstanceOptions& options, PathSet& seen) const;
+
+    const ClassRepository& _classes;
+    ProviderManager& _providers;
+    std::string _host = "localhost";
+};

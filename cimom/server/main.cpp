@@ -1,0 +1,196 @@
+// veldra-cimd: the embedded CIM object manager. Reads the class repository,
+// loads the registered providers through CMPI, and serves CIM-XML over HTTP.
+#include "ClassRepository.h"
+#include "CimHttpServer.h"
+#include "CimOperationHandler.h"
+#include "InstanceOperations.h"
+#include "MofError.h"
+#include "PasswordFile.h"
+#include "ProviderManager.h"
+#include "RegistrationFile.h"
+#include "ServerLog.h"
+
+#include <CLI/CLI.hpp>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <optional>
+#include <pthread.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+std::filesystem::path executableDir() {
+    std::error_code ec;
+    auto self = std::filesystem::read_symlink("/proc/self/exe", ec);
+    return ec ? std::filesystem::current_path() : self.parent_path();
+}
+
+struct Options {
+    std::string listen = "127.0.0.1";
+    std::optional<int> port;
+    std::string portFile;
+    std::string config;
+    std::string scenario;
+    std::string registration = VELDRA_DEFAULT_REGISTRATION;
+    std::string mofDir = VELDRA_DEFAULT_MOF_DIR;
+    std::vector<std::string> mofFiles;
+    std::string providerDir;
+    std::string users;
+    std::string cert;
+    std::string key;
+    std::string logLevel = "info";
+    size_t threads = 8;
+    size_t maxBody = 4 * 1024 * 1024;
+    size_t maxHeaders = 64;
+    int maxDepth = 32;
+    int timeout = 30;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Options o;
+    CLI::App app{"veldra-cimd: CIM-XML object manager for the Veldra provider"};
+    app.add_option("--listen", o.listen, "address to listen on (default 127.0.0.1)");
+    app.add_option("--port", o.port, "port; 0 picks a free one (default 5988, 5989 with --cert)")->check(CLI::Range(0, 65535));
+    app.add_option("--port-file", o.portFile, "write the listening port to this file once serving");
+    app.add_option("--config", o.config, "framework configuration file (sets VELDRA_CONFIG)");
+    app.add_option("--scenario", o.scenario, "simulated hardware scenario (sets VELDRA_SCENARIO)");
+    app.add_option("--registration", o.registration, "provider registration file")->capture_default_str();
+    app.add_option("--mof-dir", o.mofDir, "folder of MOF class files")->capture_default_str();
+    app.add_option("--mof", o.mofFiles, "extra MOF file (repeatable)");
+    app.add_option("--provider-dir", o.providerDir, "folder of provider libraries (default <bin>/../lib)");
+    app.add_option("--users", o.users, "users file for HTTP Basic authentication (see veldra-passwd)");
+    app.add_option("--cert", o.cert, "PEM certificate: serve HTTPS");
+    app.add_option("--key", o.key, "PEM private key for --cert");
+    app.add_option("--log-level", o.logLevel, "error, warn, info or debug")->check(CLI::IsMember({"error", "warn", "info", "debug"}));
+    app.add_option("--threads", o.threads, "worker threads")->check(CLI::Range(1, 256));
+    app.add_option("--max-body", o.maxBody, "largest request body in bytes")->check(CLI::Range(1024, 1 << 30));
+    app.add_option("--max-headers", o.maxHeaders, "most request headers")->check(CLI::Range(8, 1024));
+    app.add_option("--max-depth", o.maxDepth, "deepest XML nesting")->check(CLI::Range(8, 1024));
+    app.add_option("--timeout", o.timeout, "read and write timeout in seconds")->check(CLI::Range(1, 3600));
+    CLI11_PARSE(app, argc, argv);
+
+    ServerLog::Level level = ServerLog::Level::Info;
+    ServerLog::parseLevel(o.logLevel, level);
+    ServerLog::setLevel(level);
+
+    if (o.cert.empty() != o.key.empty()) {
+        std::cerr << "veldra-cimd: --cert and --key go together\n";
+        return 2;
+    }
+    if (!CimHttpServer::isLoopback(o.listen) && o.users.empty()) {
+        std::cerr << "veldra-cimd: listening on " << o.listen << " needs --users (credentials)\n";
+        return 2;
+    }
+    // The framework inside the provider reads these; set them before it loads.
+    if (!o.config.empty()) setenv("VELDRA_CONFIG", std::filesystem::absolute(o.config).c_str(), 1);
+    if (!o.scenario.empty()) setenv("VELDRA_SCENARIO", std::filesystem::absolute(o.scenario).c_str(), 1);
+    if (o.providerDir.empty()) o.providerDir = (executableDir() / ".." / "lib").lexically_normal().string();
+
+    // Signals go to one waiting thread; the request threads never see them.
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    signal(SIGPIPE, SIG_IGN);
+
+    ClassRepository classes;
+    std::optional<PasswordFile> users;
+    std::unique_ptr<ProviderManager> providers;
+    try {
+        if (!o.mofDir.empty() && std::filesystem::is_directory(o.mofDir)) classes.loadDirectory(o.mofDir, "root/mwq");
+        else if (!o.mofDir.empty()) ServerLog::warn("MOF folder " + o.mofDir + " not found");
+        for (const auto& f : o.mofFiles) classes.loadFile(f, "root/mwq");
+        if (!o.users.empty()) users = PasswordFile::load(o.users);
+        classes.resolve();
+        ProviderManager::Options managerOptions;
+        managerOptions.libraryDirs = {o.providerDir};
+        // Providers ask the broker about class ancestry; the repository answers.
+        managerOptions.classIsA = [&classes](const std::string& ns, const std::string& cls, const std::string& base) {
+            return classes.isA(ns, cls, base);
+        };
+        managerOptions.log = [](int severity, const std::string& text) {
+            switch (severity) {
+                case CMPI_SEV_ERROR: ServerLog::error(text); break;
+                case CMPI_SEV_WARNING: ServerLog::warn(text); break;
+                case CMPI_SEV_INFO: ServerLog::info(text); break;
+                default: ServerLog::debug(text); break;
+            }
+        };
+        providers = std::make_unique<ProviderManager>(managerOptions);
+        if (!o.registration.empty()) {
+            if (!std::filesystem::exists(o.registration))
+                throw std::runtime_error("registration file " + o.registration + " not found");
+            // The namespaces a registration names exist even where no MOF puts a class.
+            for (const auto& p : RegistrationFile::load(o.registration).providers)
+                for (const auto& ns : p.namespaces) classes.addNamespace(ns);
+            providers->loadRegistrationFile(o.registration);
+            ServerLog::info("loaded providers from " + o.registration);
+        }
+    } catch (const MofError& e) {
+        std::cerr << "veldra-cimd: " << e.what() << "\n";
+        return 1;
+    } catch (const std::exception& e) {
+        std::cerr << "veldra-cimd: " << e.what() << "\n";
+        return 1;
+    }
+
+    InstanceOperations instances(classes, *providers);
+    CimOperationHandler handler(classes, CimOperationHandler::Settings{o.maxDepth});
+    instances.registerWith(handler);
+    CimHttpServer::Settings settings;
+    settings.listen = o.listen;
+    settings.port = o.port.value_or(o.cert.empty() ? 5988 : 5989);
+    settings.certFile = o.cert;
+    settings.keyFile = o.key;
+    settings.threads = o.threads;
+    settings.maxBodyBytes = o.maxBody;
+    settings.maxHeaders = o.maxHeaders;
+    settings.timeoutSeconds = o.timeout;
+    settings.users = users ? &*users : nullptr;
+
+    int port = 0;
+    std::unique_ptr<CimHttpServer> server;
+    try {
+        server = std::make_unique<CimHttpServer>(settings, [&handler](CimHttpExchange& e) { handler.handle(e); });
+        port = server->bind();
+        instances.setHost(o.listen + ":" + std::to_string(port));
+    } catch (const std::exception& e) {
+        std::cerr << "veldra-cimd: " << e.what() << "\n";
+        providers->shutdown();
+        return 1;
+    }
+    std::cout << "veldra-cimd listening on " << (o.cert.empty() ? "http://" : "https://") << o.listen << ":" << port
+              << std::endl;
+    if (!o.portFile.empty()) {
+        // Written whole and renamed, so a reader never sees half a number.
+        std::string tmp = o.portFile + ".tmp";
+        std::ofstream(tmp) << port << "\n";
+        std::filesystem::rename(tmp, o.portFile);
+    }
+
+    std::thread waiter([&server, &signals] {
+        int received = 0;
+        sigwait(&signals, &received);
+        ServerLog::info(std::string("received ") + (received == SIGTERM ? "SIGTERM" : "SIGINT") + ", shutting down");
+        server->stop();
+    });
+    server->run();
+    // run() returns once stopped and the worker pool has drained.
+    if (waiter.joinable()) {
+        // A stop that did not come from a signal still has to free the waiter.
+        pthread_kill(waiter.native_handle(), SIGTERM);
+        waiter.join();
+    }
+    server.reset();
+    providers->shutdown();
+    ServerLog::info("stopped");
+    return 0;
+}
