@@ -25,6 +25,16 @@ template <typename T> T* made(T* object, CMPIStatus const& rc, char const* what)
     return object;
 }
 
+// The value argument of a CMPI setter: null for a null value; for CMPI_chars
+// the characters themselves, as the setters take them; otherwise the union.
+CMPIValue const* setterValue(CMPIData const& raw, bool isNull) {
+    if (isNull)
+        return nullptr;
+    if (raw.type == CMPI_chars)
+        return reinterpret_cast<CMPIValue const*>(raw.value.chars);
+    return &raw.value;
+}
+
 template <typename T> void requireTable(T const* object, char const* what) {
     if (!object || !object->ft)
         throw CmpiStatus(CMPI_RC_ERR_INVALID_HANDLE, std::string("null ") + what);
@@ -54,8 +64,8 @@ CMPIObjectPath* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiObjectPath con
     for (unsigned int i = 0; i < path.getKeyCount(); ++i) {
         CmpiData const& key = path.getKeyAt(i);
         CMPIData raw = _transient(broker, key);
-        check(op->ft->addKey(op, path.getKeyNameAt(i).c_str(),
-                             key.isNull() ? nullptr : &raw.value, raw.type),
+        check(op->ft->addKey(op, path.getKeyNameAt(i).c_str(), setterValue(raw, key.isNull()),
+                             raw.type),
               "addKey");
     }
     return op;
@@ -70,7 +80,7 @@ CMPIInstance* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiInstance const& 
         CmpiData const& value = instance.getPropertyAt(i);
         CMPIData raw = _transient(broker, value);
         check(ci->ft->setProperty(ci, instance.getPropertyNameAt(i).c_str(),
-                                  value.isNull() ? nullptr : &raw.value, raw.type),
+                                  setterValue(raw, value.isNull()), raw.type),
               "setProperty");
     }
     return ci;
@@ -115,7 +125,7 @@ void CmpiConvert::addArgs(CmpiBroker const& broker, CMPIArgs const* out, CmpiArg
         CmpiData const& value = args.getArgAt(i);
         CMPIData raw = _transient(broker, value);
         check(out->ft->addArg(out, args.getArgNameAt(i).c_str(),
-                              value.isNull() ? nullptr : &raw.value, raw.type),
+                              setterValue(raw, value.isNull()), raw.type),
               "addArg");
     }
 }
