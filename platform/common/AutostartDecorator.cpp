@@ -111,7 +111,8 @@ void AutostartDecorator::cleanup(CmpiContext const& context, bool terminating) {
 // manager's broker answers with a fresh one.
 void AutostartDecorator::_prepareFrom(CmpiContext const& context) {
     std::lock_guard lock(_mutex);
-    if (_prepared.load()) {
+    // After a stop no thread will attach, so nothing is to be prepared.
+    if (_prepared.load() || _stopping) {
         return;
     }
     try {
@@ -203,6 +204,9 @@ void AutostartDecorator::_run() {
     CmpiContext context;
     {
         std::lock_guard lock(_mutex);
+        if (_stopping) {
+            return;
+        }
         context = _threadContext;
     }
     bool attached = false;
