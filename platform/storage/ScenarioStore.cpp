@@ -3,6 +3,7 @@
 #include "ScenarioParser.h"
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,6 +30,7 @@ ScenarioStore::ScenarioStore(std::string path, Logger const& logger) : _path(std
     std::string text = _readFile(_path, _seen);
     auto scenario = std::make_shared<VeldraScenario const>(ScenarioParser::parseText(text, _path));
     _current = scenario;
+    _releaseParserMemory();
     while (_counters.size() < scenario->controllers.size()) _counters.emplace_back();
 }
 
@@ -79,11 +81,18 @@ void ScenarioStore::refresh() {
                                 " controllers where " + std::to_string(_current->controllers.size()) +
                                 " were; controllers cannot be removed while running");
         _adopt(std::move(next));
+        _releaseParserMemory();
         _logger.info("scenario %s reloaded", _path.c_str());
     } catch (ScenarioError const& e) {
         // _seen already names this version of the file, so it is logged once.
         _logger.error("scenario rejected, keeping the last good state: %s", e.what());
     }
+}
+
+void ScenarioStore::_releaseParserMemory() {
+    // The YAML tree of a large scenario is many times the size of what we
+    // keep; hand the freed pages back, since the object manager runs for long.
+    ::malloc_trim(0);
 }
 
 void ScenarioStore::_adopt(std::shared_ptr<VeldraScenario const> next) {

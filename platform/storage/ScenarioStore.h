@@ -44,6 +44,7 @@ private:
     static std::string _readFile(std::string const& path, Signature& signature);
     static bool _statFile(std::string const& path, Signature& signature);
     void _adopt(std::shared_ptr<VeldraScenario const> next);
+    static void _releaseParserMemory();
 
     std::string _path;
     Logger _logger;
