@@ -52,7 +52,9 @@ BrokerObjectPath& pathOf(const CMPIObjectPath* op) {
     return *p;
 }
 
-std::string text(const char* s) { return s ? std::string(s) : std::string(); }
+std::string text(const char* s) {
+    return s ? std::string(s) : std::string();
+}
 
 std::vector<std::string> propertyList(const char** properties, bool& present) {
     std::vector<std::string> out;
@@ -64,22 +66,33 @@ std::vector<std::string> propertyList(const char** properties, bool& present) {
 }
 
 // A request path may lack the namespace when a provider builds it loosely.
-CimObjectPath requestPath(const CMPIObjectPath* op) { return pathOf(op).path(); }
+CimObjectPath requestPath(const CMPIObjectPath* op) {
+    return pathOf(op).path();
+}
 
 // The CMPI object behind any handle, to answer toString/isOfType/getType.
 EncapsulatedObject* identify(const void* object) {
     if (object == nullptr) {
         return nullptr;
     }
-    if (auto* o = BrokerInstance::from(static_cast<const CMPIInstance*>(object))) return o;
-    if (auto* o = BrokerObjectPath::from(static_cast<const CMPIObjectPath*>(object))) return o;
-    if (auto* o = BrokerString::from(static_cast<const CMPIString*>(object))) return o;
-    if (auto* o = BrokerArray::from(static_cast<const CMPIArray*>(object))) return o;
-    if (auto* o = BrokerArgs::from(static_cast<const CMPIArgs*>(object))) return o;
-    if (auto* o = BrokerDateTime::from(static_cast<const CMPIDateTime*>(object))) return o;
-    if (auto* o = BrokerEnumeration::from(static_cast<const CMPIEnumeration*>(object))) return o;
-    if (auto* o = BrokerContext::from(static_cast<const CMPIContext*>(object))) return o;
-    if (auto* o = BrokerResult::from(static_cast<const CMPIResult*>(object))) return o;
+    if (auto* o = BrokerInstance::from(static_cast<const CMPIInstance*>(object)))
+        return o;
+    if (auto* o = BrokerObjectPath::from(static_cast<const CMPIObjectPath*>(object)))
+        return o;
+    if (auto* o = BrokerString::from(static_cast<const CMPIString*>(object)))
+        return o;
+    if (auto* o = BrokerArray::from(static_cast<const CMPIArray*>(object)))
+        return o;
+    if (auto* o = BrokerArgs::from(static_cast<const CMPIArgs*>(object)))
+        return o;
+    if (auto* o = BrokerDateTime::from(static_cast<const CMPIDateTime*>(object)))
+        return o;
+    if (auto* o = BrokerEnumeration::from(static_cast<const CMPIEnumeration*>(object)))
+        return o;
+    if (auto* o = BrokerContext::from(static_cast<const CMPIContext*>(object)))
+        return o;
+    if (auto* o = BrokerResult::from(static_cast<const CMPIResult*>(object)))
+        return o;
     return nullptr;
 }
 
@@ -128,7 +141,8 @@ CMPIStatus attachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         Broker& b = brokerOf(mb);
         if (BrokerContext::from(ctx) == nullptr) {
-            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "attachThread needs a context of this broker");
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
+                           "attachThread needs a context of this broker");
         }
         attachedArenas.emplace_back(&b, b.registry().pushArena());
     });
@@ -139,7 +153,8 @@ CMPIStatus detachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
         Broker& b = brokerOf(mb);
         BrokerContext* c = BrokerContext::from(ctx);
         if (c == nullptr) {
-            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "detachThread needs a context of this broker");
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
+                           "detachThread needs a context of this broker");
         }
         for (auto it = attachedArenas.rbegin(); it != attachedArenas.rend(); ++it) {
             if (it->first == &b) {
@@ -158,7 +173,8 @@ CMPIStatus deliverIndication(const CMPIBroker* mb, const CMPIContext*, const cha
         Broker& b = brokerOf(mb);
         BrokerInstance* i = BrokerInstance::from(ind);
         if (i == nullptr) {
-            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "indication is not an instance of this broker");
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
+                           "indication is not an instance of this broker");
         }
         b.deliver(text(ns), i->instance());
     });
@@ -185,7 +201,8 @@ CMPIInstance* getInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIOb
 
 CMPIObjectPath* createInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*,
                                const CMPIInstance*, CMPIStatus* rc) {
-    if (rc) *rc = notSupported(mb, "createInstance");
+    if (rc)
+        *rc = notSupported(mb, "createInstance");
     return nullptr;
 }
 
@@ -200,7 +217,8 @@ CMPIStatus deleteInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIOb
 
 CMPIEnumeration* execQuery(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*,
                            const char*, const char*, CMPIStatus* rc) {
-    if (rc) *rc = notSupported(mb, "execQuery");
+    if (rc)
+        *rc = notSupported(mb, "execQuery");
     return nullptr;
 }
 
@@ -211,8 +229,8 @@ CMPIEnumeration* enumerateInstances(const CMPIBroker* mb, const CMPIContext*,
         Broker& b = brokerOf(mb);
         bool present = false;
         const auto list = propertyList(properties, present);
-        return enumerationOf(
-            b, asValues(b.upcalls().enumerateInstances(requestPath(op), present ? &list : nullptr)));
+        return enumerationOf(b, asValues(b.upcalls().enumerateInstances(
+                                    requestPath(op), present ? &list : nullptr)));
     });
 }
 
@@ -247,8 +265,9 @@ CMPIEnumeration* references(const CMPIBroker* mb, const CMPIContext*, const CMPI
         Broker& b = brokerOf(mb);
         bool present = false;
         const auto list = propertyList(properties, present);
-        return enumerationOf(b, asValues(b.upcalls().references(requestPath(op), text(resultClass),
-                                                                text(role), present ? &list : nullptr)));
+        return enumerationOf(
+            b, asValues(b.upcalls().references(requestPath(op), text(resultClass), text(role),
+                                               present ? &list : nullptr)));
     });
 }
 
@@ -256,8 +275,8 @@ CMPIEnumeration* referenceNames(const CMPIBroker* mb, const CMPIContext*, const 
                                 const char* resultClass, const char* role, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
-        return enumerationOf(
-            b, asValues(b.upcalls().referenceNames(requestPath(op), text(resultClass), text(role))));
+        return enumerationOf(b, asValues(b.upcalls().referenceNames(
+                                    requestPath(op), text(resultClass), text(role))));
     });
 }
 
@@ -297,33 +316,34 @@ CMPIStatus setProperty(const CMPIBroker* mb, const CMPIContext*, const CMPIObjec
 
 CMPIData getProperty(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*, const char*,
                      CMPIStatus* rc) {
-    if (rc) *rc = notSupported(mb, "getProperty");
+    if (rc)
+        *rc = notSupported(mb, "getProperty");
     return ValueConverter::notFound();
 }
 
-const CMPIBrokerFT mainTable = {
-    CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_AssociationTraversal | CMPI_MB_Indications |
-        CMPI_MB_OSEncapsulationSupport | CMPI_MB_Supports_MemEnhancements,
-    CMPICurrentVersion,
-    Broker::name,
-    prepareAttachThread,
-    attachThread,
-    detachThread,
-    deliverIndication,
-    enumerateInstanceNames,
-    getInstance,
-    createInstance,
-    modifyInstance,
-    deleteInstance,
-    execQuery,
-    enumerateInstances,
-    associators,
-    associatorNames,
-    references,
-    referenceNames,
-    invokeMethod,
-    setProperty,
-    getProperty};
+const CMPIBrokerFT mainTable = {CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_AssociationTraversal |
+                                    CMPI_MB_Indications | CMPI_MB_OSEncapsulationSupport |
+                                    CMPI_MB_Supports_MemEnhancements,
+                                CMPICurrentVersion,
+                                Broker::name,
+                                prepareAttachThread,
+                                attachThread,
+                                detachThread,
+                                deliverIndication,
+                                enumerateInstanceNames,
+                                getInstance,
+                                createInstance,
+                                modifyInstance,
+                                deleteInstance,
+                                execQuery,
+                                enumerateInstances,
+                                associators,
+                                associatorNames,
+                                references,
+                                referenceNames,
+                                invokeMethod,
+                                setProperty,
+                                getProperty};
 
 // ---- Encapsulated table --------------------------------------------------
 
@@ -340,9 +360,13 @@ CMPIInstance* newInstance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPISt
     });
 }
 
-CMPIObjectPath* newObjectPath(const CMPIBroker* mb, const char* ns, const char* cn, CMPIStatus* rc) {
+CMPIObjectPath* newObjectPath(const CMPIBroker* mb, const char* ns, const char* cn,
+                              CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIObjectPath*>(registryOf(mb), rc, nullptr, [&] {
-        return brokerOf(mb).registry().make<BrokerObjectPath>(CimObjectPath(text(ns), text(cn)))->cmpi();
+        return brokerOf(mb)
+            .registry()
+            .make<BrokerObjectPath>(CimObjectPath(text(ns), text(cn)))
+            ->cmpi();
     });
 }
 
@@ -391,7 +415,8 @@ CMPIDateTime* newDateTimeFromChars(const CMPIBroker* mb, const char* datetime, C
 
 CMPISelectExp* newSelectExp(const CMPIBroker* mb, const char*, const char*, CMPIArray**,
                             CMPIStatus* rc) {
-    if (rc) *rc = notSupported(mb, "newSelectExp");
+    if (rc)
+        *rc = notSupported(mb, "newSelectExp");
     return nullptr;
 }
 
@@ -423,7 +448,8 @@ CMPIBoolean isOfType(const CMPIBroker* mb, const void* object, const char* type,
         if (o == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "not an object of this broker");
         }
-        return static_cast<CMPIBoolean>(type != nullptr && std::strcmp(o->cmpiTypeName(), type) == 0);
+        return static_cast<CMPIBoolean>(type != nullptr &&
+                                        std::strcmp(o->cmpiTypeName(), type) == 0);
     });
 }
 
@@ -444,7 +470,9 @@ std::string formatMessage(const char* defMsg, CMPICount count, va_list ap) {
     for (CMPICount i = 0; i < count && i < 10; ++i) {
         const int type = va_arg(ap, int);
         switch (type) {
-        case CMPI_chars: inserts.push_back(text(va_arg(ap, const char*))); break;
+        case CMPI_chars:
+            inserts.push_back(text(va_arg(ap, const char*)));
+            break;
         case CMPI_string: {
             BrokerString* s = BrokerString::from(va_arg(ap, const CMPIString*));
             inserts.push_back(s ? s->text() : std::string());
@@ -452,15 +480,27 @@ std::string formatMessage(const char* defMsg, CMPICount count, va_list ap) {
         }
         case CMPI_sint8:
         case CMPI_sint16:
-        case CMPI_sint32: inserts.push_back(std::to_string(va_arg(ap, long))); break;
+        case CMPI_sint32:
+            inserts.push_back(std::to_string(va_arg(ap, long)));
+            break;
         case CMPI_uint8:
         case CMPI_uint16:
-        case CMPI_uint32: inserts.push_back(std::to_string(va_arg(ap, unsigned long))); break;
-        case CMPI_sint64: inserts.push_back(std::to_string(va_arg(ap, long long))); break;
-        case CMPI_uint64: inserts.push_back(std::to_string(va_arg(ap, unsigned long long))); break;
+        case CMPI_uint32:
+            inserts.push_back(std::to_string(va_arg(ap, unsigned long)));
+            break;
+        case CMPI_sint64:
+            inserts.push_back(std::to_string(va_arg(ap, long long)));
+            break;
+        case CMPI_uint64:
+            inserts.push_back(std::to_string(va_arg(ap, unsigned long long)));
+            break;
         case CMPI_real32:
-        case CMPI_real64: inserts.push_back(std::to_string(va_arg(ap, double))); break;
-        case CMPI_boolean: inserts.push_back(va_arg(ap, int) ? "true" : "false"); break;
+        case CMPI_real64:
+            inserts.push_back(std::to_string(va_arg(ap, double)));
+            break;
+        case CMPI_boolean:
+            inserts.push_back(va_arg(ap, int) ? "true" : "false");
+            break;
         default:
             // Unknown insert type: the rest of the list cannot be read safely.
             i = count;
@@ -503,20 +543,21 @@ std::string logText(const char* id, const char* txt, const CMPIString* string) {
 
 CMPIStatus logMessage(const CMPIBroker* mb, int severity, const char* id, const char* txt,
                       const CMPIString* string) {
-    return BrokerStatus::guard(registryOf(mb), [&] { brokerOf(mb).log(severity, logText(id, txt, string)); });
+    return BrokerStatus::guard(registryOf(mb),
+                               [&] { brokerOf(mb).log(severity, logText(id, txt, string)); });
 }
 
 CMPIStatus trace(const CMPIBroker* mb, int, const char* component, const char* txt,
                  const CMPIString* string) {
-    return BrokerStatus::guard(registryOf(mb), [&] {
-        brokerOf(mb).log(CMPI_DEV_DEBUG, logText(component, txt, string));
-    });
+    return BrokerStatus::guard(
+        registryOf(mb), [&] { brokerOf(mb).log(CMPI_DEV_DEBUG, logText(component, txt, string)); });
 }
 
 CMPIError* newCMPIError(const CMPIBroker* mb, const char*, const char*, const char*,
                         const CMPIErrorSeverity, const CMPIErrorProbableCause, const CMPIrc,
                         CMPIStatus* rc) {
-    if (rc) *rc = notSupported(mb, "newCMPIError");
+    if (rc)
+        *rc = notSupported(mb, "newCMPIError");
     return nullptr;
 }
 
@@ -534,8 +575,8 @@ CMPIStatus closeMessageFile(const CMPIBroker* mb, const CMPIMsgFileHandle) {
     return BrokerStatus::guard(registryOf(mb), [&] { brokerOf(mb); });
 }
 
-CMPIString* getMessage2(const CMPIBroker* mb, const char*, const CMPIMsgFileHandle, const char* defMsg,
-                        CMPIStatus* rc, CMPICount count, ...) {
+CMPIString* getMessage2(const CMPIBroker* mb, const char*, const CMPIMsgFileHandle,
+                        const char* defMsg, CMPIStatus* rc, CMPICount count, ...) {
     va_list ap;
     va_start(ap, count);
     std::string msg = formatMessage(defMsg, count, ap);
@@ -617,9 +658,13 @@ int joinThread(CMPI_THREAD_TYPE thread, CMPI_THREAD_RETURN* retval) {
     return pthread_join(threadOf(thread), retval);
 }
 
-int exitThread(CMPI_THREAD_RETURN returnCode) { pthread_exit(returnCode); }
+int exitThread(CMPI_THREAD_RETURN returnCode) {
+    pthread_exit(returnCode);
+}
 
-int cancelThread(CMPI_THREAD_TYPE thread) { return pthread_cancel(threadOf(thread)); }
+int cancelThread(CMPI_THREAD_TYPE thread) {
+    return pthread_cancel(threadOf(thread));
+}
 
 int threadSleep(CMPIUint32 msec) {
     timespec ts{static_cast<time_t>(msec / 1000), static_cast<long>(msec % 1000) * 1000000L};
@@ -648,9 +693,15 @@ int threadOnce(int* once, void (*init)(void)) {
 int createThreadKey(CMPI_THREAD_KEY_TYPE* key, void (*cleanup)(void*)) {
     return pthread_key_create(key, cleanup);
 }
-int destroyThreadKey(CMPI_THREAD_KEY_TYPE key) { return pthread_key_delete(key); }
-void* getThreadSpecific(CMPI_THREAD_KEY_TYPE key) { return pthread_getspecific(key); }
-int setThreadSpecific(CMPI_THREAD_KEY_TYPE key, void* value) { return pthread_setspecific(key, value); }
+int destroyThreadKey(CMPI_THREAD_KEY_TYPE key) {
+    return pthread_key_delete(key);
+}
+void* getThreadSpecific(CMPI_THREAD_KEY_TYPE key) {
+    return pthread_getspecific(key);
+}
+int setThreadSpecific(CMPI_THREAD_KEY_TYPE key, void* value) {
+    return pthread_setspecific(key, value);
+}
 
 CMPI_MUTEX_TYPE newMutex(int) {
     // Recursive: providers written for other object managers may re-lock.
@@ -668,8 +719,12 @@ void destroyMutex(CMPI_MUTEX_TYPE m) {
         delete static_cast<pthread_mutex_t*>(m);
     }
 }
-void lockMutex(CMPI_MUTEX_TYPE m) { pthread_mutex_lock(static_cast<pthread_mutex_t*>(m)); }
-void unlockMutex(CMPI_MUTEX_TYPE m) { pthread_mutex_unlock(static_cast<pthread_mutex_t*>(m)); }
+void lockMutex(CMPI_MUTEX_TYPE m) {
+    pthread_mutex_lock(static_cast<pthread_mutex_t*>(m));
+}
+void unlockMutex(CMPI_MUTEX_TYPE m) {
+    pthread_mutex_unlock(static_cast<pthread_mutex_t*>(m));
+}
 
 CMPI_COND_TYPE newCondition(int) {
     auto* c = new pthread_cond_t;
@@ -686,17 +741,19 @@ int condWait(CMPI_COND_TYPE c, CMPI_MUTEX_TYPE m) {
     return pthread_cond_wait(static_cast<pthread_cond_t*>(c), static_cast<pthread_mutex_t*>(m));
 }
 int timedCondWait(CMPI_COND_TYPE c, CMPI_MUTEX_TYPE m, struct timespec* wait) {
-    return pthread_cond_timedwait(static_cast<pthread_cond_t*>(c), static_cast<pthread_mutex_t*>(m), wait);
+    return pthread_cond_timedwait(static_cast<pthread_cond_t*>(c), static_cast<pthread_mutex_t*>(m),
+                                  wait);
 }
-int signalCondition(CMPI_COND_TYPE c) { return pthread_cond_signal(static_cast<pthread_cond_t*>(c)); }
+int signalCondition(CMPI_COND_TYPE c) {
+    return pthread_cond_signal(static_cast<pthread_cond_t*>(c));
+}
 
-const CMPIBrokerExtFT extTable = {CMPICurrentVersion, resolveFileName,  newThread,
-                                  joinThread,         exitThread,       cancelThread,
-                                  threadSleep,        threadOnce,       createThreadKey,
-                                  destroyThreadKey,   getThreadSpecific, setThreadSpecific,
-                                  newMutex,           destroyMutex,     lockMutex,
-                                  unlockMutex,        newCondition,     destroyCondition,
-                                  condWait,           timedCondWait,    signalCondition};
+const CMPIBrokerExtFT extTable = {
+    CMPICurrentVersion, resolveFileName,   newThread,        joinThread,      exitThread,
+    cancelThread,       threadSleep,       threadOnce,       createThreadKey, destroyThreadKey,
+    getThreadSpecific,  setThreadSpecific, newMutex,         destroyMutex,    lockMutex,
+    unlockMutex,        newCondition,      destroyCondition, condWait,        timedCondWait,
+    signalCondition};
 
 // ---- Memory table ---------------------------------------------------------------
 
@@ -763,22 +820,34 @@ template <class Obj, class C> void freeObject(const CMPIBroker* mb, C* handle) {
     }
 }
 
-void freeInstance(const CMPIBroker* mb, CMPIInstance* i) { freeObject<BrokerInstance>(mb, i); }
-void freeObjectPath(const CMPIBroker* mb, CMPIObjectPath* p) { freeObject<BrokerObjectPath>(mb, p); }
-void freeArgs(const CMPIBroker* mb, CMPIArgs* a) { freeObject<BrokerArgs>(mb, a); }
-void freeString(const CMPIBroker* mb, CMPIString* s) { freeObject<BrokerString>(mb, s); }
-void freeArray(const CMPIBroker* mb, CMPIArray* a) { freeObject<BrokerArray>(mb, a); }
-void freeDateTime(const CMPIBroker* mb, CMPIDateTime* d) { freeObject<BrokerDateTime>(mb, d); }
+void freeInstance(const CMPIBroker* mb, CMPIInstance* i) {
+    freeObject<BrokerInstance>(mb, i);
+}
+void freeObjectPath(const CMPIBroker* mb, CMPIObjectPath* p) {
+    freeObject<BrokerObjectPath>(mb, p);
+}
+void freeArgs(const CMPIBroker* mb, CMPIArgs* a) {
+    freeObject<BrokerArgs>(mb, a);
+}
+void freeString(const CMPIBroker* mb, CMPIString* s) {
+    freeObject<BrokerString>(mb, s);
+}
+void freeArray(const CMPIBroker* mb, CMPIArray* a) {
+    freeObject<BrokerArray>(mb, a);
+}
+void freeDateTime(const CMPIBroker* mb, CMPIDateTime* d) {
+    freeObject<BrokerDateTime>(mb, d);
+}
 void freeSelectExp(const CMPIBroker*, CMPISelectExp*) {
     // The broker never makes select expressions.
 }
 
-const CMPIBrokerMemFT memTable = {CMPICurrentVersion, mark,           releaseMark, cmpiMalloc,
-                                  cmpiCalloc,         cmpiRealloc,    cmpiStrDup,  cmpiFree,
-                                  freeInstance,       freeObjectPath, freeArgs,    freeString,
+const CMPIBrokerMemFT memTable = {CMPICurrentVersion, mark,           releaseMark,  cmpiMalloc,
+                                  cmpiCalloc,         cmpiRealloc,    cmpiStrDup,   cmpiFree,
+                                  freeInstance,       freeObjectPath, freeArgs,     freeString,
                                   freeArray,          freeDateTime,   freeSelectExp};
 
-}  // namespace
+} // namespace
 
 Broker::Broker() : _cmpi{this, &mainTable, &encTable, &extTable, &memTable} {}
 
@@ -814,10 +883,10 @@ void Broker::setLog(LogFunction log) {
 
 BrokerContext* Broker::newContext(const std::string& nameSpace, CMPIFlags flags,
                                   const std::string& principal) {
-    return _registry.make<BrokerContext>(std::vector<BrokerContext::Entry>{
-        {CMPIInvocationFlags, CimValue::uint32(flags)},
-        {CMPIInitNameSpace, CimValue::string(nameSpace)},
-        {CMPIPrincipal, CimValue::string(principal)}});
+    return _registry.make<BrokerContext>(
+        std::vector<BrokerContext::Entry>{{CMPIInvocationFlags, CimValue::uint32(flags)},
+                                          {CMPIInitNameSpace, CimValue::string(nameSpace)},
+                                          {CMPIPrincipal, CimValue::string(principal)}});
 }
 
 BrokerUpcalls& Broker::upcalls() {
@@ -839,7 +908,8 @@ void Broker::deliver(const std::string& nameSpace, const CimInstance& indication
     }
 }
 
-bool Broker::isA(const std::string& nameSpace, const std::string& className, const std::string& ancestor) {
+bool Broker::isA(const std::string& nameSpace, const std::string& className,
+                 const std::string& ancestor) {
     ClassIsA isA;
     {
         std::lock_guard<std::mutex> lock(_mutex);

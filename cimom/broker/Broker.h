@@ -49,7 +49,8 @@ public:
     static Broker* from(const CMPIBroker* mb);
     BrokerUpcalls& upcalls();
     void deliver(const std::string& nameSpace, const CimInstance& indication);
-    bool isA(const std::string& nameSpace, const std::string& className, const std::string& ancestor);
+    bool isA(const std::string& nameSpace, const std::string& className,
+             const std::string& ancestor);
     void log(int severity, const std::string& text);
 
 private:

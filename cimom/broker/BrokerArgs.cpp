@@ -21,7 +21,8 @@ CMPIArgs* clone(const CMPIArgs* a, CMPIStatus* rc) {
     });
 }
 
-CMPIStatus addArg(const CMPIArgs* a, const char* name, const CMPIValue* value, const CMPIType type) {
+CMPIStatus addArg(const CMPIArgs* a, const char* name, const CMPIValue* value,
+                  const CMPIType type) {
     return BrokerStatus::onStatus<Self>(a, [&](Self& self) {
         if (name == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, "argument name is null");
@@ -56,14 +57,14 @@ CMPIData getArgAt(const CMPIArgs* a, CMPICount index, CMPIString** name, CMPISta
 }
 
 CMPICount getArgCount(const CMPIArgs* a, CMPIStatus* rc) {
-    return BrokerStatus::on<Self>(a, rc, CMPICount(0), [](Self& self) {
-        return static_cast<CMPICount>(self.args().size());
-    });
+    return BrokerStatus::on<Self>(
+        a, rc, CMPICount(0), [](Self& self) { return static_cast<CMPICount>(self.args().size()); });
 }
 
-const CMPIArgsFT argsTable = {CMPICurrentVersion, release, clone, addArg, getArg, getArgAt, getArgCount};
+const CMPIArgsFT argsTable = {CMPICurrentVersion, release,    clone, addArg, getArg,
+                              getArgAt,           getArgCount};
 
-}  // namespace
+} // namespace
 
 BrokerArgs::BrokerArgs(ObjectRegistry& registry, std::vector<Arg> args)
     : EncapsulatedObject(registry), _cmpi{this, &argsTable}, _args(std::move(args)) {}

@@ -13,15 +13,17 @@ CMPIType normalized(CMPIType t) {
 }
 
 CMPIStatus release(CMPIArray* a) {
-    return BrokerStatus::onStatus<BrokerArray>(a, [](BrokerArray& self) { self.registry().release(&self); });
+    return BrokerStatus::onStatus<BrokerArray>(
+        a, [](BrokerArray& self) { self.registry().release(&self); });
 }
 
 CMPIArray* clone(const CMPIArray* a, CMPIStatus* rc) {
-    return BrokerStatus::on<BrokerArray>(a, rc, static_cast<CMPIArray*>(nullptr), [](BrokerArray& self) {
-        return self.registry()
-            .makeDetached<BrokerArray>(self.elementType(), self.elements())
-            ->cmpi();
-    });
+    return BrokerStatus::on<BrokerArray>(
+        a, rc, static_cast<CMPIArray*>(nullptr), [](BrokerArray& self) {
+            return self.registry()
+                .makeDetached<BrokerArray>(self.elementType(), self.elements())
+                ->cmpi();
+        });
 }
 
 CMPICount getSize(const CMPIArray* a, CMPIStatus* rc) {
@@ -52,9 +54,9 @@ CMPIStatus setElementAt(CMPIArray* a, CMPICount index, const CMPIValue* value, C
                            "array index " + std::to_string(index) + " out of range");
         }
         if (type != CMPI_null && normalized(type) != self.elementType()) {
-            throw CimError(CMPI_RC_ERR_TYPE_MISMATCH,
-                           CimValue::typeName(type) + " set into an array of " +
-                               CimValue::typeName(self.elementType()));
+            throw CimError(CMPI_RC_ERR_TYPE_MISMATCH, CimValue::typeName(type) +
+                                                          " set into an array of " +
+                                                          CimValue::typeName(self.elementType()));
         }
         CimValue v = type == CMPI_null ? CimValue::null(self.elementType())
                                        : ValueConverter::toCim(value, type);
@@ -65,10 +67,10 @@ CMPIStatus setElementAt(CMPIArray* a, CMPICount index, const CMPIValue* value, C
     });
 }
 
-const CMPIArrayFT arrayTable = {CMPICurrentVersion, release, clone, getSize, getSimpleType,
-                                getElementAt, setElementAt};
+const CMPIArrayFT arrayTable = {CMPICurrentVersion, release,      clone,       getSize,
+                                getSimpleType,      getElementAt, setElementAt};
 
-}  // namespace
+} // namespace
 
 BrokerArray::BrokerArray(ObjectRegistry& registry, CMPICount size, CMPIType elementType)
     : EncapsulatedObject(registry), _cmpi{this, &arrayTable}, _elementType(normalized(elementType)),

@@ -52,7 +52,8 @@ CMPICount getEntryCount(const CMPIContext* c, CMPIStatus* rc) {
     });
 }
 
-CMPIStatus addEntry(const CMPIContext* c, const char* name, const CMPIValue* value, const CMPIType type) {
+CMPIStatus addEntry(const CMPIContext* c, const char* name, const CMPIValue* value,
+                    const CMPIType type) {
     return BrokerStatus::onStatus<Self>(c, [&](Self& self) {
         if (name == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, "entry name is null");
@@ -61,10 +62,10 @@ CMPIStatus addEntry(const CMPIContext* c, const char* name, const CMPIValue* val
     });
 }
 
-const CMPIContextFT contextTable = {CMPICurrentVersion, release, clone, getEntry, getEntryAt,
-                                    getEntryCount, addEntry};
+const CMPIContextFT contextTable = {CMPICurrentVersion, release,       clone,   getEntry,
+                                    getEntryAt,         getEntryCount, addEntry};
 
-}  // namespace
+} // namespace
 
 BrokerContext::BrokerContext(ObjectRegistry& registry, std::vector<Entry> entries)
     : EncapsulatedObject(registry), _cmpi{this, &contextTable}, _entries(std::move(entries)) {}

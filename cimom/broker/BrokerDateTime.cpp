@@ -9,13 +9,15 @@
 namespace {
 
 CMPIStatus release(CMPIDateTime* d) {
-    return BrokerStatus::onStatus<BrokerDateTime>(d, [](BrokerDateTime& self) { self.registry().release(&self); });
+    return BrokerStatus::onStatus<BrokerDateTime>(
+        d, [](BrokerDateTime& self) { self.registry().release(&self); });
 }
 
 CMPIDateTime* clone(const CMPIDateTime* d, CMPIStatus* rc) {
-    return BrokerStatus::on<BrokerDateTime>(d, rc, static_cast<CMPIDateTime*>(nullptr), [](BrokerDateTime& self) {
-        return self.registry().makeDetached<BrokerDateTime>(self.text())->cmpi();
-    });
+    return BrokerStatus::on<BrokerDateTime>(
+        d, rc, static_cast<CMPIDateTime*>(nullptr), [](BrokerDateTime& self) {
+            return self.registry().makeDetached<BrokerDateTime>(self.text())->cmpi();
+        });
 }
 
 CMPIUint64 getBinaryFormat(const CMPIDateTime* d, CMPIStatus* rc) {
@@ -26,9 +28,10 @@ CMPIUint64 getBinaryFormat(const CMPIDateTime* d, CMPIStatus* rc) {
 }
 
 CMPIString* getStringFormat(const CMPIDateTime* d, CMPIStatus* rc) {
-    return BrokerStatus::on<BrokerDateTime>(d, rc, static_cast<CMPIString*>(nullptr), [](BrokerDateTime& self) {
-        return self.registry().make<BrokerString>(self.text())->cmpi();
-    });
+    return BrokerStatus::on<BrokerDateTime>(
+        d, rc, static_cast<CMPIString*>(nullptr), [](BrokerDateTime& self) {
+            return self.registry().make<BrokerString>(self.text())->cmpi();
+        });
 }
 
 CMPIBoolean isInterval(const CMPIDateTime* d, CMPIStatus* rc) {
@@ -37,15 +40,16 @@ CMPIBoolean isInterval(const CMPIDateTime* d, CMPIStatus* rc) {
     });
 }
 
-const CMPIDateTimeFT dateTimeTable = {CMPICurrentVersion, release, clone, getBinaryFormat,
-                                      getStringFormat, isInterval};
+const CMPIDateTimeFT dateTimeTable = {CMPICurrentVersion, release,         clone,
+                                      getBinaryFormat,    getStringFormat, isInterval};
 
-}  // namespace
+} // namespace
 
 BrokerDateTime::BrokerDateTime(ObjectRegistry& registry, std::string cimText)
     : EncapsulatedObject(registry), _cmpi{this, &dateTimeTable},
       _text(CimValue::dateTime(std::move(cimText)).asString()) {}
 
 BrokerDateTime* BrokerDateTime::from(const CMPIDateTime* d) {
-    return (d != nullptr && d->ft == &dateTimeTable) ? static_cast<BrokerDateTime*>(d->hdl) : nullptr;
+    return (d != nullptr && d->ft == &dateTimeTable) ? static_cast<BrokerDateTime*>(d->hdl)
+                                                     : nullptr;
 }

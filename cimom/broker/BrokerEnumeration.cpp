@@ -37,14 +37,16 @@ CMPIBoolean hasNext(const CMPIEnumeration* e, CMPIStatus* rc) {
 
 CMPIArray* toArray(const CMPIEnumeration* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, static_cast<CMPIArray*>(nullptr), [](Self& self) {
-        const CMPIType type = self.items().empty() ? CMPIType(CMPI_ref) : self.items().front().type();
+        const CMPIType type =
+            self.items().empty() ? CMPIType(CMPI_ref) : self.items().front().type();
         return self.registry().make<BrokerArray>(type, self.items())->cmpi();
     });
 }
 
-const CMPIEnumerationFT enumerationTable = {CMPICurrentVersion, release, clone, getNext, hasNext, toArray};
+const CMPIEnumerationFT enumerationTable = {
+    CMPICurrentVersion, release, clone, getNext, hasNext, toArray};
 
-}  // namespace
+} // namespace
 
 BrokerEnumeration::BrokerEnumeration(ObjectRegistry& registry, std::vector<CimValue> items,
                                      std::size_t position)

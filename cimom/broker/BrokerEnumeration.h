@@ -11,7 +11,8 @@
 // or paths (CMPI_ref), walked once with getNext.
 class BrokerEnumeration : public EncapsulatedObject {
 public:
-    BrokerEnumeration(ObjectRegistry& registry, std::vector<CimValue> items, std::size_t position = 0);
+    BrokerEnumeration(ObjectRegistry& registry, std::vector<CimValue> items,
+                      std::size_t position = 0);
 
     CMPIEnumeration* cmpi() { return &_cmpi; }
     const std::vector<CimValue>& items() const { return _items; }

@@ -33,7 +33,8 @@ CMPIData getProperty(const CMPIInstance* inst, const char* name, CMPIStatus* rc)
     });
 }
 
-CMPIData getPropertyAt(const CMPIInstance* inst, CMPICount index, CMPIString** name, CMPIStatus* rc) {
+CMPIData getPropertyAt(const CMPIInstance* inst, CMPICount index, CMPIString** name,
+                       CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, ValueConverter::notFound(), [&](Self& self) {
         const auto& props = self.instance().properties();
         if (index >= props.size()) {
@@ -99,12 +100,12 @@ CMPIStatus setPropertyWithOrigin(const CMPIInstance* inst, const char* name, con
     return setProperty(inst, name, value, type);
 }
 
-const CMPIInstanceFT instanceTable = {CMPICurrentVersion, release,       clone,
-                                      getProperty,        getPropertyAt, getPropertyCount,
-                                      setProperty,        getObjectPath, setPropertyFilter,
-                                      setObjectPath,      setPropertyWithOrigin};
+const CMPIInstanceFT instanceTable = {
+    CMPICurrentVersion,   release,     clone,         getProperty,       getPropertyAt,
+    getPropertyCount,     setProperty, getObjectPath, setPropertyFilter, setObjectPath,
+    setPropertyWithOrigin};
 
-}  // namespace
+} // namespace
 
 BrokerInstance::BrokerInstance(ObjectRegistry& registry, CimInstance instance)
     : EncapsulatedObject(registry), _cmpi{this, &instanceTable}, _instance(std::move(instance)) {}
@@ -132,10 +133,11 @@ std::string BrokerInstance::describe() const {
     std::string out = "instance of " + _instance.className() + " {";
     for (const auto& p : _instance.properties()) {
         out += " " + p.name + "=";
-        out += p.value.isNull() ? "NULL"
-               : (p.value.isArray() || p.value.type() == CMPI_ref || p.value.type() == CMPI_instance)
-                   ? CimValue::typeName(p.value.type())
-                   : p.value.toText();
+        out +=
+            p.value.isNull() ? "NULL"
+            : (p.value.isArray() || p.value.type() == CMPI_ref || p.value.type() == CMPI_instance)
+                ? CimValue::typeName(p.value.type())
+                : p.value.toText();
         out += ";";
     }
     return out + " }";

@@ -32,12 +32,14 @@ const char* required(const char* s, const char* what) {
 }
 
 CMPIStatus setNameSpace(CMPIObjectPath* op, const char* ns) {
-    return BrokerStatus::onStatus<Self>(op, [&](Self& self) { self.path().setNameSpace(ns ? ns : ""); });
+    return BrokerStatus::onStatus<Self>(
+        op, [&](Self& self) { self.path().setNameSpace(ns ? ns : ""); });
 }
 
 CMPIString* getNameSpace(const CMPIObjectPath* op, CMPIStatus* rc) {
-    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr),
-                                  [](Self& self) { return newString(self, self.path().nameSpace()); });
+    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
+        return newString(self, self.path().nameSpace());
+    });
 }
 
 CMPIStatus setHostname(CMPIObjectPath* op, const char* hn) {
@@ -55,11 +57,13 @@ CMPIStatus setClassName(CMPIObjectPath* op, const char* cn) {
 }
 
 CMPIString* getClassName(const CMPIObjectPath* op, CMPIStatus* rc) {
-    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr),
-                                  [](Self& self) { return newString(self, self.path().className()); });
+    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
+        return newString(self, self.path().className());
+    });
 }
 
-CMPIStatus addKey(CMPIObjectPath* op, const char* name, const CMPIValue* value, const CMPIType type) {
+CMPIStatus addKey(CMPIObjectPath* op, const char* name, const CMPIValue* value,
+                  const CMPIType type) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) {
         self.path().addKey(required(name, "key name"), ValueConverter::toCim(value, type));
     });
@@ -85,7 +89,8 @@ CMPIData getKeyAt(const CMPIObjectPath* op, CMPICount index, CMPIString** name, 
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [&](Self& self) {
         const auto& keys = self.path().keys();
         if (index >= keys.size()) {
-            throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY, "key index " + std::to_string(index) + " out of range");
+            throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
+                           "key index " + std::to_string(index) + " out of range");
         }
         if (name != nullptr) {
             *name = newString(self, keys[index].name);
@@ -142,23 +147,38 @@ CMPIData getParameterQualifier(const CMPIObjectPath* op, const char*, const char
 }
 
 CMPIString* toString(const CMPIObjectPath* op, CMPIStatus* rc) {
-    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr),
-                                  [](Self& self) { return newString(self, self.path().toString()); });
+    return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
+        return newString(self, self.path().toString());
+    });
 }
 
-const CMPIObjectPathFT pathTable = {
-    CMPICurrentVersion, release,     clone,       setNameSpace,
-    getNameSpace,       setHostname, getHostname, setClassName,
-    getClassName,       addKey,      getKey,      getKeyAt,
-    getKeyCount,        setNameSpaceFromObjectPath, setHostAndNameSpaceFromObjectPath,
-    getClassQualifier,  getPropertyQualifier,       getMethodQualifier,
-    getParameterQualifier, toString};
+const CMPIObjectPathFT pathTable = {CMPICurrentVersion,
+                                    release,
+                                    clone,
+                                    setNameSpace,
+                                    getNameSpace,
+                                    setHostname,
+                                    getHostname,
+                                    setClassName,
+                                    getClassName,
+                                    addKey,
+                                    getKey,
+                                    getKeyAt,
+                                    getKeyCount,
+                                    setNameSpaceFromObjectPath,
+                                    setHostAndNameSpaceFromObjectPath,
+                                    getClassQualifier,
+                                    getPropertyQualifier,
+                                    getMethodQualifier,
+                                    getParameterQualifier,
+                                    toString};
 
-}  // namespace
+} // namespace
 
 BrokerObjectPath::BrokerObjectPath(ObjectRegistry& registry, CimObjectPath path)
     : EncapsulatedObject(registry), _cmpi{this, &pathTable}, _path(std::move(path)) {}
 
 BrokerObjectPath* BrokerObjectPath::from(const CMPIObjectPath* op) {
-    return (op != nullptr && op->ft == &pathTable) ? static_cast<BrokerObjectPath*>(op->hdl) : nullptr;
+    return (op != nullptr && op->ft == &pathTable) ? static_cast<BrokerObjectPath*>(op->hdl)
+                                                   : nullptr;
 }

@@ -16,20 +16,23 @@ CMPIStatus release(CMPIResult* r) {
 }
 
 CMPIResult* clone(const CMPIResult* r, CMPIStatus* rc) {
-    return BrokerStatus::on<Self>(r, rc, static_cast<CMPIResult*>(nullptr), [](Self&) -> CMPIResult* {
-        throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "a result cannot be cloned");
-    });
+    return BrokerStatus::on<Self>(
+        r, rc, static_cast<CMPIResult*>(nullptr), [](Self&) -> CMPIResult* {
+            throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "a result cannot be cloned");
+        });
 }
 
 CMPIStatus returnData(const CMPIResult* r, const CMPIValue* value, const CMPIType type) {
-    return BrokerStatus::onStatus<Self>(r, [&](Self& self) { self.addData(ValueConverter::toCim(value, type)); });
+    return BrokerStatus::onStatus<Self>(
+        r, [&](Self& self) { self.addData(ValueConverter::toCim(value, type)); });
 }
 
 CMPIStatus returnInstance(const CMPIResult* r, const CMPIInstance* inst) {
     return BrokerStatus::onStatus<Self>(r, [&](Self& self) {
         BrokerInstance* i = BrokerInstance::from(inst);
         if (i == nullptr) {
-            throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "returned instance is not one of the broker's");
+            throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
+                           "returned instance is not one of the broker's");
         }
         self.addInstance(i->instance());
     });
@@ -58,7 +61,7 @@ CMPIStatus returnError(const CMPIResult* r, const CMPIError*) {
 const CMPIResultFT resultTable = {CMPICurrentVersion, release,          clone,      returnData,
                                   returnInstance,     returnObjectPath, returnDone, returnError};
 
-}  // namespace
+} // namespace
 
 BrokerResult::BrokerResult(ObjectRegistry& registry)
     : EncapsulatedObject(registry), _cmpi{this, &resultTable} {}

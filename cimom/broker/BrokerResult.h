@@ -32,7 +32,7 @@ public:
 
 private:
     CMPIResult _cmpi;
-    mutable std::mutex _mutex;  // a provider may return from threads of its own
+    mutable std::mutex _mutex; // a provider may return from threads of its own
     std::vector<CimInstance> _instances;
     std::vector<CimObjectPath> _paths;
     std::vector<CimValue> _data;

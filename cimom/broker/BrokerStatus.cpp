@@ -38,7 +38,8 @@ CMPIStatus BrokerStatus::fromCurrentException(ObjectRegistry* registry) {
 }
 
 std::string BrokerStatus::message(const CMPIStatus& status) {
-    if (status.msg == nullptr || status.msg->ft == nullptr || status.msg->ft->getCharPtr == nullptr) {
+    if (status.msg == nullptr || status.msg->ft == nullptr ||
+        status.msg->ft->getCharPtr == nullptr) {
         return std::string();
     }
     const char* text = status.msg->ft->getCharPtr(status.msg, nullptr);

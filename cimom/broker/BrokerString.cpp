@@ -37,7 +37,7 @@ char* getCharPtr(const CMPIString* s, CMPIStatus* rc) {
 
 const CMPIStringFT stringTable = {CMPICurrentVersion, release, clone, getCharPtr};
 
-}  // namespace
+} // namespace
 
 BrokerString::BrokerString(ObjectRegistry& registry, std::string text)
     : EncapsulatedObject(registry), _cmpi{this, &stringTable}, _text(std::move(text)) {}

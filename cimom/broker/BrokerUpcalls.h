@@ -28,17 +28,19 @@ public:
     virtual std::vector<CimObjectPath> enumerateInstanceNames(const CimObjectPath& classPath) = 0;
     virtual std::vector<CimInstance> enumerateInstances(const CimObjectPath& classPath,
                                                         const PropertyList* propertyList) = 0;
-    virtual CimInstance getInstance(const CimObjectPath& path, const PropertyList* propertyList) = 0;
-    virtual std::vector<CimInstance> associators(const CimObjectPath& path, const std::string& assocClass,
-                                                 const std::string& resultClass, const std::string& role,
-                                                 const std::string& resultRole,
-                                                 const PropertyList* propertyList) = 0;
+    virtual CimInstance getInstance(const CimObjectPath& path,
+                                    const PropertyList* propertyList) = 0;
+    virtual std::vector<CimInstance>
+    associators(const CimObjectPath& path, const std::string& assocClass,
+                const std::string& resultClass, const std::string& role,
+                const std::string& resultRole, const PropertyList* propertyList) = 0;
     virtual std::vector<CimObjectPath> associatorNames(const CimObjectPath& path,
                                                        const std::string& assocClass,
                                                        const std::string& resultClass,
                                                        const std::string& role,
                                                        const std::string& resultRole) = 0;
-    virtual std::vector<CimInstance> references(const CimObjectPath& path, const std::string& resultClass,
+    virtual std::vector<CimInstance> references(const CimObjectPath& path,
+                                                const std::string& resultClass,
                                                 const std::string& role,
                                                 const PropertyList* propertyList) = 0;
     virtual std::vector<CimObjectPath> referenceNames(const CimObjectPath& path,

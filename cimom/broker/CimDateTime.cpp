@@ -26,7 +26,7 @@ std::uint64_t digits(const std::string& s, std::size_t from, std::size_t count) 
     }
     return v;
 }
-}  // namespace
+} // namespace
 
 std::string CimDateTime::fromBinary(std::uint64_t microseconds, bool interval) {
     char buf[96];

@@ -4,19 +4,20 @@
 #include <functional>
 
 namespace {
-char lowerChar(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-}  // namespace
+char lowerChar(char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+} // namespace
 
 bool CimName::equal(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(),
-                      [](char x, char y) { return lowerChar(x) == lowerChar(y); });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return lowerChar(x) == lowerChar(y);
+           });
 }
 
 bool CimName::less(std::string_view a, std::string_view b) {
-    return std::lexicographical_compare(
-        a.begin(), a.end(), b.begin(), b.end(),
-        [](char x, char y) { return lowerChar(x) < lowerChar(y); });
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                        [](char x, char y) { return lowerChar(x) < lowerChar(y); });
 }
 
 std::string CimName::lower(std::string_view name) {
@@ -25,4 +26,6 @@ std::string CimName::lower(std::string_view name) {
     return out;
 }
 
-std::size_t CimName::hash(std::string_view name) { return std::hash<std::string>{}(lower(name)); }
+std::size_t CimName::hash(std::string_view name) {
+    return std::hash<std::string>{}(lower(name));
+}

@@ -24,11 +24,10 @@ std::string quoted(const std::string& s) {
 }
 
 bool isNameChar(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
-           c == '_';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }
 
-}  // namespace
+} // namespace
 
 CimObjectPath::CimObjectPath(std::string nameSpace, std::string className)
     : _nameSpace(std::move(nameSpace)), _className(std::move(className)) {}

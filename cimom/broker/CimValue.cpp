@@ -18,10 +18,10 @@ struct TypeName {
 };
 
 const TypeName typeNames[] = {
-    {CMPI_boolean, "boolean"}, {CMPI_char16, "char16"},   {CMPI_real32, "real32"},
-    {CMPI_real64, "real64"},   {CMPI_uint8, "uint8"},     {CMPI_uint16, "uint16"},
-    {CMPI_uint32, "uint32"},   {CMPI_uint64, "uint64"},   {CMPI_sint8, "sint8"},
-    {CMPI_sint16, "sint16"},   {CMPI_sint32, "sint32"},   {CMPI_sint64, "sint64"},
+    {CMPI_boolean, "boolean"}, {CMPI_char16, "char16"},     {CMPI_real32, "real32"},
+    {CMPI_real64, "real64"},   {CMPI_uint8, "uint8"},       {CMPI_uint16, "uint16"},
+    {CMPI_uint32, "uint32"},   {CMPI_uint64, "uint64"},     {CMPI_sint8, "sint8"},
+    {CMPI_sint16, "sint16"},   {CMPI_sint32, "sint32"},     {CMPI_sint64, "sint64"},
     {CMPI_string, "string"},   {CMPI_dateTime, "datetime"}, {CMPI_ref, "reference"},
 };
 
@@ -34,28 +34,40 @@ bool isSignedType(CMPIType t) {
 
 std::uint64_t unsignedMax(CMPIType t) {
     switch (t) {
-    case CMPI_uint8: return std::numeric_limits<std::uint8_t>::max();
-    case CMPI_uint16: return std::numeric_limits<std::uint16_t>::max();
-    case CMPI_uint32: return std::numeric_limits<std::uint32_t>::max();
-    default: return std::numeric_limits<std::uint64_t>::max();
+    case CMPI_uint8:
+        return std::numeric_limits<std::uint8_t>::max();
+    case CMPI_uint16:
+        return std::numeric_limits<std::uint16_t>::max();
+    case CMPI_uint32:
+        return std::numeric_limits<std::uint32_t>::max();
+    default:
+        return std::numeric_limits<std::uint64_t>::max();
     }
 }
 
 std::int64_t signedMin(CMPIType t) {
     switch (t) {
-    case CMPI_sint8: return std::numeric_limits<std::int8_t>::min();
-    case CMPI_sint16: return std::numeric_limits<std::int16_t>::min();
-    case CMPI_sint32: return std::numeric_limits<std::int32_t>::min();
-    default: return std::numeric_limits<std::int64_t>::min();
+    case CMPI_sint8:
+        return std::numeric_limits<std::int8_t>::min();
+    case CMPI_sint16:
+        return std::numeric_limits<std::int16_t>::min();
+    case CMPI_sint32:
+        return std::numeric_limits<std::int32_t>::min();
+    default:
+        return std::numeric_limits<std::int64_t>::min();
     }
 }
 
 std::int64_t signedMax(CMPIType t) {
     switch (t) {
-    case CMPI_sint8: return std::numeric_limits<std::int8_t>::max();
-    case CMPI_sint16: return std::numeric_limits<std::int16_t>::max();
-    case CMPI_sint32: return std::numeric_limits<std::int32_t>::max();
-    default: return std::numeric_limits<std::int64_t>::max();
+    case CMPI_sint8:
+        return std::numeric_limits<std::int8_t>::max();
+    case CMPI_sint16:
+        return std::numeric_limits<std::int16_t>::max();
+    case CMPI_sint32:
+        return std::numeric_limits<std::int32_t>::max();
+    default:
+        return std::numeric_limits<std::int64_t>::max();
     }
 }
 
@@ -76,8 +88,8 @@ bool dateTimeDigits(std::string_view s, std::size_t from, std::size_t to) {
 
 bool validDateTime(std::string_view s) {
     // yyyymmddhhmmss.mmmmmmsutc, or ddddddddhhmmss.mmmmmm:000 for an interval.
-    if (s.size() != 25 || s[14] != '.' || !dateTimeDigits(s, 0, 14) ||
-        !dateTimeDigits(s, 15, 21) || !dateTimeDigits(s, 22, 25)) {
+    if (s.size() != 25 || s[14] != '.' || !dateTimeDigits(s, 0, 14) || !dateTimeDigits(s, 15, 21) ||
+        !dateTimeDigits(s, 22, 25)) {
         return false;
     }
     return s[21] == '+' || s[21] == '-' || (s[21] == ':' && s.substr(22) == "000");
@@ -114,7 +126,8 @@ bool parseSigned(std::string_view text, std::int64_t& out) {
     if (magnitude > limit) {
         return false;
     }
-    out = negative ? static_cast<std::int64_t>(0 - magnitude) : static_cast<std::int64_t>(magnitude);
+    out =
+        negative ? static_cast<std::int64_t>(0 - magnitude) : static_cast<std::int64_t>(magnitude);
     return true;
 }
 
@@ -152,15 +165,19 @@ bool decodeChar16(std::string_view s, std::uint16_t& out) {
     return false;
 }
 
-}  // namespace
+} // namespace
 
 CimValue::CimValue() : _type(CMPI_null), _data() {}
 
 CimValue::CimValue(CMPIType type, Data data) : _type(type), _data(std::move(data)) {}
 
-CimValue CimValue::null(CMPIType type) { return CimValue(type, std::monostate{}); }
+CimValue CimValue::null(CMPIType type) {
+    return CimValue(type, std::monostate{});
+}
 
-CimValue CimValue::boolean(bool v) { return CimValue(CMPI_boolean, v); }
+CimValue CimValue::boolean(bool v) {
+    return CimValue(CMPI_boolean, v);
+}
 
 CimValue CimValue::unsignedInt(CMPIType type, std::uint64_t v) {
     if (!isUnsignedType(type)) {
@@ -184,12 +201,18 @@ CimValue CimValue::signedInt(CMPIType type, std::int64_t v) {
     return CimValue(type, v);
 }
 
-CimValue CimValue::real32(float v) { return CimValue(CMPI_real32, static_cast<double>(v)); }
-CimValue CimValue::real64(double v) { return CimValue(CMPI_real64, v); }
+CimValue CimValue::real32(float v) {
+    return CimValue(CMPI_real32, static_cast<double>(v));
+}
+CimValue CimValue::real64(double v) {
+    return CimValue(CMPI_real64, v);
+}
 CimValue CimValue::char16(std::uint16_t v) {
     return CimValue(CMPI_char16, static_cast<std::uint64_t>(v));
 }
-CimValue CimValue::string(std::string v) { return CimValue(CMPI_string, std::move(v)); }
+CimValue CimValue::string(std::string v) {
+    return CimValue(CMPI_string, std::move(v));
+}
 
 CimValue CimValue::dateTime(std::string cimText) {
     if (!validDateTime(cimText)) {
@@ -216,7 +239,7 @@ CimValue CimValue::array(CMPIType elementType, std::vector<CimValue> elements) {
         }
     }
     for (CimValue& e : elements) {
-        e._type = elementType;  // untyped nulls take the array's type
+        e._type = elementType; // untyped nulls take the array's type
     }
     return CimValue(static_cast<CMPIType>(elementType | CMPI_ARRAY),
                     std::make_shared<const std::vector<CimValue>>(std::move(elements)));
@@ -269,8 +292,10 @@ CimValue CimValue::fromText(CMPIType type, std::string_view text) {
         return char16(c);
     }
     case CMPI_string:
-    case CMPI_chars: return string(std::string(text));
-    case CMPI_dateTime: return dateTime(std::string(text));
+    case CMPI_chars:
+        return string(std::string(text));
+    case CMPI_dateTime:
+        return dateTime(std::string(text));
     default:
         throw CimError(CMPI_RC_ERR_TYPE_MISMATCH,
                        "no text form for values of type " + typeName(type));
@@ -308,8 +333,12 @@ std::string CimValue::typeName(CMPIType type) {
     return (type & CMPI_ARRAY) ? name + "[]" : name;
 }
 
-bool CimValue::isInteger() const { return isUnsignedType(_type) || isSignedType(_type); }
-bool CimValue::isSigned() const { return isSignedType(_type); }
+bool CimValue::isInteger() const {
+    return isUnsignedType(_type) || isSignedType(_type);
+}
+bool CimValue::isSigned() const {
+    return isSignedType(_type);
+}
 
 void CimValue::_mismatch(const char* wanted) const {
     throw CimError(CMPI_RC_ERR_TYPE_MISMATCH,
@@ -395,16 +424,20 @@ std::string CimValue::toText() const {
         throw CimError(CMPI_RC_ERR_TYPE_MISMATCH, "an array has no single text form");
     }
     switch (_type) {
-    case CMPI_boolean: return asBoolean() ? "TRUE" : "FALSE";
-    case CMPI_char16: return utf8(asChar16());
+    case CMPI_boolean:
+        return asBoolean() ? "TRUE" : "FALSE";
+    case CMPI_char16:
+        return utf8(asChar16());
     case CMPI_uint8:
     case CMPI_uint16:
     case CMPI_uint32:
-    case CMPI_uint64: return std::to_string(std::get<std::uint64_t>(_data));
+    case CMPI_uint64:
+        return std::to_string(std::get<std::uint64_t>(_data));
     case CMPI_sint8:
     case CMPI_sint16:
     case CMPI_sint32:
-    case CMPI_sint64: return std::to_string(std::get<std::int64_t>(_data));
+    case CMPI_sint64:
+        return std::to_string(std::get<std::int64_t>(_data));
     case CMPI_real32:
     case CMPI_real64: {
         // Shortest text that reads back to the same value.
@@ -416,7 +449,8 @@ std::string CimValue::toText() const {
         return std::string(buf, res.ptr);
     }
     case CMPI_string:
-    case CMPI_dateTime: return std::get<std::string>(_data);
+    case CMPI_dateTime:
+        return std::get<std::string>(_data);
     default:
         throw CimError(CMPI_RC_ERR_TYPE_MISMATCH, "no text form for " + typeName(_type));
     }

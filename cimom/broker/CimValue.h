@@ -71,7 +71,7 @@ public:
     std::uint64_t asUnsigned() const;
     std::int64_t asSigned() const;
     double asReal() const;
-    const std::string& asString() const;  // string and datetime
+    const std::string& asString() const; // string and datetime
     std::uint16_t asChar16() const;
     const CimObjectPath& asReference() const;
     const CimInstance& asInstance() const;
@@ -90,10 +90,10 @@ public:
     bool sameKeyValue(const CimValue& other) const;
 
 private:
-    using Data = std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double,
-                              std::string, std::shared_ptr<const CimObjectPath>,
-                              std::shared_ptr<const CimInstance>,
-                              std::shared_ptr<const std::vector<CimValue>>>;
+    using Data =
+        std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double, std::string,
+                     std::shared_ptr<const CimObjectPath>, std::shared_ptr<const CimInstance>,
+                     std::shared_ptr<const std::vector<CimValue>>>;
 
     CimValue(CMPIType type, Data data);
     [[noreturn]] void _mismatch(const char* wanted) const;

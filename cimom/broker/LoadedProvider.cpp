@@ -13,18 +13,22 @@ using Factory = void* (*)(const CMPIBroker*, const CMPIContext*, const char*, CM
 
 const char* entryPoint(ProviderRegistration::Kind kind) {
     switch (kind) {
-    case ProviderRegistration::Kind::Instance: return "_Generic_Create_InstanceMI";
-    case ProviderRegistration::Kind::Association: return "_Generic_Create_AssociationMI";
-    case ProviderRegistration::Kind::Method: return "_Generic_Create_MethodMI";
-    case ProviderRegistration::Kind::Indication: return "_Generic_Create_IndicationMI";
+    case ProviderRegistration::Kind::Instance:
+        return "_Generic_Create_InstanceMI";
+    case ProviderRegistration::Kind::Association:
+        return "_Generic_Create_AssociationMI";
+    case ProviderRegistration::Kind::Method:
+        return "_Generic_Create_MethodMI";
+    case ProviderRegistration::Kind::Indication:
+        return "_Generic_Create_IndicationMI";
     }
     return "";
 }
 
-}  // namespace
+} // namespace
 
-LoadedProvider::LoadedProvider(const ProviderRegistration& registration, const std::string& libraryFile,
-                               Broker& broker)
+LoadedProvider::LoadedProvider(const ProviderRegistration& registration,
+                               const std::string& libraryFile, Broker& broker)
     : _registration(registration), _libraryFile(libraryFile), _broker(broker) {
     dlerror();
     _handle = dlopen(libraryFile.c_str(), RTLD_NOW | RTLD_LOCAL);
@@ -43,7 +47,9 @@ LoadedProvider::LoadedProvider(const ProviderRegistration& registration, const s
     }
 }
 
-LoadedProvider::~LoadedProvider() { shutdown(); }
+LoadedProvider::~LoadedProvider() {
+    shutdown();
+}
 
 void* LoadedProvider::_entry(const char* symbol) {
     dlerror();
@@ -66,7 +72,8 @@ void LoadedProvider::_create(ProviderRegistration::Kind kind) {
     const std::string prefix = "provider " + _registration.name + ": " + symbol;
     if (status.rc != CMPI_RC_OK) {
         const std::string msg = BrokerStatus::message(status);
-        throw CimError(CMPI_RC_ERR_FAILED, prefix + " failed with status " + std::to_string(status.rc) +
+        throw CimError(CMPI_RC_ERR_FAILED, prefix + " failed with status " +
+                                               std::to_string(status.rc) +
                                                (msg.empty() ? "" : ": " + msg));
     }
     if (mi == nullptr) {
@@ -77,12 +84,18 @@ void LoadedProvider::_create(ProviderRegistration::Kind kind) {
         throw CimError(CMPI_RC_ERR_FAILED, prefix + " returned an MI without a function table");
     }
     switch (kind) {
-    case ProviderRegistration::Kind::Instance: _instance = static_cast<CMPIInstanceMI*>(mi); break;
+    case ProviderRegistration::Kind::Instance:
+        _instance = static_cast<CMPIInstanceMI*>(mi);
+        break;
     case ProviderRegistration::Kind::Association:
         _association = static_cast<CMPIAssociationMI*>(mi);
         break;
-    case ProviderRegistration::Kind::Method: _method = static_cast<CMPIMethodMI*>(mi); break;
-    case ProviderRegistration::Kind::Indication: _indication = static_cast<CMPIIndicationMI*>(mi); break;
+    case ProviderRegistration::Kind::Method:
+        _method = static_cast<CMPIMethodMI*>(mi);
+        break;
+    case ProviderRegistration::Kind::Indication:
+        _indication = static_cast<CMPIIndicationMI*>(mi);
+        break;
     }
 }
 
@@ -94,7 +107,8 @@ void LoadedProvider::shutdown() {
         ObjectRegistry::Scope scope(_broker.registry());
         BrokerContext* ctx = _broker.newContext(_registration.namespaces.front(), 0);
         auto report = [&](const char* which, CMPIStatus st) {
-            if (st.rc != CMPI_RC_OK && st.rc != CMPI_RC_DO_NOT_UNLOAD && st.rc != CMPI_RC_NEVER_UNLOAD) {
+            if (st.rc != CMPI_RC_OK && st.rc != CMPI_RC_DO_NOT_UNLOAD &&
+                st.rc != CMPI_RC_NEVER_UNLOAD) {
                 _broker.log(CMPI_SEV_WARNING, "provider " + _registration.name + ": " + which +
                                                   " cleanup answered " + std::to_string(st.rc) +
                                                   " " + BrokerStatus::message(st));

@@ -7,7 +7,7 @@
 namespace {
 // Open arenas of this thread, innermost last, for every registry alive.
 thread_local std::vector<std::pair<const ObjectRegistry*, ObjectRegistry::Arena*>> openArenas;
-}  // namespace
+} // namespace
 
 ObjectRegistry::~ObjectRegistry() {
     // Arenas still open on this thread point at us; drop them from the stack.
@@ -71,7 +71,8 @@ ObjectRegistry::Arena* ObjectRegistry::pushArena() {
     return raw;
 }
 
-void ObjectRegistry::_closeArenaLocked(Arena* arena, std::unordered_set<EncapsulatedObject*>& doomed,
+void ObjectRegistry::_closeArenaLocked(Arena* arena,
+                                       std::unordered_set<EncapsulatedObject*>& doomed,
                                        std::unordered_set<void*>& blocks) {
     for (EncapsulatedObject* obj : arena->objects) {
         doomed.insert(obj);
@@ -85,8 +86,8 @@ void ObjectRegistry::_closeArenaLocked(Arena* arena, std::unordered_set<Encapsul
 }
 
 bool ObjectRegistry::popArena(Arena* arena) {
-    const auto pos = std::find(openArenas.begin(), openArenas.end(), std::make_pair(
-                                   static_cast<const ObjectRegistry*>(this), arena));
+    const auto pos = std::find(openArenas.begin(), openArenas.end(),
+                               std::make_pair(static_cast<const ObjectRegistry*>(this), arena));
     if (pos == openArenas.end()) {
         return false;
     }
@@ -107,9 +108,9 @@ bool ObjectRegistry::popArena(Arena* arena) {
             _objects.erase(o);
         }
     }
-    openArenas.erase(std::remove_if(pos, openArenas.end(),
-                                    [this](const auto& e) { return e.first == this; }),
-                     openArenas.end());
+    openArenas.erase(
+        std::remove_if(pos, openArenas.end(), [this](const auto& e) { return e.first == this; }),
+        openArenas.end());
     for (void* block : blocks) {
         std::free(block);
     }
@@ -137,7 +138,7 @@ void* ObjectRegistry::reallocate(void* block, std::size_t size) {
     std::lock_guard<std::mutex> lock(_mutex);
     auto it = _blocks.find(block);
     if (it == _blocks.end()) {
-        return nullptr;  // not ours: refusing beats corrupting the heap
+        return nullptr; // not ours: refusing beats corrupting the heap
     }
     void* grown = std::realloc(block, size == 0 ? 1 : size);
     if (grown == nullptr) {

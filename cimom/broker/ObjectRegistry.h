@@ -30,7 +30,8 @@ public:
     // Opens an arena for the current thread for the lifetime of the scope.
     class Scope {
     public:
-        explicit Scope(ObjectRegistry& registry) : _registry(registry), _arena(registry.pushArena()) {}
+        explicit Scope(ObjectRegistry& registry)
+            : _registry(registry), _arena(registry.pushArena()) {}
         ~Scope() { _registry.popArena(_arena); }
         Scope(const Scope&) = delete;
         Scope& operator=(const Scope&) = delete;

@@ -21,7 +21,9 @@ namespace {
 // must not take the lifecycle lock again: a waiting shutdown would deadlock them.
 thread_local int callDepth = 0;
 
-const char* cstr(const std::string& s) { return s.empty() ? nullptr : s.c_str(); }
+const char* cstr(const std::string& s) {
+    return s.empty() ? nullptr : s.c_str();
+}
 
 // A NULL-terminated array over the names, or null for "all properties".
 class PropertyArray {
@@ -40,7 +42,7 @@ private:
     std::vector<const char*> _ptrs;
 };
 
-}  // namespace
+} // namespace
 
 // Shared hold on the providers for one call, unless this thread holds one already.
 class ProviderManager::CallGuard {
@@ -139,7 +141,8 @@ void ProviderManager::load(const ProviderRegistration& registration,
     try {
         file = _findLibrary(registration.library, dirs);
     } catch (const CimError& e) {
-        throw CimError(CMPI_RC_ERR_FAILED, "provider " + registration.name + ": " + e.description());
+        throw CimError(CMPI_RC_ERR_FAILED,
+                       "provider " + registration.name + ": " + e.description());
     }
     std::unique_lock<std::shared_mutex> lock(_lifecycle);
     if (_shuttingDown) {
@@ -147,7 +150,8 @@ void ProviderManager::load(const ProviderRegistration& registration,
     }
     for (const auto& p : _providers) {
         if (CimName::equal(p->registration().name, registration.name)) {
-            throw CimError(CMPI_RC_ERR_FAILED, "provider " + registration.name + " is already loaded");
+            throw CimError(CMPI_RC_ERR_FAILED,
+                           "provider " + registration.name + " is already loaded");
         }
     }
     auto provider = std::make_unique<LoadedProvider>(registration, file, *_broker);
@@ -170,10 +174,18 @@ LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& name
         const ProviderRegistration& reg = p->registration();
         bool hasRole = false;
         switch (role) {
-        case Role::Instance: hasRole = p->instanceMI() != nullptr; break;
-        case Role::Association: hasRole = p->associationMI() != nullptr; break;
-        case Role::Method: hasRole = p->methodMI() != nullptr; break;
-        case Role::Indication: hasRole = p->indicationMI() != nullptr; break;
+        case Role::Instance:
+            hasRole = p->instanceMI() != nullptr;
+            break;
+        case Role::Association:
+            hasRole = p->associationMI() != nullptr;
+            break;
+        case Role::Method:
+            hasRole = p->methodMI() != nullptr;
+            break;
+        case Role::Indication:
+            hasRole = p->indicationMI() != nullptr;
+            break;
         }
         if (!hasRole) {
             continue;
@@ -194,8 +206,9 @@ LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& name
     return nullptr;
 }
 
-std::vector<LoadedProvider*> ProviderManager::_associationProviders(const std::string& nameSpace,
-                                                                    const std::string& assocClass) const {
+std::vector<LoadedProvider*>
+ProviderManager::_associationProviders(const std::string& nameSpace,
+                                       const std::string& assocClass) const {
     std::vector<LoadedProvider*> out;
     for (const auto& p : _providers) {
         if (p->associationMI() == nullptr) {
@@ -222,12 +235,14 @@ std::vector<LoadedProvider*> ProviderManager::_associationProviders(const std::s
     return out;
 }
 
-bool ProviderManager::hasInstanceProvider(const std::string& nameSpace, const std::string& className) const {
+bool ProviderManager::hasInstanceProvider(const std::string& nameSpace,
+                                          const std::string& className) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     return _providerFor(Role::Instance, nameSpace, className) != nullptr;
 }
 
-bool ProviderManager::hasMethodProvider(const std::string& nameSpace, const std::string& className) const {
+bool ProviderManager::hasMethodProvider(const std::string& nameSpace,
+                                        const std::string& className) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     return _providerFor(Role::Method, nameSpace, className) != nullptr;
 }
@@ -275,14 +290,16 @@ std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObje
     CallGuard guard(*this);
     LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
     if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " + classPath.className() +
-                                                      " in " + classPath.nameSpace());
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " +
+                                                      classPath.className() + " in " +
+                                                      classPath.nameSpace());
     }
     ObjectRegistry::Scope scope(_broker->registry());
     BrokerResult* result = _broker->registry().make<BrokerResult>();
     CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
     BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
-    _check(p->instanceMI()->ft->enumerateInstanceNames(p->instanceMI(), ctx->cmpi(), result->cmpi(), op),
+    _check(p->instanceMI()->ft->enumerateInstanceNames(p->instanceMI(), ctx->cmpi(), result->cmpi(),
+                                                       op),
            *p, "enumerateInstanceNames");
     std::vector<CimObjectPath> paths = result->takePaths();
     for (CimObjectPath& path : paths) {
@@ -296,8 +313,9 @@ std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath
     CallGuard guard(*this);
     LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
     if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " + classPath.className() +
-                                                      " in " + classPath.nameSpace());
+        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " +
+                                                      classPath.className() + " in " +
+                                                      classPath.nameSpace());
     }
     ObjectRegistry::Scope scope(_broker->registry());
     BrokerResult* result = _broker->registry().make<BrokerResult>();
@@ -310,7 +328,8 @@ std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath
     return _finish(classPath, result->takeInstances(), propertyList);
 }
 
-CimInstance ProviderManager::getInstance(const CimObjectPath& path, const PropertyList* propertyList) {
+CimInstance ProviderManager::getInstance(const CimObjectPath& path,
+                                         const PropertyList* propertyList) {
     CallGuard guard(*this);
     LoadedProvider* p = _providerFor(Role::Instance, path.nameSpace(), path.className());
     if (p == nullptr) {
@@ -322,7 +341,8 @@ CimInstance ProviderManager::getInstance(const CimObjectPath& path, const Proper
     CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
     BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
     PropertyArray props(propertyList);
-    _check(p->instanceMI()->ft->getInstance(p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
+    _check(p->instanceMI()->ft->getInstance(p->instanceMI(), ctx->cmpi(), result->cmpi(), op,
+                                            props.get()),
            *p, "getInstance");
     std::vector<CimInstance> found = _finish(path, result->takeInstances(), propertyList);
     if (found.empty()) {
@@ -331,12 +351,10 @@ CimInstance ProviderManager::getInstance(const CimObjectPath& path, const Proper
     return found.front();
 }
 
-std::vector<CimInstance> ProviderManager::associators(const CimObjectPath& path,
-                                                      const std::string& assocClass,
-                                                      const std::string& resultClass,
-                                                      const std::string& role,
-                                                      const std::string& resultRole,
-                                                      const PropertyList* propertyList) {
+std::vector<CimInstance>
+ProviderManager::associators(const CimObjectPath& path, const std::string& assocClass,
+                             const std::string& resultClass, const std::string& role,
+                             const std::string& resultRole, const PropertyList* propertyList) {
     CallGuard guard(*this);
     std::vector<CimInstance> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
@@ -345,9 +363,9 @@ std::vector<CimInstance> ProviderManager::associators(const CimObjectPath& path,
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
         PropertyArray props(propertyList);
-        _check(p->associationMI()->ft->associators(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
-                                                   cstr(assocClass), cstr(resultClass), cstr(role),
-                                                   cstr(resultRole), props.get()),
+        _check(p->associationMI()->ft->associators(p->associationMI(), ctx->cmpi(), result->cmpi(),
+                                                   op, cstr(assocClass), cstr(resultClass),
+                                                   cstr(role), cstr(resultRole), props.get()),
                *p, "associators");
         for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
@@ -368,9 +386,9 @@ std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath&
         BrokerResult* result = _broker->registry().make<BrokerResult>();
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
-        _check(p->associationMI()->ft->associatorNames(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
-                                                       cstr(assocClass), cstr(resultClass), cstr(role),
-                                                       cstr(resultRole)),
+        _check(p->associationMI()->ft->associatorNames(
+                   p->associationMI(), ctx->cmpi(), result->cmpi(), op, cstr(assocClass),
+                   cstr(resultClass), cstr(role), cstr(resultRole)),
                *p, "associatorNames");
         for (CimObjectPath& found : result->takePaths()) {
             _complete(path, found);
@@ -392,8 +410,8 @@ std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
         PropertyArray props(propertyList);
-        _check(p->associationMI()->ft->references(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
-                                                  cstr(resultClass), cstr(role), props.get()),
+        _check(p->associationMI()->ft->references(p->associationMI(), ctx->cmpi(), result->cmpi(),
+                                                  op, cstr(resultClass), cstr(role), props.get()),
                *p, "references");
         for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
@@ -412,8 +430,9 @@ std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& 
         BrokerResult* result = _broker->registry().make<BrokerResult>();
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
-        _check(p->associationMI()->ft->referenceNames(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
-                                                      cstr(resultClass), cstr(role)),
+        _check(p->associationMI()->ft->referenceNames(p->associationMI(), ctx->cmpi(),
+                                                      result->cmpi(), op, cstr(resultClass),
+                                                      cstr(role)),
                *p, "referenceNames");
         for (CimObjectPath& found : result->takePaths()) {
             _complete(path, found);
@@ -458,7 +477,8 @@ void ProviderManager::activateFilter(const std::string& nameSpace, const std::st
                        "no indication provider for " + className + " in " + nameSpace);
     }
     ObjectRegistry::Scope scope(_broker->registry());
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
+    CMPIObjectPath* op =
+        _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
     BrokerContext* ctx = _broker->newContext(nameSpace, 0);
     _check(p->indicationMI()->ft->activateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
                                                  className.c_str(), op, firstActivation ? 1 : 0),
@@ -474,7 +494,8 @@ void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::
                        "no indication provider for " + className + " in " + nameSpace);
     }
     ObjectRegistry::Scope scope(_broker->registry());
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
+    CMPIObjectPath* op =
+        _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
     BrokerContext* ctx = _broker->newContext(nameSpace, 0);
     _check(p->indicationMI()->ft->deActivateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
                                                    className.c_str(), op, lastActivation ? 1 : 0),

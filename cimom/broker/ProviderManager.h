@@ -69,22 +69,27 @@ public:
                                          const std::string& resultClass, const std::string& role,
                                          const std::string& resultRole,
                                          const PropertyList* propertyList) override;
-    std::vector<CimObjectPath> associatorNames(const CimObjectPath& path, const std::string& assocClass,
-                                               const std::string& resultClass, const std::string& role,
+    std::vector<CimObjectPath> associatorNames(const CimObjectPath& path,
+                                               const std::string& assocClass,
+                                               const std::string& resultClass,
+                                               const std::string& role,
                                                const std::string& resultRole) override;
     // resultClass (the association class) picks the providers as assocClass does above.
     std::vector<CimInstance> references(const CimObjectPath& path, const std::string& resultClass,
                                         const std::string& role,
                                         const PropertyList* propertyList) override;
-    std::vector<CimObjectPath> referenceNames(const CimObjectPath& path, const std::string& resultClass,
+    std::vector<CimObjectPath> referenceNames(const CimObjectPath& path,
+                                              const std::string& resultClass,
                                               const std::string& role) override;
     MethodResult invokeMethod(const CimObjectPath& path, const std::string& method,
                               const Args& inArgs) override;
 
     // Passed to the indication providers of the namespace that registered the
     // class (no filter expression: the broker has no query engine).
-    void activateFilter(const std::string& nameSpace, const std::string& className, bool firstActivation);
-    void deActivateFilter(const std::string& nameSpace, const std::string& className, bool lastActivation);
+    void activateFilter(const std::string& nameSpace, const std::string& className,
+                        bool firstActivation);
+    void deActivateFilter(const std::string& nameSpace, const std::string& className,
+                          bool lastActivation);
     void enableIndications();
     void disableIndications();
 
@@ -97,13 +102,16 @@ private:
     class CallGuard;
     enum class Role { Instance, Association, Method, Indication };
 
-    LoadedProvider* _providerFor(Role role, const std::string& nameSpace, const std::string& className) const;
+    LoadedProvider* _providerFor(Role role, const std::string& nameSpace,
+                                 const std::string& className) const;
     std::vector<LoadedProvider*> _associationProviders(const std::string& nameSpace,
                                                        const std::string& assocClass) const;
-    std::string _findLibrary(const std::string& library, const std::vector<std::string>& dirs) const;
+    std::string _findLibrary(const std::string& library,
+                             const std::vector<std::string>& dirs) const;
     void _check(CMPIStatus status, const LoadedProvider& provider, const char* operation) const;
     static void _complete(const CimObjectPath& request, CimObjectPath& path);
-    static std::vector<CimInstance> _finish(const CimObjectPath& request, std::vector<CimInstance> found,
+    static std::vector<CimInstance> _finish(const CimObjectPath& request,
+                                            std::vector<CimInstance> found,
                                             const PropertyList* propertyList);
 
     Options _options;

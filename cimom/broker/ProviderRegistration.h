@@ -9,8 +9,8 @@
 struct ProviderRegistration {
     enum class Kind { Instance, Association, Method, Indication };
 
-    std::string name;     // passed to the _Generic_Create_<Kind>MI entry points
-    std::string library;  // "QLNVeldra" means libQLNVeldra.so; a path if it has a '/'
+    std::string name;    // passed to the _Generic_Create_<Kind>MI entry points
+    std::string library; // "QLNVeldra" means libQLNVeldra.so; a path if it has a '/'
     std::vector<std::string> namespaces;
     std::vector<std::string> classes;
     std::vector<Kind> kinds;

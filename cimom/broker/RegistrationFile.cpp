@@ -48,14 +48,18 @@ ProviderRegistration::Kind kindFrom(const std::string& text, const std::string& 
     fail(where, "unknown kind '" + text + "' (instance, association, method, indication)");
 }
 
-}  // namespace
+} // namespace
 
 const char* RegistrationFile::kindName(ProviderRegistration::Kind kind) {
     switch (kind) {
-    case ProviderRegistration::Kind::Instance: return "instance";
-    case ProviderRegistration::Kind::Association: return "association";
-    case ProviderRegistration::Kind::Method: return "method";
-    case ProviderRegistration::Kind::Indication: return "indication";
+    case ProviderRegistration::Kind::Instance:
+        return "instance";
+    case ProviderRegistration::Kind::Association:
+        return "association";
+    case ProviderRegistration::Kind::Method:
+        return "method";
+    case ProviderRegistration::Kind::Indication:
+        return "indication";
     }
     return "?";
 }
@@ -91,10 +95,11 @@ RegistrationFile::Contents RegistrationFile::parse(const std::string& yamlText,
         }
     }
     if (root["libraryPath"]) {
-        for (const std::string& dir : stringList(root["libraryPath"], "file " + sourceName, "libraryPath")) {
+        for (const std::string& dir :
+             stringList(root["libraryPath"], "file " + sourceName, "libraryPath")) {
             std::filesystem::path p(dir);
-            contents.libraryDirs.push_back(p.is_absolute() ? p.string()
-                                                           : (std::filesystem::path(baseDir) / p).string());
+            contents.libraryDirs.push_back(
+                p.is_absolute() ? p.string() : (std::filesystem::path(baseDir) / p).string());
         }
     }
     const YAML::Node providers = root["providers"];

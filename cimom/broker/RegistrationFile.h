@@ -21,7 +21,7 @@
 class RegistrationFile {
 public:
     struct Contents {
-        std::vector<std::string> libraryDirs;  // made absolute against the file's folder
+        std::vector<std::string> libraryDirs; // made absolute against the file's folder
         std::vector<ProviderRegistration> providers;
     };
 

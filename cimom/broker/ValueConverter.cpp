@@ -14,11 +14,12 @@ namespace {
 template <class Obj, class C> Obj& ours(const C* handle, const char* what) {
     Obj* obj = Obj::from(handle);
     if (obj == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_HANDLE, std::string("not a ") + what + " of this broker");
+        throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
+                       std::string("not a ") + what + " of this broker");
     }
     return *obj;
 }
-}  // namespace
+} // namespace
 
 CimValue ValueConverter::toCim(const CMPIData& data) {
     if (data.state & CMPI_nullValue) {
@@ -52,28 +53,42 @@ CimValue ValueConverter::toCim(const CMPIValue* v, CMPIType type) {
         return ours<BrokerArray>(v->array, "CMPIArray").value();
     }
     switch (type) {
-    case CMPI_boolean: return CimValue::boolean(v->boolean != 0);
-    case CMPI_char16: return CimValue::char16(v->char16);
-    case CMPI_real32: return CimValue::real32(v->real32);
-    case CMPI_real64: return CimValue::real64(v->real64);
-    case CMPI_uint8: return CimValue::uint8(v->uint8);
-    case CMPI_uint16: return CimValue::uint16(v->uint16);
-    case CMPI_uint32: return CimValue::uint32(v->uint32);
-    case CMPI_uint64: return CimValue::uint64(v->uint64);
-    case CMPI_sint8: return CimValue::sint8(v->sint8);
-    case CMPI_sint16: return CimValue::sint16(v->sint16);
-    case CMPI_sint32: return CimValue::sint32(v->sint32);
-    case CMPI_sint64: return CimValue::sint64(v->sint64);
+    case CMPI_boolean:
+        return CimValue::boolean(v->boolean != 0);
+    case CMPI_char16:
+        return CimValue::char16(v->char16);
+    case CMPI_real32:
+        return CimValue::real32(v->real32);
+    case CMPI_real64:
+        return CimValue::real64(v->real64);
+    case CMPI_uint8:
+        return CimValue::uint8(v->uint8);
+    case CMPI_uint16:
+        return CimValue::uint16(v->uint16);
+    case CMPI_uint32:
+        return CimValue::uint32(v->uint32);
+    case CMPI_uint64:
+        return CimValue::uint64(v->uint64);
+    case CMPI_sint8:
+        return CimValue::sint8(v->sint8);
+    case CMPI_sint16:
+        return CimValue::sint16(v->sint16);
+    case CMPI_sint32:
+        return CimValue::sint32(v->sint32);
+    case CMPI_sint64:
+        return CimValue::sint64(v->sint64);
     case CMPI_string:
-        return v->string == nullptr ? CimValue::null(CMPI_string)
-                                    : CimValue::string(ours<BrokerString>(v->string, "CMPIString").text());
+        return v->string == nullptr
+                   ? CimValue::null(CMPI_string)
+                   : CimValue::string(ours<BrokerString>(v->string, "CMPIString").text());
     case CMPI_dateTime:
         return v->dateTime == nullptr
                    ? CimValue::null(CMPI_dateTime)
                    : CimValue::dateTime(ours<BrokerDateTime>(v->dateTime, "CMPIDateTime").text());
     case CMPI_ref:
-        return v->ref == nullptr ? CimValue::null(CMPI_ref)
-                                 : CimValue::reference(ours<BrokerObjectPath>(v->ref, "CMPIObjectPath").path());
+        return v->ref == nullptr
+                   ? CimValue::null(CMPI_ref)
+                   : CimValue::reference(ours<BrokerObjectPath>(v->ref, "CMPIObjectPath").path());
     case CMPI_instance:
         return v->inst == nullptr
                    ? CimValue::null(CMPI_instance)
@@ -98,23 +113,51 @@ CMPIData ValueConverter::toData(ObjectRegistry& registry, const CimValue& value)
         return d;
     }
     switch (value.type()) {
-    case CMPI_boolean: d.value.boolean = value.asBoolean() ? 1 : 0; break;
-    case CMPI_char16: d.value.char16 = value.asChar16(); break;
-    case CMPI_real32: d.value.real32 = static_cast<CMPIReal32>(value.asReal()); break;
-    case CMPI_real64: d.value.real64 = value.asReal(); break;
-    case CMPI_uint8: d.value.uint8 = static_cast<CMPIUint8>(value.asUnsigned()); break;
-    case CMPI_uint16: d.value.uint16 = static_cast<CMPIUint16>(value.asUnsigned()); break;
-    case CMPI_uint32: d.value.uint32 = static_cast<CMPIUint32>(value.asUnsigned()); break;
-    case CMPI_uint64: d.value.uint64 = value.asUnsigned(); break;
-    case CMPI_sint8: d.value.sint8 = static_cast<CMPISint8>(value.asSigned()); break;
-    case CMPI_sint16: d.value.sint16 = static_cast<CMPISint16>(value.asSigned()); break;
-    case CMPI_sint32: d.value.sint32 = static_cast<CMPISint32>(value.asSigned()); break;
-    case CMPI_sint64: d.value.sint64 = value.asSigned(); break;
-    case CMPI_string: d.value.string = registry.make<BrokerString>(value.asString())->cmpi(); break;
+    case CMPI_boolean:
+        d.value.boolean = value.asBoolean() ? 1 : 0;
+        break;
+    case CMPI_char16:
+        d.value.char16 = value.asChar16();
+        break;
+    case CMPI_real32:
+        d.value.real32 = static_cast<CMPIReal32>(value.asReal());
+        break;
+    case CMPI_real64:
+        d.value.real64 = value.asReal();
+        break;
+    case CMPI_uint8:
+        d.value.uint8 = static_cast<CMPIUint8>(value.asUnsigned());
+        break;
+    case CMPI_uint16:
+        d.value.uint16 = static_cast<CMPIUint16>(value.asUnsigned());
+        break;
+    case CMPI_uint32:
+        d.value.uint32 = static_cast<CMPIUint32>(value.asUnsigned());
+        break;
+    case CMPI_uint64:
+        d.value.uint64 = value.asUnsigned();
+        break;
+    case CMPI_sint8:
+        d.value.sint8 = static_cast<CMPISint8>(value.asSigned());
+        break;
+    case CMPI_sint16:
+        d.value.sint16 = static_cast<CMPISint16>(value.asSigned());
+        break;
+    case CMPI_sint32:
+        d.value.sint32 = static_cast<CMPISint32>(value.asSigned());
+        break;
+    case CMPI_sint64:
+        d.value.sint64 = value.asSigned();
+        break;
+    case CMPI_string:
+        d.value.string = registry.make<BrokerString>(value.asString())->cmpi();
+        break;
     case CMPI_dateTime:
         d.value.dateTime = registry.make<BrokerDateTime>(value.asString())->cmpi();
         break;
-    case CMPI_ref: d.value.ref = registry.make<BrokerObjectPath>(value.asReference())->cmpi(); break;
+    case CMPI_ref:
+        d.value.ref = registry.make<BrokerObjectPath>(value.asReference())->cmpi();
+        break;
     case CMPI_instance:
         d.value.inst = registry.make<BrokerInstance>(value.asInstance())->cmpi();
         break;

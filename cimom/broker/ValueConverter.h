@@ -12,8 +12,9 @@ class ObjectRegistry;
 class ValueConverter {
 public:
     // A null value pointer gives null of the type. For CMPI_chars the value
-    // pointer is the C string itself, as providers pass it; it becomes a string. Throws CimError: CMPI_RC_ERR_INVALID_HANDLE for an object
-    // that is not ours, CMPI_RC_ERR_INVALID_DATA_TYPE for an unknown type.
+    // pointer is the C string itself, as providers pass it; it becomes a string. Throws CimError:
+    // CMPI_RC_ERR_INVALID_HANDLE for an object that is not ours, CMPI_RC_ERR_INVALID_DATA_TYPE for
+    // an unknown type.
     static CimValue toCim(const CMPIValue* value, CMPIType type);
     static CimValue toCim(const CMPIData& data);
     static CMPIData toData(ObjectRegistry& registry, const CimValue& value);

@@ -18,7 +18,7 @@ CMPIrc codeOf(const std::function<void()>& f) {
     }
     return CMPI_RC_OK;
 }
-}  // namespace
+} // namespace
 
 TEST(CimValue, TextFormsRoundTripPerType) {
     const struct {
@@ -26,13 +26,18 @@ TEST(CimValue, TextFormsRoundTripPerType) {
         const char* in;
         const char* out;
     } cases[] = {
-        {CMPI_boolean, "true", "TRUE"},       {CMPI_boolean, "FALSE", "FALSE"},
-        {CMPI_uint8, "255", "255"},           {CMPI_uint16, "0x10", "16"},
+        {CMPI_boolean, "true", "TRUE"},
+        {CMPI_boolean, "FALSE", "FALSE"},
+        {CMPI_uint8, "255", "255"},
+        {CMPI_uint16, "0x10", "16"},
         {CMPI_uint32, "4294967295", "4294967295"},
         {CMPI_uint64, "18446744073709551615", "18446744073709551615"},
-        {CMPI_sint8, "-128", "-128"},         {CMPI_sint64, "-9223372036854775808", "-9223372036854775808"},
-        {CMPI_sint32, "+7", "7"},             {CMPI_real64, "0.1", "0.1"},
-        {CMPI_real32, "1.5", "1.5"},          {CMPI_char16, "\xc3\xa9", "\xc3\xa9"},
+        {CMPI_sint8, "-128", "-128"},
+        {CMPI_sint64, "-9223372036854775808", "-9223372036854775808"},
+        {CMPI_sint32, "+7", "7"},
+        {CMPI_real64, "0.1", "0.1"},
+        {CMPI_real32, "1.5", "1.5"},
+        {CMPI_char16, "\xc3\xa9", "\xc3\xa9"},
         {CMPI_string, "a <b> & c", "a <b> & c"},
         {CMPI_dateTime, "20261123004312.000000+000", "20261123004312.000000+000"},
         {CMPI_dateTime, "00000001020304.000005:000", "00000001020304.000005:000"},
@@ -50,22 +55,31 @@ TEST(CimValue, BadTextAndOutOfRangeAreInvalidParameter) {
         CMPIType type;
         const char* in;
     } cases[] = {
-        {CMPI_uint8, "256"},    {CMPI_uint32, "-1"},  {CMPI_uint32, "12abc"}, {CMPI_uint16, ""},
-        {CMPI_sint8, "128"},    {CMPI_sint64, "--1"}, {CMPI_boolean, "yes"},  {CMPI_real64, "1.0x"},
-        {CMPI_char16, "ab"},    {CMPI_dateTime, "2026"},
+        {CMPI_uint8, "256"},
+        {CMPI_uint32, "-1"},
+        {CMPI_uint32, "12abc"},
+        {CMPI_uint16, ""},
+        {CMPI_sint8, "128"},
+        {CMPI_sint64, "--1"},
+        {CMPI_boolean, "yes"},
+        {CMPI_real64, "1.0x"},
+        {CMPI_char16, "ab"},
+        {CMPI_dateTime, "2026"},
         {CMPI_dateTime, "20261123004312.000000:001"},
     };
     for (const auto& c : cases) {
         EXPECT_EQ(codeOf([&] { CimValue::fromText(c.type, c.in); }), CMPI_RC_ERR_INVALID_PARAMETER)
             << c.in;
     }
-    EXPECT_EQ(codeOf([] { CimValue::unsignedInt(CMPI_uint8, 300); }), CMPI_RC_ERR_INVALID_PARAMETER);
+    EXPECT_EQ(codeOf([] { CimValue::unsignedInt(CMPI_uint8, 300); }),
+              CMPI_RC_ERR_INVALID_PARAMETER);
     EXPECT_EQ(codeOf([] { CimValue::string("x").asUnsigned(); }), CMPI_RC_ERR_TYPE_MISMATCH);
     EXPECT_EQ(codeOf([] { CimValue::null(CMPI_uint32).asUnsigned(); }), CMPI_RC_ERR_TYPE_MISMATCH);
 }
 
 TEST(CimValue, ArraysAndTypeNames) {
-    const CimValue a = CimValue::array(CMPI_uint16, {CimValue::uint16(2), CimValue(), CimValue::uint16(3)});
+    const CimValue a =
+        CimValue::array(CMPI_uint16, {CimValue::uint16(2), CimValue(), CimValue::uint16(3)});
     EXPECT_EQ(a.type(), CMPI_uint16A);
     EXPECT_TRUE(a.isArray());
     EXPECT_EQ(a.elementType(), CMPI_uint16);
@@ -93,7 +107,7 @@ TEST(CimObjectPath, EqualityIgnoresCaseKeyOrderIntegerWidthAndNamespace) {
     EXPECT_EQ(a.hash(), b.hash());
 
     CimObjectPath c = b;
-    c.addKey("Name", CimValue::string("D1"));  // replaces in place; values are case-sensitive
+    c.addKey("Name", CimValue::string("D1")); // replaces in place; values are case-sensitive
     EXPECT_EQ(c.keys().size(), 2u);
     EXPECT_NE(a, c);
 
@@ -127,13 +141,15 @@ TEST(CimObjectPath, TextRoundTripAndMalformedText) {
     p.addKey("Slot", CimValue::uint32(3));
     p.addKey("Spare", CimValue::boolean(false));
     const std::string text = p.toString();
-    EXPECT_EQ(text, "//h1/root/test:Test_Disk.Name=\"a \\\"quoted\\\" \\\\ name\",Slot=3,Spare=FALSE");
+    EXPECT_EQ(text,
+              "//h1/root/test:Test_Disk.Name=\"a \\\"quoted\\\" \\\\ name\",Slot=3,Spare=FALSE");
     const CimObjectPath q = CimObjectPath::parse(text);
     EXPECT_EQ(q, p);
     EXPECT_EQ(q.nameSpace(), "root/test");
     EXPECT_EQ(q.host(), "h1");
 
-    for (const char* bad : {"", "root/test:", "Cls.=1", "Cls.K=\"open", "Cls.K=1;", "Cls.K=abc", "//h"}) {
+    for (const char* bad :
+         {"", "root/test:", "Cls.=1", "Cls.K=\"open", "Cls.K=1;", "Cls.K=abc", "//h"}) {
         EXPECT_EQ(codeOf([&] { CimObjectPath::parse(bad); }), CMPI_RC_ERR_INVALID_PARAMETER) << bad;
     }
 }

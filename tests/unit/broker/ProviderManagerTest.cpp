@@ -17,7 +17,8 @@
 namespace {
 
 const std::string registrationFile =
-    std::string(VELDRA_SOURCE_DIR) + "/tests/unit/broker/testprovider/TestProvider.registration.yaml";
+    std::string(VELDRA_SOURCE_DIR) +
+    "/tests/unit/broker/testprovider/TestProvider.registration.yaml";
 
 std::string readFile(const std::string& path) {
     std::ifstream in(path);
@@ -77,7 +78,7 @@ CMPIrc codeOf(const std::function<void()>& f, std::string* message = nullptr) {
     return CMPI_RC_OK;
 }
 
-}  // namespace
+} // namespace
 
 TEST_F(ProviderManagerTest, LoadsThroughTheGenericEntryPoints) {
     EXPECT_EQ(_pm->providerNames(), std::vector<std::string>{"TestProvider"});
@@ -87,8 +88,9 @@ TEST_F(ProviderManagerTest, LoadsThroughTheGenericEntryPoints) {
     EXPECT_TRUE(_pm->hasAssociationProvider("root/test", ""));
     EXPECT_FALSE(_pm->hasInstanceProvider("root/other", "Test_Disk"));
     const std::string t = trace();
-    for (const char* line : {"create instance as TestProvider", "create association as TestProvider",
-                             "create method as TestProvider", "create indication as TestProvider"}) {
+    for (const char* line :
+         {"create instance as TestProvider", "create association as TestProvider",
+          "create method as TestProvider", "create indication as TestProvider"}) {
         EXPECT_NE(t.find(line), std::string::npos) << line;
     }
 }
@@ -126,9 +128,12 @@ TEST_F(ProviderManagerTest, EnumeratesAndGetsInstancesWithTypesAndOrder) {
 
 TEST_F(ProviderManagerTest, ProviderErrorsArriveWithCodeAndMessage) {
     std::string msg;
-    EXPECT_EQ(codeOf([&] { _pm->getInstance(diskPath("nope"), nullptr); }, &msg), CMPI_RC_ERR_NOT_FOUND);
+    EXPECT_EQ(codeOf([&] { _pm->getInstance(diskPath("nope"), nullptr); }, &msg),
+              CMPI_RC_ERR_NOT_FOUND);
     EXPECT_EQ(msg, "no such disk");
-    EXPECT_EQ(codeOf([&] { _pm->enumerateInstances(CimObjectPath("root/test", "Test_Nothing"), nullptr); }),
+    EXPECT_EQ(codeOf([&] {
+                  _pm->enumerateInstances(CimObjectPath("root/test", "Test_Nothing"), nullptr);
+              }),
               CMPI_RC_ERR_INVALID_CLASS);
     EXPECT_EQ(codeOf([&] { _pm->invokeMethod(diskPath("d1"), "Explode", {}); }, &msg),
               CMPI_RC_ERR_METHOD_NOT_FOUND);
@@ -143,7 +148,10 @@ TEST_F(ProviderManagerTest, AssociationsHonourClassRoleAndResultFilters) {
     EXPECT_EQ(pools[0].path(), poolPath());
     EXPECT_EQ(pools[0].property("ElementName")->asString(), "Pool One");
 
-    EXPECT_EQ(_pm->associatorNames(poolPath(), "Test_PoolDisk", "Test_Disk", "Antecedent", "Dependent").size(), 3u);
+    EXPECT_EQ(
+        _pm->associatorNames(poolPath(), "Test_PoolDisk", "Test_Disk", "Antecedent", "Dependent")
+            .size(),
+        3u);
     EXPECT_TRUE(_pm->associatorNames(poolPath(), "", "", "Dependent", "").empty());
     EXPECT_TRUE(_pm->associatorNames(diskPath("d1"), "", "Test_Disk", "", "").empty());
     EXPECT_TRUE(_pm->associatorNames(diskPath("d1"), "Test_Other", "", "", "").empty());
@@ -157,7 +165,8 @@ TEST_F(ProviderManagerTest, AssociationsHonourClassRoleAndResultFilters) {
 }
 
 TEST_F(ProviderManagerTest, MethodsReturnValueOutArgsAndUpcalls) {
-    MethodResult r = _pm->invokeMethod(diskPath("d1"), "Identify", {{"Duration", CimValue::uint32(7)}});
+    MethodResult r =
+        _pm->invokeMethod(diskPath("d1"), "Identify", {{"Duration", CimValue::uint32(7)}});
     EXPECT_EQ(r.returnValue, CimValue::uint32(7));
     ASSERT_EQ(r.outArgs.size(), 1u);
     EXPECT_EQ(r.outArgs[0].first, "Echo");
@@ -173,7 +182,8 @@ TEST_F(ProviderManagerTest, MethodsReturnValueOutArgsAndUpcalls) {
 }
 
 TEST_F(ProviderManagerTest, IndicationsFromAProviderThreadReachTheSink) {
-    const MethodResult r = _pm->invokeMethod(diskPath("d1"), "FireIndication", {{"Count", CimValue::uint32(3)}});
+    const MethodResult r =
+        _pm->invokeMethod(diskPath("d1"), "FireIndication", {{"Count", CimValue::uint32(3)}});
     EXPECT_EQ(r.returnValue, CimValue::uint32(0));
     const auto got = _sink->delivered();
     ASSERT_EQ(got.size(), 3u);
@@ -205,7 +215,7 @@ TEST_F(ProviderManagerTest, ShutdownCleansUpEveryMiThenUnloads) {
     }
     EXPECT_EQ(codeOf([&] { _pm->enumerateInstanceNames(CimObjectPath("root/test", "Test_Disk")); }),
               CMPI_RC_ERR_FAILED);
-    _pm->shutdown();  // twice is harmless
+    _pm->shutdown(); // twice is harmless
 }
 
 TEST_F(ProviderManagerTest, ConcurrentRequestsShareTheProvider) {
@@ -215,7 +225,8 @@ TEST_F(ProviderManagerTest, ConcurrentRequestsShareTheProvider) {
         threads.emplace_back([&, t] {
             for (int i = 0; i < 50; ++i) {
                 try {
-                    const CimInstance inst = _pm->getInstance(diskPath(t % 2 ? "d1" : "d3"), nullptr);
+                    const CimInstance inst =
+                        _pm->getInstance(diskPath(t % 2 ? "d1" : "d3"), nullptr);
                     const auto assoc = _pm->associators(diskPath("d2"), "", "", "", "", nullptr);
                     const auto r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
                     if (inst.properties().size() != 6 || assoc.size() != 1 ||
@@ -237,7 +248,8 @@ TEST_F(ProviderManagerTest, ConcurrentRequestsShareTheProvider) {
 
 namespace {
 
-std::string loadError(const std::string& yaml, const std::vector<std::string>& dirs = {VELDRA_LIB_DIR}) {
+std::string loadError(const std::string& yaml,
+                      const std::vector<std::string>& dirs = {VELDRA_LIB_DIR}) {
     const auto file = std::filesystem::temp_directory_path() /
                       ("veldra-reg-" + std::to_string(::getpid()) + ".yaml");
     {
@@ -266,7 +278,7 @@ std::string provider(const std::string& name, const std::string& library,
            "\n    namespaces: [root/test]\n    classes: [Test_Disk]\n    kinds: " + kinds + "\n";
 }
 
-}  // namespace
+} // namespace
 
 TEST(ProviderLoading, BadLibrariesAndProvidersAreRefusedClearly) {
     std::string e = loadError(provider("TestProvider", "no_such_library"));
@@ -277,10 +289,13 @@ TEST(ProviderLoading, BadLibrariesAndProvidersAreRefusedClearly) {
     EXPECT_NE(e.find("has no entry point _Generic_Create_InstanceMI"), std::string::npos) << e;
 
     e = loadError(provider("TestProviderNull", "veldra_test_provider"));
-    EXPECT_NE(e.find("_Generic_Create_InstanceMI returned no function table"), std::string::npos) << e;
+    EXPECT_NE(e.find("_Generic_Create_InstanceMI returned no function table"), std::string::npos)
+        << e;
 
     e = loadError(provider("TestProviderBadStatus", "veldra_test_provider"));
-    EXPECT_NE(e.find("failed with status 1: TestProviderBadStatus refuses to start"), std::string::npos) << e;
+    EXPECT_NE(e.find("failed with status 1: TestProviderBadStatus refuses to start"),
+              std::string::npos)
+        << e;
 }
 
 TEST(ProviderLoading, MalformedRegistrationFilesNameTheProblem) {

@@ -39,13 +39,25 @@ static CMPIStatus cGetInstance(CMPIInstanceMI* mi, const CMPIContext* ctx, const
     return st;
 }
 
-static CMPIInstanceMIFT cInstanceFT = {
-    CMPICurrentVersion, CMPICurrentVersion, "CLayout", cCleanup, NULL, NULL, cGetInstance,
-    NULL, NULL, NULL, NULL};
+static CMPIInstanceMIFT cInstanceFT = {CMPICurrentVersion,
+                                       CMPICurrentVersion,
+                                       "CLayout",
+                                       cCleanup,
+                                       NULL,
+                                       NULL,
+                                       cGetInstance,
+                                       NULL,
+                                       NULL,
+                                       NULL,
+                                       NULL};
 static CMPIInstanceMI cInstanceMI = {(void*)"marker", &cInstanceFT};
 
-CMPIInstanceMI* veldraCInstanceMI(void) { return &cInstanceMI; }
-int veldraCCleanupCount(void) { return cleanups; }
+CMPIInstanceMI* veldraCInstanceMI(void) {
+    return &cInstanceMI;
+}
+int veldraCCleanupCount(void) {
+    return cleanups;
+}
 
 static CMPIData cGetElementAt(const CMPIArray* ar, CMPICount index, CMPIStatus* rc) {
     CMPIData d;
@@ -64,4 +76,6 @@ static CMPIData cGetElementAt(const CMPIArray* ar, CMPICount index, CMPIStatus* 
 static CMPIArrayFT cArrayFT = {CMPICurrentVersion, NULL, NULL, NULL, NULL, cGetElementAt, NULL};
 static CMPIArray cArray = {NULL, &cArrayFT};
 
-CMPIArray* veldraCArray(void) { return &cArray; }
+CMPIArray* veldraCArray(void) {
+    return &cArray;
+}

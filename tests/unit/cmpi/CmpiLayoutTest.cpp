@@ -49,11 +49,10 @@ TEST(CmpiLayout, CxxCallsTablesBuiltInC) {
 TEST(CmpiLayout, ArrayCodesCombineWithElementCodes) {
     // Brokers derive an element type by masking the array bit; that only
     // works if no element code uses it.
-    const CMPIType elements[] = {CMPI_boolean, CMPI_char16,  CMPI_real32,   CMPI_real64,
-                                 CMPI_uint8,   CMPI_uint16,  CMPI_uint32,   CMPI_uint64,
-                                 CMPI_sint8,   CMPI_sint16,  CMPI_sint32,   CMPI_sint64,
-                                 CMPI_string,  CMPI_chars,   CMPI_dateTime, CMPI_ref,
-                                 CMPI_instance};
+    const CMPIType elements[] = {
+        CMPI_boolean, CMPI_char16, CMPI_real32,   CMPI_real64, CMPI_uint8,   CMPI_uint16,
+        CMPI_uint32,  CMPI_uint64, CMPI_sint8,    CMPI_sint16, CMPI_sint32,  CMPI_sint64,
+        CMPI_string,  CMPI_chars,  CMPI_dateTime, CMPI_ref,    CMPI_instance};
     for (CMPIType t : elements) {
         EXPECT_EQ(t & CMPI_ARRAY, 0) << t;
         EXPECT_EQ(static_cast<CMPIType>((t | CMPI_ARRAY) & ~CMPI_ARRAY), t);

@@ -64,7 +64,9 @@ static void trace(const char* fmt, ...) {
     pthread_mutex_unlock(&traceLock);
 }
 
-__attribute__((destructor)) static void unloaded(void) { trace("unloaded"); }
+__attribute__((destructor)) static void unloaded(void) {
+    trace("unloaded");
+}
 
 static CMPIStatus status(CMPIrc rc, const char* msg) {
     CMPIStatus st;
@@ -73,16 +75,26 @@ static CMPIStatus status(CMPIrc rc, const char* msg) {
     return st;
 }
 
-static CMPIStatus ok(void) { return status(CMPI_RC_OK, NULL); }
+static CMPIStatus ok(void) {
+    return status(CMPI_RC_OK, NULL);
+}
 
-static const char* chars(CMPIString* s) { return s != NULL ? s->ft->getCharPtr(s, NULL) : NULL; }
+static const char* chars(CMPIString* s) {
+    return s != NULL ? s->ft->getCharPtr(s, NULL) : NULL;
+}
 
-static int sameName(const char* a, const char* b) { return a != NULL && b != NULL && strcasecmp(a, b) == 0; }
+static int sameName(const char* a, const char* b) {
+    return a != NULL && b != NULL && strcasecmp(a, b) == 0;
+}
 
 /* A filter argument fits when it is absent or names the expected value. */
-static int fits(const char* filter, const char* expected) { return filter == NULL || sameName(filter, expected); }
+static int fits(const char* filter, const char* expected) {
+    return filter == NULL || sameName(filter, expected);
+}
 
-static const char* classOf(const CMPIObjectPath* op) { return chars(op->ft->getClassName(op, NULL)); }
+static const char* classOf(const CMPIObjectPath* op) {
+    return chars(op->ft->getClassName(op, NULL));
+}
 
 static const char* keyString(const CMPIObjectPath* op, const char* key) {
     CMPIStatus rc;
@@ -233,7 +245,9 @@ static CMPIStatus instGet(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPI
     } else if (sameName(cls, ASSOC_CLASS)) {
         CMPIStatus rc;
         CMPIData dep = op->ft->getKey(op, "Dependent", &rc);
-        const int i = (rc.rc == CMPI_RC_OK && dep.type == CMPI_ref) ? diskIndex(keyString(dep.value.ref, "Name")) : -1;
+        const int i = (rc.rc == CMPI_RC_OK && dep.type == CMPI_ref)
+                          ? diskIndex(keyString(dep.value.ref, "Name"))
+                          : -1;
         if (i < 0) {
             return status(CMPI_RC_ERR_NOT_FOUND, "no such pool member");
         }
@@ -252,7 +266,8 @@ static CMPIStatus instCreate(CMPIInstanceMI* mi, const CMPIContext* ctx, const C
 }
 
 static CMPIStatus instModify(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                             const CMPIObjectPath* op, const CMPIInstance* inst, const char** props) {
+                             const CMPIObjectPath* op, const CMPIInstance* inst,
+                             const char** props) {
     (void)mi, (void)ctx, (void)rslt, (void)op, (void)inst, (void)props;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "read-only provider");
 }
@@ -269,9 +284,10 @@ static CMPIStatus instQuery(CMPIInstanceMI* mi, const CMPIContext* ctx, const CM
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "no queries");
 }
 
-static CMPIInstanceMIFT instanceFT = {CMPICurrentVersion, CMPICurrentVersion, "TestProvider",
-                                      instCleanup, instEnumNames, instEnum, instGet, instCreate,
-                                      instModify, instDelete, instQuery};
+static CMPIInstanceMIFT instanceFT = {
+    CMPICurrentVersion, CMPICurrentVersion, "TestProvider", instCleanup,
+    instEnumNames,      instEnum,           instGet,        instCreate,
+    instModify,         instDelete,         instQuery};
 static CMPIInstanceMI instanceMI = {NULL, &instanceFT};
 
 /* ---- Association MI -------------------------------------------------------- */
@@ -316,24 +332,27 @@ static void visitReferenceName(const CMPIResult* rslt, int i, int farIsPool) {
     rslt->ft->returnObjectPath(rslt, assocPath(i));
 }
 
-static CMPIStatus assocCleanup(CMPIAssociationMI* mi, const CMPIContext* ctx, CMPIBoolean terminating) {
+static CMPIStatus assocCleanup(CMPIAssociationMI* mi, const CMPIContext* ctx,
+                               CMPIBoolean terminating) {
     (void)mi, (void)ctx;
     trace("cleanup association%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
 static CMPIStatus associators(CMPIAssociationMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                              const CMPIObjectPath* op, const char* assocClass, const char* resultClass,
-                              const char* role, const char* resultRole, const char** properties) {
+                              const CMPIObjectPath* op, const char* assocClass,
+                              const char* resultClass, const char* role, const char* resultRole,
+                              const char** properties) {
     (void)mi, (void)ctx, (void)properties;
     walk(op, assocClass, resultClass, role, resultRole, visitAssociator, rslt);
     rslt->ft->returnDone(rslt);
     return ok();
 }
 
-static CMPIStatus associatorNames(CMPIAssociationMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                                  const CMPIObjectPath* op, const char* assocClass,
-                                  const char* resultClass, const char* role, const char* resultRole) {
+static CMPIStatus associatorNames(CMPIAssociationMI* mi, const CMPIContext* ctx,
+                                  const CMPIResult* rslt, const CMPIObjectPath* op,
+                                  const char* assocClass, const char* resultClass, const char* role,
+                                  const char* resultRole) {
     (void)mi, (void)ctx;
     walk(op, assocClass, resultClass, role, resultRole, visitAssociatorName, rslt);
     rslt->ft->returnDone(rslt);
@@ -349,8 +368,9 @@ static CMPIStatus references(CMPIAssociationMI* mi, const CMPIContext* ctx, cons
     return ok();
 }
 
-static CMPIStatus referenceNames(CMPIAssociationMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                                 const CMPIObjectPath* op, const char* resultClass, const char* role) {
+static CMPIStatus referenceNames(CMPIAssociationMI* mi, const CMPIContext* ctx,
+                                 const CMPIResult* rslt, const CMPIObjectPath* op,
+                                 const char* resultClass, const char* role) {
     (void)mi, (void)ctx;
     walk(op, resultClass, NULL, role, NULL, visitReferenceName, rslt);
     rslt->ft->returnDone(rslt);
@@ -358,8 +378,8 @@ static CMPIStatus referenceNames(CMPIAssociationMI* mi, const CMPIContext* ctx, 
 }
 
 static CMPIAssociationMIFT associationFT = {CMPICurrentVersion, CMPICurrentVersion, "TestProvider",
-                                            assocCleanup, associators, associatorNames, references,
-                                            referenceNames};
+                                            assocCleanup,       associators,        associatorNames,
+                                            references,         referenceNames};
 static CMPIAssociationMI associationMI = {NULL, &associationFT};
 
 /* ---- Method MI -------------------------------------------------------------- */
@@ -449,33 +469,38 @@ static CMPIMethodMI methodMI = {NULL, &methodFT};
 
 /* ---- Indication MI -------------------------------------------------------- */
 
-static CMPIStatus indCleanup(CMPIIndicationMI* mi, const CMPIContext* ctx, CMPIBoolean terminating) {
+static CMPIStatus indCleanup(CMPIIndicationMI* mi, const CMPIContext* ctx,
+                             CMPIBoolean terminating) {
     (void)mi, (void)ctx;
     trace("cleanup indication%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
-static CMPIStatus authorizeFilter(CMPIIndicationMI* mi, const CMPIContext* ctx, const CMPISelectExp* filter,
-                                  const char* className, const CMPIObjectPath* op, const char* owner) {
+static CMPIStatus authorizeFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
+                                  const CMPISelectExp* filter, const char* className,
+                                  const CMPIObjectPath* op, const char* owner) {
     (void)mi, (void)ctx, (void)filter, (void)className, (void)op, (void)owner;
     return ok();
 }
 
-static CMPIStatus mustPoll(CMPIIndicationMI* mi, const CMPIContext* ctx, const CMPISelectExp* filter,
-                           const char* className, const CMPIObjectPath* op) {
+static CMPIStatus mustPoll(CMPIIndicationMI* mi, const CMPIContext* ctx,
+                           const CMPISelectExp* filter, const char* className,
+                           const CMPIObjectPath* op) {
     (void)mi, (void)ctx, (void)filter, (void)className, (void)op;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, NULL);
 }
 
-static CMPIStatus activateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx, const CMPISelectExp* filter,
-                                 const char* className, const CMPIObjectPath* op, CMPIBoolean first) {
+static CMPIStatus activateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
+                                 const CMPISelectExp* filter, const char* className,
+                                 const CMPIObjectPath* op, CMPIBoolean first) {
     (void)mi, (void)ctx, (void)filter, (void)op;
     trace("activateFilter %s%s", className ? className : "(null)", first ? " first" : "");
     return ok();
 }
 
-static CMPIStatus deActivateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx, const CMPISelectExp* filter,
-                                   const char* className, const CMPIObjectPath* op, CMPIBoolean last) {
+static CMPIStatus deActivateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
+                                   const CMPISelectExp* filter, const char* className,
+                                   const CMPIObjectPath* op, CMPIBoolean last) {
     (void)mi, (void)ctx, (void)filter, (void)op;
     trace("deActivateFilter %s%s", className ? className : "(null)", last ? " last" : "");
     return ok();
@@ -494,13 +519,15 @@ static CMPIStatus disableIndications(CMPIIndicationMI* mi, const CMPIContext* ct
 }
 
 static CMPIIndicationMIFT indicationFT = {CMPICurrentVersion, CMPICurrentVersion, "TestProvider",
-                                          indCleanup, authorizeFilter, mustPoll, activateFilter,
-                                          deActivateFilter, enableIndications, disableIndications};
+                                          indCleanup,         authorizeFilter,    mustPoll,
+                                          activateFilter,     deActivateFilter,   enableIndications,
+                                          disableIndications};
 static CMPIIndicationMI indicationMI = {NULL, &indicationFT};
 
 /* ---- Factories --------------------------------------------------------------- */
 
-static void* create(const CMPIBroker* mb, const char* name, CMPIStatus* rc, const char* kind, void* mi) {
+static void* create(const CMPIBroker* mb, const char* name, CMPIStatus* rc, const char* kind,
+                    void* mi) {
     trace("create %s as %s", kind, name ? name : "(null)");
     broker = mb;
     if (name != NULL && strcmp(name, "TestProvider") == 0) {
@@ -515,13 +542,15 @@ static void* create(const CMPIBroker* mb, const char* name, CMPIStatus* rc, cons
     return NULL;
 }
 
-CMPI_EXTERN_C CMPIInstanceMI* _Generic_Create_InstanceMI(const CMPIBroker* mb, const CMPIContext* ctx,
-                                                         const char* name, CMPIStatus* rc) {
+CMPI_EXTERN_C CMPIInstanceMI* _Generic_Create_InstanceMI(const CMPIBroker* mb,
+                                                         const CMPIContext* ctx, const char* name,
+                                                         CMPIStatus* rc) {
     (void)ctx;
     return (CMPIInstanceMI*)create(mb, name, rc, "instance", &instanceMI);
 }
 
-CMPI_EXTERN_C CMPIAssociationMI* _Generic_Create_AssociationMI(const CMPIBroker* mb, const CMPIContext* ctx,
+CMPI_EXTERN_C CMPIAssociationMI* _Generic_Create_AssociationMI(const CMPIBroker* mb,
+                                                               const CMPIContext* ctx,
                                                                const char* name, CMPIStatus* rc) {
     (void)ctx;
     return (CMPIAssociationMI*)create(mb, name, rc, "association", &associationMI);
@@ -533,7 +562,8 @@ CMPI_EXTERN_C CMPIMethodMI* _Generic_Create_MethodMI(const CMPIBroker* mb, const
     return (CMPIMethodMI*)create(mb, name, rc, "method", &methodMI);
 }
 
-CMPI_EXTERN_C CMPIIndicationMI* _Generic_Create_IndicationMI(const CMPIBroker* mb, const CMPIContext* ctx,
+CMPI_EXTERN_C CMPIIndicationMI* _Generic_Create_IndicationMI(const CMPIBroker* mb,
+                                                             const CMPIContext* ctx,
                                                              const char* name, CMPIStatus* rc) {
     (void)ctx;
     return (CMPIIndicationMI*)create(mb, name, rc, "indication", &indicationMI);
