@@ -86,9 +86,14 @@ _CMPIBroker const* QLNUtil::getBroker() {
 }
 
 std::string QLNUtil::getHostName() {
-    if (auto configured = FrameworkConfig::get("VELDRA_HOSTNAME");
-        configured && !configured->empty()) {
-        return *configured;
+    try {
+        if (auto configured = FrameworkConfig::get("VELDRA_HOSTNAME");
+            configured && !configured->empty()) {
+            return *configured;
+        }
+    } catch (std::exception const&) {
+        // Called for every path; a broken configuration is reported where it
+        // is loaded, and the system's own name stands in meanwhile.
     }
     char name[HOST_NAME_MAX + 1] = {};
     if (gethostname(name, sizeof name - 1) != 0 || name[0] == '\0') {

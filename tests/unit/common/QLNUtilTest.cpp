@@ -93,4 +93,6 @@ TEST(QLNUtil, HostPathsAndSwitches) {
     env.unset("VELDRA_PERFMON");
     env.set("VELDRA_CONFIG", dir.write("bad.conf", "VELDRA_PERFMON: [\n"));
     EXPECT_THROW(QLNUtil::PerfmonEnabled(), std::runtime_error);
+    // Every path asks for the host name: it must not fail with the file.
+    EXPECT_FALSE(QLNUtil::getHostName().empty());
 }
