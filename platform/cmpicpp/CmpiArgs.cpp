@@ -20,9 +20,13 @@ bool CmpiArgs::hasArg(CmpiName const& name) const {
     return std::any_of(_args.begin(), _args.end(), [&](auto const& a) { return a.first == name; });
 }
 
-CmpiData const& CmpiArgs::getArg(std::string const& name) const { return getArg(CmpiName(name)); }
+CmpiData const& CmpiArgs::getArg(std::string const& name) const {
+    return getArg(CmpiName(name));
+}
 
-CmpiData const& CmpiArgs::getArg(char const* name) const { return getArg(CmpiName(name)); }
+CmpiData const& CmpiArgs::getArg(char const* name) const {
+    return getArg(CmpiName(name));
+}
 
 CmpiData const& CmpiArgs::getArg(CmpiName const& name) const {
     for (auto const& arg : _args)

@@ -21,9 +21,8 @@ CMPIStatus miCleanup(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIBoolean 
 }
 
 CMPIStatus miAssociators(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
-                         CMPIObjectPath const* op, char const* assocClass,
-                         char const* resultClass, char const* role, char const* resultRole,
-                         char const** properties) {
+                         CMPIObjectPath const* op, char const* assocClass, char const* resultClass,
+                         char const* role, char const* resultRole, char const** properties) {
     CmpiAssociationProvider* p = self(mi);
     return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
         CmpiTableInstanceResult result(broker, rslt, properties);
@@ -33,10 +32,9 @@ CMPIStatus miAssociators(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResu
     });
 }
 
-CMPIStatus miAssociatorNames(CMPIAssociationMI* mi, CMPIContext const* ctx,
-                             CMPIResult const* rslt, CMPIObjectPath const* op,
-                             char const* assocClass, char const* resultClass, char const* role,
-                             char const* resultRole) {
+CMPIStatus miAssociatorNames(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                             CMPIObjectPath const* op, char const* assocClass,
+                             char const* resultClass, char const* role, char const* resultRole) {
     CmpiAssociationProvider* p = self(mi);
     return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
         CmpiTableObjectPathResult result(broker, rslt);
@@ -63,8 +61,7 @@ CMPIStatus miReferenceNames(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIR
     CmpiAssociationProvider* p = self(mi);
     return CmpiGuard::run(p, [&](CmpiBroker const& broker) {
         CmpiTableObjectPathResult result(broker, rslt);
-        p->referenceNames(CmpiContext(ctx), CmpiConvert::fromCMPI(op), resultClass, role,
-                          result);
+        p->referenceNames(CmpiContext(ctx), CmpiConvert::fromCMPI(op), resultClass, role, result);
         result.returnDone();
     });
 }
@@ -80,6 +77,8 @@ CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI{this, &assoc
 
 CmpiAssociationProvider::~CmpiAssociationProvider() = default;
 
-CMPIAssociationMI* CmpiAssociationProvider::getAssociationMI() { return &_associationMI; }
+CMPIAssociationMI* CmpiAssociationProvider::getAssociationMI() {
+    return &_associationMI;
+}
 
 } // namespace CmpiCpp

@@ -56,8 +56,8 @@ CMPIString* CmpiConvert::newString(CmpiBroker const& broker, std::string const& 
 
 CMPIObjectPath* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiObjectPath const& path) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
-    CMPIObjectPath* op = _enc(broker)->newObjectPath(
-        broker.toCMPI(), path.getNameSpace().c_str(), path.getClassName().c_str(), &rc);
+    CMPIObjectPath* op = _enc(broker)->newObjectPath(broker.toCMPI(), path.getNameSpace().c_str(),
+                                                     path.getClassName().c_str(), &rc);
     made(op, rc, "newObjectPath");
     if (!path.getHost().empty())
         check(op->ft->setHostname(op, path.getHost().c_str()), "setHostname");
@@ -104,8 +104,8 @@ CMPIArray* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiArray const& array)
 
 CMPIDateTime* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiDateTime const& dateTime) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
-    CMPIDateTime* dt = _enc(broker)->newDateTimeFromBinary(
-        broker.toCMPI(), dateTime.microseconds(), dateTime.isInterval() ? 1 : 0, &rc);
+    CMPIDateTime* dt = _enc(broker)->newDateTimeFromBinary(broker.toCMPI(), dateTime.microseconds(),
+                                                           dateTime.isInterval() ? 1 : 0, &rc);
     return made(dt, rc, "newDateTimeFromBinary");
 }
 
@@ -124,8 +124,8 @@ void CmpiConvert::addArgs(CmpiBroker const& broker, CMPIArgs const* out, CmpiArg
     for (unsigned int i = 0; i < args.getArgCount(); ++i) {
         CmpiData const& value = args.getArgAt(i);
         CMPIData raw = _transient(broker, value);
-        check(out->ft->addArg(out, args.getArgNameAt(i).c_str(),
-                              setterValue(raw, value.isNull()), raw.type),
+        check(out->ft->addArg(out, args.getArgNameAt(i).c_str(), setterValue(raw, value.isNull()),
+                              raw.type),
               "addArg");
     }
 }
@@ -147,11 +147,20 @@ CMPIData CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiData const& data) {
         return raw;
     }
     switch (data.getType()) {
-    case CMPI_string: raw.value.string = newString(broker, data.getString()); return raw;
-    case CMPI_ref: raw.value.ref = toCMPI(broker, data.getObjectPath()); return raw;
-    case CMPI_dateTime: raw.value.dateTime = toCMPI(broker, data.getDateTime()); return raw;
-    case CMPI_instance: raw.value.inst = toCMPI(broker, data.getInstance()); return raw;
-    default: return data.toCMPI();
+    case CMPI_string:
+        raw.value.string = newString(broker, data.getString());
+        return raw;
+    case CMPI_ref:
+        raw.value.ref = toCMPI(broker, data.getObjectPath());
+        return raw;
+    case CMPI_dateTime:
+        raw.value.dateTime = toCMPI(broker, data.getDateTime());
+        return raw;
+    case CMPI_instance:
+        raw.value.inst = toCMPI(broker, data.getInstance());
+        return raw;
+    default:
+        return data.toCMPI();
     }
 }
 
@@ -248,21 +257,36 @@ CmpiData CmpiConvert::fromCMPI(CMPIData const& raw) {
     if (raw.type & CMPI_ARRAY)
         return raw.value.array ? CmpiData(fromCMPI(raw.value.array)) : CmpiData::null(raw.type);
     switch (raw.type) {
-    case CMPI_null: return CmpiData();
-    case CMPI_boolean: return CmpiData(raw.value.boolean != 0);
-    case CMPI_char16: return CmpiData::char16(raw.value.char16);
-    case CMPI_real32: return CmpiData(raw.value.real32);
-    case CMPI_real64: return CmpiData(raw.value.real64);
-    case CMPI_uint8: return CmpiData(static_cast<unsigned char>(raw.value.uint8));
-    case CMPI_uint16: return CmpiData(static_cast<unsigned short>(raw.value.uint16));
-    case CMPI_uint32: return CmpiData(static_cast<unsigned int>(raw.value.uint32));
-    case CMPI_uint64: return CmpiData(static_cast<unsigned long long>(raw.value.uint64));
-    case CMPI_sint8: return CmpiData(static_cast<signed char>(raw.value.sint8));
-    case CMPI_sint16: return CmpiData(static_cast<short>(raw.value.sint16));
-    case CMPI_sint32: return CmpiData(static_cast<int>(raw.value.sint32));
-    case CMPI_sint64: return CmpiData(static_cast<long long>(raw.value.sint64));
-    case CMPI_string: return CmpiData(fromCMPI(raw.value.string));
-    case CMPI_chars: return CmpiData(raw.value.chars ? raw.value.chars : "");
+    case CMPI_null:
+        return CmpiData();
+    case CMPI_boolean:
+        return CmpiData(raw.value.boolean != 0);
+    case CMPI_char16:
+        return CmpiData::char16(raw.value.char16);
+    case CMPI_real32:
+        return CmpiData(raw.value.real32);
+    case CMPI_real64:
+        return CmpiData(raw.value.real64);
+    case CMPI_uint8:
+        return CmpiData(static_cast<unsigned char>(raw.value.uint8));
+    case CMPI_uint16:
+        return CmpiData(static_cast<unsigned short>(raw.value.uint16));
+    case CMPI_uint32:
+        return CmpiData(static_cast<unsigned int>(raw.value.uint32));
+    case CMPI_uint64:
+        return CmpiData(static_cast<unsigned long long>(raw.value.uint64));
+    case CMPI_sint8:
+        return CmpiData(static_cast<signed char>(raw.value.sint8));
+    case CMPI_sint16:
+        return CmpiData(static_cast<short>(raw.value.sint16));
+    case CMPI_sint32:
+        return CmpiData(static_cast<int>(raw.value.sint32));
+    case CMPI_sint64:
+        return CmpiData(static_cast<long long>(raw.value.sint64));
+    case CMPI_string:
+        return CmpiData(fromCMPI(raw.value.string));
+    case CMPI_chars:
+        return CmpiData(raw.value.chars ? raw.value.chars : "");
     case CMPI_ref:
         return raw.value.ref ? CmpiData(fromCMPI(raw.value.ref)) : CmpiData::null(CMPI_ref);
     case CMPI_dateTime:
@@ -270,7 +294,8 @@ CmpiData CmpiConvert::fromCMPI(CMPIData const& raw) {
                                   : CmpiData::null(CMPI_dateTime);
     case CMPI_instance:
         return raw.value.inst ? CmpiData(fromCMPI(raw.value.inst)) : CmpiData::null(CMPI_instance);
-    default: break;
+    default:
+        break;
     }
     throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED,
                      "CMPI values of type " + std::to_string(raw.type) + " are not taken");
@@ -278,8 +303,7 @@ CmpiData CmpiConvert::fromCMPI(CMPIData const& raw) {
 
 CMPIStatus CmpiConvert::status(CmpiBroker const& broker, CMPIrc rc, std::string const& msg) {
     CMPIStatus st{rc, nullptr};
-    if (msg.empty() || broker.isNull() || !broker.toCMPI()->eft ||
-        !broker.toCMPI()->eft->newString)
+    if (msg.empty() || broker.isNull() || !broker.toCMPI()->eft || !broker.toCMPI()->eft->newString)
         return st;
     st.msg = broker.toCMPI()->eft->newString(broker.toCMPI(), msg.c_str(), nullptr);
     return st;

@@ -47,7 +47,8 @@ CmpiData::CmpiData(unsigned long value) : _type(CMPI_uint64), _value(std::uint64
 CmpiData::CmpiData(long value) : _type(CMPI_sint64), _value(std::int64_t{value}) {}
 CmpiData::CmpiData(unsigned long long value)
     : _type(CMPI_uint64), _value(static_cast<std::uint64_t>(value)) {}
-CmpiData::CmpiData(long long value) : _type(CMPI_sint64), _value(static_cast<std::int64_t>(value)) {}
+CmpiData::CmpiData(long long value)
+    : _type(CMPI_sint64), _value(static_cast<std::int64_t>(value)) {}
 CmpiData::CmpiData(float value) : _type(CMPI_real32), _value(static_cast<double>(value)) {}
 CmpiData::CmpiData(double value) : _type(CMPI_real64), _value(value) {}
 CmpiData::CmpiData(CmpiDateTime const& value) : _type(CMPI_dateTime), _value(value) {}
@@ -188,18 +189,36 @@ CMPIData CmpiData::toCMPI() const {
     }
     if (auto const* u = std::get_if<std::uint64_t>(&_value)) {
         switch (_type) {
-        case CMPI_uint8: raw.value.uint8 = static_cast<CMPIUint8>(*u); break;
-        case CMPI_uint16: raw.value.uint16 = static_cast<CMPIUint16>(*u); break;
-        case CMPI_char16: raw.value.char16 = static_cast<CMPIChar16>(*u); break;
-        case CMPI_uint32: raw.value.uint32 = static_cast<CMPIUint32>(*u); break;
-        default: raw.value.uint64 = *u; break;
+        case CMPI_uint8:
+            raw.value.uint8 = static_cast<CMPIUint8>(*u);
+            break;
+        case CMPI_uint16:
+            raw.value.uint16 = static_cast<CMPIUint16>(*u);
+            break;
+        case CMPI_char16:
+            raw.value.char16 = static_cast<CMPIChar16>(*u);
+            break;
+        case CMPI_uint32:
+            raw.value.uint32 = static_cast<CMPIUint32>(*u);
+            break;
+        default:
+            raw.value.uint64 = *u;
+            break;
         }
     } else if (auto const* s = std::get_if<std::int64_t>(&_value)) {
         switch (_type) {
-        case CMPI_sint8: raw.value.sint8 = static_cast<CMPISint8>(*s); break;
-        case CMPI_sint16: raw.value.sint16 = static_cast<CMPISint16>(*s); break;
-        case CMPI_sint32: raw.value.sint32 = static_cast<CMPISint32>(*s); break;
-        default: raw.value.sint64 = *s; break;
+        case CMPI_sint8:
+            raw.value.sint8 = static_cast<CMPISint8>(*s);
+            break;
+        case CMPI_sint16:
+            raw.value.sint16 = static_cast<CMPISint16>(*s);
+            break;
+        case CMPI_sint32:
+            raw.value.sint32 = static_cast<CMPISint32>(*s);
+            break;
+        default:
+            raw.value.sint64 = *s;
+            break;
         }
     } else if (auto const* d = std::get_if<double>(&_value)) {
         if (_type == CMPI_real32)

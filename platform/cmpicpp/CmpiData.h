@@ -92,10 +92,10 @@ public:
     bool operator==(CmpiData const& other) const;
 
 private:
-    using Value = std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double,
-                               std::string, CmpiDateTime, std::shared_ptr<CmpiObjectPath const>,
-                               std::shared_ptr<CmpiArray const>,
-                               std::shared_ptr<CmpiInstance const>>;
+    using Value =
+        std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double, std::string,
+                     CmpiDateTime, std::shared_ptr<CmpiObjectPath const>,
+                     std::shared_ptr<CmpiArray const>, std::shared_ptr<CmpiInstance const>>;
 
     std::uint64_t _unsignedIn(std::uint64_t max) const;
     std::int64_t _signedIn(std::int64_t min, std::int64_t max) const;

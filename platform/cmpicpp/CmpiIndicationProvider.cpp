@@ -72,8 +72,8 @@ CMPIStatus miDisableIndications(CMPIIndicationMI* mi, CMPIContext const*) {
 }
 
 CMPIIndicationMIFT const indicationTable = {
-    CMPICurrentVersion,  CMPICurrentVersion, "CmpiCpp",          miCleanup,
-    miAuthorizeFilter,   miMustPoll,         miActivateFilter,   miDeActivateFilter,
+    CMPICurrentVersion,  CMPICurrentVersion,   "CmpiCpp",        miCleanup,
+    miAuthorizeFilter,   miMustPoll,           miActivateFilter, miDeActivateFilter,
     miEnableIndications, miDisableIndications,
 };
 
@@ -83,6 +83,8 @@ CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI{this, &indicati
 
 CmpiIndicationProvider::~CmpiIndicationProvider() = default;
 
-CMPIIndicationMI* CmpiIndicationProvider::getIndicationMI() { return &_indicationMI; }
+CMPIIndicationMI* CmpiIndicationProvider::getIndicationMI() {
+    return &_indicationMI;
+}
 
 } // namespace CmpiCpp

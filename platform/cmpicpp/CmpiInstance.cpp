@@ -11,21 +11,45 @@ CmpiInstance::CmpiInstance(CmpiObjectPath const& path) : _path(path) {
         _set(path.getKeyNameAt(i), path.getKeyAt(i));
 }
 
-void CmpiInstance::addProperty(CmpiName const& name, std::string const& value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, char const* value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, bool value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned char value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned short value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned int value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, int value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned long value) { _set(name, value); }
+void CmpiInstance::addProperty(CmpiName const& name, std::string const& value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, char const* value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, bool value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, unsigned char value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, unsigned short value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, unsigned int value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, int value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, unsigned long value) {
+    _set(name, value);
+}
 void CmpiInstance::addProperty(CmpiName const& name, unsigned long long value) {
     _set(name, value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, long value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, long long value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, float value) { _set(name, value); }
-void CmpiInstance::addProperty(CmpiName const& name, double value) { _set(name, value); }
+void CmpiInstance::addProperty(CmpiName const& name, long value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, long long value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, float value) {
+    _set(name, value);
+}
+void CmpiInstance::addProperty(CmpiName const& name, double value) {
+    _set(name, value);
+}
 void CmpiInstance::addProperty(CmpiName const& name, CmpiObjectPath const& value) {
     _set(name, CmpiData(value));
 }
@@ -35,7 +59,9 @@ void CmpiInstance::addProperty(CmpiName const& name, CmpiArray const& value) {
 void CmpiInstance::addProperty(CmpiName const& name, CmpiDateTime const& value) {
     _set(name, value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, CmpiData const& value) { _set(name, value); }
+void CmpiInstance::addProperty(CmpiName const& name, CmpiData const& value) {
+    _set(name, value);
+}
 
 void CmpiInstance::_set(CmpiName const& name, CmpiData const& value) {
     for (auto& property : _properties) {

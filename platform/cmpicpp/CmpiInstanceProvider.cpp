@@ -94,9 +94,9 @@ CMPIStatus miExecQuery(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult co
 }
 
 CMPIInstanceMIFT const instanceTable = {
-    CMPICurrentVersion, CMPICurrentVersion, "CmpiCpp",        miCleanup,
-    miEnumInstanceNames, miEnumInstances,  miGetInstance,    miCreateInstance,
-    miModifyInstance,    miDeleteInstance, miExecQuery,
+    CMPICurrentVersion,  CMPICurrentVersion, "CmpiCpp",     miCleanup,
+    miEnumInstanceNames, miEnumInstances,    miGetInstance, miCreateInstance,
+    miModifyInstance,    miDeleteInstance,   miExecQuery,
 };
 
 } // namespace
@@ -119,12 +119,13 @@ void CmpiInstanceProvider::deleteInstance(CmpiContext const&, CmpiObjectPath con
     throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
 }
 
-void CmpiInstanceProvider::execQuery(CmpiContext const&, CmpiObjectPath const&,
-                                     std::string const&, std::string const&,
-                                     CmpiInstanceResult&) {
+void CmpiInstanceProvider::execQuery(CmpiContext const&, CmpiObjectPath const&, std::string const&,
+                                     std::string const&, CmpiInstanceResult&) {
     throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED);
 }
 
-CMPIInstanceMI* CmpiInstanceProvider::getInstanceMI() { return &_instanceMI; }
+CMPIInstanceMI* CmpiInstanceProvider::getInstanceMI() {
+    return &_instanceMI;
+}
 
 } // namespace CmpiCpp

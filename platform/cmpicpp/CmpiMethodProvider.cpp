@@ -41,6 +41,8 @@ CmpiMethodProvider::CmpiMethodProvider() : _methodMI{this, &methodTable} {}
 
 CmpiMethodProvider::~CmpiMethodProvider() = default;
 
-CMPIMethodMI* CmpiMethodProvider::getMethodMI() { return &_methodMI; }
+CMPIMethodMI* CmpiMethodProvider::getMethodMI() {
+    return &_methodMI;
+}
 
 } // namespace CmpiCpp

@@ -22,9 +22,9 @@ bool CmpiName::operator==(CmpiName const& other) const {
 }
 
 bool CmpiName::operator<(CmpiName const& other) const {
-    return std::lexicographical_compare(
-        _name.begin(), _name.end(), other._name.begin(), other._name.end(),
-        [](char a, char b) { return foldChar(a) < foldChar(b); });
+    return std::lexicographical_compare(_name.begin(), _name.end(), other._name.begin(),
+                                        other._name.end(),
+                                        [](char a, char b) { return foldChar(a) < foldChar(b); });
 }
 
 std::string CmpiName::folded() const {
@@ -33,6 +33,8 @@ std::string CmpiName::folded() const {
     return out;
 }
 
-std::size_t CmpiName::hash() const { return std::hash<std::string>{}(folded()); }
+std::size_t CmpiName::hash() const {
+    return std::hash<std::string>{}(folded());
+}
 
 } // namespace CmpiCpp

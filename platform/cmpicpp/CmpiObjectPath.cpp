@@ -10,23 +10,45 @@ namespace CmpiCpp {
 CmpiObjectPath::CmpiObjectPath(CmpiName const& nameSpace, CmpiName const& className)
     : _nameSpace(nameSpace), _className(className) {}
 
-void CmpiObjectPath::addKey(CmpiName const& name, std::string const& value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, char const* value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, std::string const& value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, char const* value) {
+    _setKey(name, value);
+}
 void CmpiObjectPath::addKey(CmpiName const& name, CmpiObjectPath const& value) {
     _setKey(name, CmpiData(value));
 }
-void CmpiObjectPath::addKey(CmpiName const& name, bool value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, unsigned char value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, unsigned short value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, unsigned int value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, int value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, unsigned long value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, bool value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned char value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned short value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned int value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, int value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, unsigned long value) {
+    _setKey(name, value);
+}
 void CmpiObjectPath::addKey(CmpiName const& name, unsigned long long value) {
     _setKey(name, value);
 }
-void CmpiObjectPath::addKey(CmpiName const& name, long value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, long long value) { _setKey(name, value); }
-void CmpiObjectPath::addKey(CmpiName const& name, CmpiData const& value) { _setKey(name, value); }
+void CmpiObjectPath::addKey(CmpiName const& name, long value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, long long value) {
+    _setKey(name, value);
+}
+void CmpiObjectPath::addKey(CmpiName const& name, CmpiData const& value) {
+    _setKey(name, value);
+}
 
 void CmpiObjectPath::_setKey(CmpiName const& name, CmpiData const& value) {
     for (auto& key : _keys) {
@@ -111,7 +133,9 @@ std::string CmpiObjectPath::canonicalKey() const {
     return out;
 }
 
-std::size_t CmpiObjectPath::hash() const { return std::hash<std::string>{}(canonicalKey()); }
+std::size_t CmpiObjectPath::hash() const {
+    return std::hash<std::string>{}(canonicalKey());
+}
 
 bool CmpiObjectPath::operator==(CmpiObjectPath const& other) const {
     if (!(_className == other._className) || _keys.size() != other._keys.size())
@@ -130,6 +154,8 @@ CmpiObjectPath makeCmpiObjectPath(CmpiBroker const&, CmpiName const& nameSpace,
     return CmpiObjectPath(nameSpace, className);
 }
 
-CmpiObjectPath makeCmpiObjectPath(CmpiBroker const&) { return CmpiObjectPath(); }
+CmpiObjectPath makeCmpiObjectPath(CmpiBroker const&) {
+    return CmpiObjectPath();
+}
 
 } // namespace CmpiCpp

@@ -4,7 +4,9 @@ namespace CmpiCpp {
 
 CmpiProvider::~CmpiProvider() = default;
 
-unsigned int CmpiProvider::incRefcount() { return ++_refcount; }
+unsigned int CmpiProvider::incRefcount() {
+    return ++_refcount;
+}
 
 unsigned int CmpiProvider::decRefcount() {
     unsigned int remaining = 0;

@@ -5,8 +5,7 @@
 
 namespace CmpiCpp {
 
-CmpiTableInstanceResult::CmpiTableInstanceResult(CmpiBroker const& broker,
-                                                 CMPIResult const* result,
+CmpiTableInstanceResult::CmpiTableInstanceResult(CmpiBroker const& broker, CMPIResult const* result,
                                                  char const** properties)
     : _broker(broker), _result(result), _properties(properties) {}
 

@@ -104,10 +104,9 @@ TEST(CmpiProviderLife, FilterOperationsReceiveTheirArguments) {
     Life life;
     TestProvider p(nullptr, &life.destroyed, &life.cleanups);
     CMPIIndicationMI* mi = p.getIndicationMI();
-    EXPECT_EQ(mi->ft->authorizeFilter(mi, nullptr, nullptr, "QLN_VeldraIndication", nullptr,
-                                      "owner1")
-                  .rc,
-              CMPI_RC_OK);
+    EXPECT_EQ(
+        mi->ft->authorizeFilter(mi, nullptr, nullptr, "QLN_VeldraIndication", nullptr, "owner1").rc,
+        CMPI_RC_OK);
     EXPECT_EQ(p.lastNames, (std::vector<std::string>{"QLN_VeldraIndication", "owner1"}));
     EXPECT_TRUE(p.lastPath.empty());
     EXPECT_EQ(mi->ft->activateFilter(mi, nullptr, nullptr, "QLN_X", nullptr, 1).rc, CMPI_RC_OK);

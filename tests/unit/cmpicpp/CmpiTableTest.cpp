@@ -37,7 +37,9 @@ protected:
     CMPIObjectPath* incoming(CimObjectPath path) {
         return broker.registry().make<BrokerObjectPath>(std::move(path))->cmpi();
     }
-    CMPIObjectPath* diskClassPath() { return incoming(CimObjectPath("root/mwq", "QLN_VDDiskDrive")); }
+    CMPIObjectPath* diskClassPath() {
+        return incoming(CimObjectPath("root/mwq", "QLN_VDDiskDrive"));
+    }
     BrokerResult* newResult() { return broker.registry().make<BrokerResult>(); }
 
     // A disk as a model class would build it: keys, then properties of the
@@ -102,8 +104,8 @@ TEST_F(CmpiTable, InstancesAndPathsCrossIntact) {
     ASSERT_EQ(got.size(), 2u);
     std::vector<CimInstance::Property> const& props = got[0].properties();
     ASSERT_EQ(props.size(), 8u);
-    char const* order[] = {"CreationClassName", "DeviceID", "Name", "OperationalStatus",
-                           "BlockSize", "InstallDate", "System", "Missing"};
+    char const* order[] = {"CreationClassName", "DeviceID",    "Name",   "OperationalStatus",
+                           "BlockSize",         "InstallDate", "System", "Missing"};
     for (std::size_t i = 0; i < 8; ++i)
         EXPECT_EQ(props[i].name, order[i]);
     EXPECT_EQ(props[2].value.asString(), "Disk 0:1");
@@ -136,8 +138,8 @@ TEST_F(CmpiTable, PropertyListCutsWhatReachesTheObjectManager) {
     std::vector<std::string> names;
     for (auto const& p : got[0].properties())
         names.push_back(p.name);
-    EXPECT_EQ(names, (std::vector<std::string>{"CreationClassName", "DeviceID", "Name",
-                                               "BlockSize"}));
+    EXPECT_EQ(names,
+              (std::vector<std::string>{"CreationClassName", "DeviceID", "Name", "BlockSize"}));
 
     CimObjectPath wanted("root/mwq", "qln_vddiskdrive");
     wanted.addKey("deviceid", CimValue::string("0:1"));
@@ -184,10 +186,10 @@ TEST_F(CmpiTable, ThrownExceptionsBecomeStatusesWithMessages) {
         CMPI_RC_ERR_NOT_SUPPORTED);
     EXPECT_EQ(mi->ft->deleteInstance(mi, ctx, newResult()->cmpi(), diskClassPath()).rc,
               CMPI_RC_ERR_NOT_SUPPORTED);
-    EXPECT_EQ(mi->ft->execQuery(mi, ctx, newResult()->cmpi(), diskClassPath(), "SELECT * FROM X",
-                                "WQL")
-                  .rc,
-              CMPI_RC_ERR_NOT_SUPPORTED);
+    EXPECT_EQ(
+        mi->ft->execQuery(mi, ctx, newResult()->cmpi(), diskClassPath(), "SELECT * FROM X", "WQL")
+            .rc,
+        CMPI_RC_ERR_NOT_SUPPORTED);
 }
 
 // Catches: association filters swapped or a null filter turned into a
@@ -197,29 +199,29 @@ TEST_F(CmpiTable, AssociationCallsPassFiltersAndReturnResults) {
     CMPIAssociationMI* mi = provider.getAssociationMI();
     BrokerResult* r = newResult();
     char const* list[] = {"Name", nullptr};
-    ASSERT_EQ(mi->ft->associators(mi, ctx, r->cmpi(), diskClassPath(), "QLN_Assoc", nullptr,
-                                  "Antecedent", nullptr, list)
+    ASSERT_EQ(mi->ft
+                  ->associators(mi, ctx, r->cmpi(), diskClassPath(), "QLN_Assoc", nullptr,
+                                "Antecedent", nullptr, list)
                   .rc,
               CMPI_RC_OK);
-    EXPECT_EQ(provider.lastNames,
-              (std::vector<std::string>{"QLN_Assoc", "", "Antecedent", ""}));
+    EXPECT_EQ(provider.lastNames, (std::vector<std::string>{"QLN_Assoc", "", "Antecedent", ""}));
     std::vector<CimInstance> got = r->takeInstances();
     ASSERT_EQ(got.size(), 1u);
     EXPECT_EQ(got[0].properties().size(), 3u);
 
     r = newResult();
-    ASSERT_EQ(mi->ft->associatorNames(mi, ctx, r->cmpi(), diskClassPath(), nullptr, "QLN_R",
-                                      nullptr, "Dependent")
+    ASSERT_EQ(mi->ft
+                  ->associatorNames(mi, ctx, r->cmpi(), diskClassPath(), nullptr, "QLN_R", nullptr,
+                                    "Dependent")
                   .rc,
               CMPI_RC_OK);
     EXPECT_EQ(provider.lastNames, (std::vector<std::string>{"", "QLN_R", "", "Dependent"}));
     EXPECT_EQ(r->takePaths().size(), 1u);
 
     r = newResult();
-    ASSERT_EQ(mi->ft->references(mi, ctx, r->cmpi(), diskClassPath(), "QLN_Assoc", "Role",
-                                 nullptr)
-                  .rc,
-              CMPI_RC_OK);
+    ASSERT_EQ(
+        mi->ft->references(mi, ctx, r->cmpi(), diskClassPath(), "QLN_Assoc", "Role", nullptr).rc,
+        CMPI_RC_OK);
     EXPECT_EQ(provider.lastNames, (std::vector<std::string>{"QLN_Assoc", "Role"}));
     EXPECT_EQ(r->takeInstances()[0].properties().size(), 8u);
 
@@ -242,10 +244,10 @@ TEST_F(CmpiTable, MethodCallCarriesArgumentsReturnValueAndOutArgs) {
     in->add("Tags", CimValue::array(CMPI_string, {CimValue::string("a"), CimValue::string("b")}));
     auto* out = broker.registry().make<BrokerArgs>();
     BrokerResult* r = newResult();
-    ASSERT_EQ(mi->ft->invokeMethod(mi, ctx, r->cmpi(), incoming(target), "Echo", in->cmpi(),
-                                   out->cmpi())
-                  .rc,
-              CMPI_RC_OK);
+    ASSERT_EQ(
+        mi->ft->invokeMethod(mi, ctx, r->cmpi(), incoming(target), "Echo", in->cmpi(), out->cmpi())
+            .rc,
+        CMPI_RC_OK);
     EXPECT_EQ(provider.lastNames, (std::vector<std::string>{"Echo"}));
     EXPECT_EQ(provider.lastPath.getKey("DeviceID").getString(), "0:1");
     EXPECT_EQ(provider.lastArgs.getArg("duration").getUint32(), 30u);
@@ -261,10 +263,10 @@ TEST_F(CmpiTable, MethodCallCarriesArgumentsReturnValueAndOutArgs) {
 
     // No in-arguments at all is an empty list, not a failure.
     r = newResult();
-    EXPECT_EQ(mi->ft->invokeMethod(mi, ctx, r->cmpi(), incoming(target), "Other", nullptr,
-                                   out->cmpi())
-                  .rc,
-              CMPI_RC_OK);
+    EXPECT_EQ(
+        mi->ft->invokeMethod(mi, ctx, r->cmpi(), incoming(target), "Other", nullptr, out->cmpi())
+            .rc,
+        CMPI_RC_OK);
     EXPECT_EQ(provider.lastArgs.getArgCount(), 0u);
 }
 

@@ -103,9 +103,8 @@ TEST(CmpiObjectPath, KeysReplaceInPlaceAndRenderInOrder) {
     ASSERT_EQ(p.getKeyCount(), 2u);
     EXPECT_EQ(p.getKeyNameAt(1).str(), "DeviceID");
     EXPECT_EQ(p.getKey("DEVICEID").getString(), "new \"quoted\"");
-    EXPECT_EQ(p.str(),
-              "root/mwq:QLN_VDDiskDrive.CreationClassName=\"QLN_VDDiskDrive\","
-              "DeviceID=\"new \\\"quoted\\\"\"");
+    EXPECT_EQ(p.str(), "root/mwq:QLN_VDDiskDrive.CreationClassName=\"QLN_VDDiskDrive\","
+                       "DeviceID=\"new \\\"quoted\\\"\"");
     p.setHost("h1");
     p.addKey("Slot", 3u);
     p.addKey("Present", true);
@@ -143,10 +142,10 @@ TEST(CmpiInstance, AddPropertyOverloadFixesTheType) {
     struct Expect {
         char const* name;
         CMPIType type;
-    } const expected[] = {{"S", CMPI_string},   {"C", CMPI_string},     {"B", CMPI_boolean},
-                          {"U8", CMPI_uint8},   {"U16", CMPI_uint16},   {"U32", CMPI_uint32},
-                          {"S32", CMPI_sint32}, {"U64", CMPI_uint64},   {"U64t", CMPI_uint64},
-                          {"R32", CMPI_real32}, {"Ref", CMPI_ref},      {"Arr", CMPI_uint16A},
+    } const expected[] = {{"S", CMPI_string},   {"C", CMPI_string},   {"B", CMPI_boolean},
+                          {"U8", CMPI_uint8},   {"U16", CMPI_uint16}, {"U32", CMPI_uint32},
+                          {"S32", CMPI_sint32}, {"U64", CMPI_uint64}, {"U64t", CMPI_uint64},
+                          {"R32", CMPI_real32}, {"Ref", CMPI_ref},    {"Arr", CMPI_uint16A},
                           {"DT", CMPI_dateTime}};
     for (auto const& e : expected)
         EXPECT_EQ(inst.getProperty(e.name).getType(), e.type) << e.name;
@@ -262,8 +261,7 @@ TEST(CmpiData, GettersCheckTypeAndRangeAndRawFormIsTyped) {
     EXPECT_EQ(raw.state, CMPI_nullValue);
     EXPECT_EQ(raw.type, CMPI_string);
     EXPECT_EQ(rcOf([&] { CmpiData(diskPath("x")).toCMPI(); }), CMPI_RC_ERR_NOT_SUPPORTED);
-    EXPECT_EQ(rcOf([&] { CmpiData(diskPath("x")).toCMPI(noBroker); }),
-              CMPI_RC_ERR_INVALID_HANDLE);
+    EXPECT_EQ(rcOf([&] { CmpiData(diskPath("x")).toCMPI(noBroker); }), CMPI_RC_ERR_INVALID_HANDLE);
 
     EXPECT_EQ(CmpiData::char16('A').getType(), CMPI_char16);
     EXPECT_FALSE(CmpiData(5u) == CmpiData(5)); // same number, other type
