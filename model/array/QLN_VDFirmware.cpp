@@ -1,0 +1,82 @@
+#include "QLN_VDFirmware.h"
+
+#include "CmpiBroker.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDFirmware";
+char const* const firmwareText = "Array Controller Firmware";
+// CIM_SoftwareIdentity.Classifications: 10 is "Firmware".
+unsigned short const firmwareClassification = 10;
+} // namespace
+
+namespace QLN {
+
+QLN_VDFirmware::QLN_VDFirmware(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+                               VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDFirmware::~QLN_VDFirmware() { _logger.info("dxtor()"); }
+
+std::string QLN_VDFirmware::_instanceId() const {
+    return std::string("MWQ:") + className + "-" + std::to_string(_controllerIndex);
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDFirmware::getPath() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("InstanceID", _instanceId());
+    return path;
+}
+
+CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    instance.addProperty("InstanceID", _instanceId());
+    instance.addProperty("Caption", firmwareText);
+    instance.addProperty("Name", firmwareText);
+    instance.addProperty("Description", firmwareText);
+    instance.addProperty("IsEntity", true);
+    std::string manufacturer;
+    if (data.getManufacturer(manufacturer) == 0) instance.addProperty("Manufacturer", manufacturer);
+    instance.addProperty("Classifications", VDArrayValues::uint16s({firmwareClassification}));
+    instance.addProperty("ClassificationDescriptions", VDArrayValues::strings({firmwareText}));
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Array Firmware Status: OK"}));
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+
+    std::string version;
+    if (data.getFWVersion(version) == 0) {
+        instance.addProperty("VersionString", version);
+        // A version the parser does not accept still shows as text; the
+        // numbers appear only when they are trustworthy.
+        if (QLNUtil::validateVersion(version)) {
+            unsigned short major = 0;
+            unsigned short minor = 0;
+            if (QLNUtil::stringVersionToMajor(version, major)) instance.addProperty("MajorVersion", major);
+            if (QLNUtil::stringVersionToMinor(version, minor)) instance.addProperty("MinorVersion", minor);
+        }
+    }
+
+    std::string model;
+    if (data.getModel(model) == 0) {
+        instance.addProperty("ElementName", model);
+        instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
+        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
+        instance.addProperty("IdentityInfoValue", VDArrayValues::strings({"MWQ:" + model, "Storage Controller"}));
+    }
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDFirmware::getClassName() const { return CmpiCpp::CmpiName(className); }
+
+} // namespace QLN

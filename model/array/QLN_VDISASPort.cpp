@@ -1,0 +1,65 @@
+#include "QLN_VDISASPort.h"
+
+#include "CmpiBroker.h"
+#include "ControllerDeviceKey.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDISASPort";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+unsigned short const sasPortType = 94;
+} // namespace
+
+namespace QLN {
+
+QLN_VDISASPort::QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+                               VeldraController* controller, std::string const& port)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDISASPort::~QLN_VDISASPort() { _logger.info("dxtor()"); }
+
+std::string QLN_VDISASPort::_keyValue(VeldraControllerData const& data) const {
+    return ControllerDeviceKey::serialOr(data, std::string(className) + ":" + std::to_string(_controllerIndex)) +
+           ":" + _port;
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDISASPort::getPath() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data, _controllerIndex);
+}
+
+CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    instance.addProperty("CreationClassName", className);
+    instance.addProperty("SystemCreationClassName", arraySystemClass);
+    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    instance.addProperty("DeviceID", _keyValue(data));
+    instance.addProperty("PortType", sasPortType);
+    std::string const name = "Port:" + _port;
+    instance.addProperty("ElementName", name);
+    instance.addProperty("Caption", name);
+    // The hardware reports no state per port; a listed port is a working one.
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Controller port is operating properly"}));
+    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
+    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
+    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    // Back-end port: it reaches the disks, not the host.
+    instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDISASPort::getClassName() const { return CmpiCpp::CmpiName(className); }
+
+} // namespace QLN

@@ -1,0 +1,63 @@
+#include "QLN_VDSCSIProtocolController.h"
+
+#include "CmpiBroker.h"
+#include "ControllerDeviceKey.h"
+#include "ControllerLocationText.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDSCSIProtocolController";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+// Logical units one controller presents to the host.
+unsigned int const maxUnitsControlled = 32;
+} // namespace
+
+namespace QLN {
+
+QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger, std::string const& nameSpace,
+                                                           unsigned int controllerIndex, VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDSCSIProtocolController::~QLN_VDSCSIProtocolController() { _logger.info("dxtor()"); }
+
+std::string QLN_VDSCSIProtocolController::_keyValue(VeldraControllerData const& data) const {
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolController::getPath() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data, _controllerIndex);
+}
+
+CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    instance.addProperty("CreationClassName", className);
+    instance.addProperty("SystemCreationClassName", arraySystemClass);
+    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    instance.addProperty("DeviceID", _keyValue(data));
+    instance.addProperty("ElementName", ControllerLocationText::withExternal(data));
+    instance.addProperty("MaxUnitsControlled", maxUnitsControlled);
+    // The controller's health shows on the array controller; this face of it is healthy by design.
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Array protocol controller is operating properly"}));
+    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
+    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
+    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDSCSIProtocolController::getClassName() const { return CmpiCpp::CmpiName(className); }
+
+} // namespace QLN

@@ -1,0 +1,64 @@
+#include "QLN_VDSCSIProtocolEndpoint.h"
+
+#include "CmpiBroker.h"
+#include "ControllerDeviceKey.h"
+#include "ControllerLocationText.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDSCSIProtocolEndpoint";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+} // namespace
+
+namespace QLN {
+
+QLN_VDSCSIProtocolEndpoint::QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
+                                                       unsigned int controllerIndex, VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDSCSIProtocolEndpoint::~QLN_VDSCSIProtocolEndpoint() { _logger.info("dxtor()"); }
+
+std::string QLN_VDSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolEndpoint::getPath() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data, _controllerIndex);
+}
+
+CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    instance.addProperty("CreationClassName", className);
+    instance.addProperty("SystemCreationClassName", arraySystemClass);
+    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    instance.addProperty("Name", _keyValue(data));
+    instance.addProperty("ElementName", ControllerLocationText::withoutExternal(data));
+    instance.addProperty("ProtocolIFType", static_cast<unsigned short>(1));
+    instance.addProperty("OtherTypeDescription", "SCSI");
+    instance.addProperty("ConnectionType", static_cast<unsigned short>(1));
+    instance.addProperty("OtherConnectionType", "PCI");
+    instance.addProperty("Role", static_cast<unsigned short>(3));
+    // The endpoint has no state of its own to report; it is healthy by design.
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Endpoint is operating properly"}));
+    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
+    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
+    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDSCSIProtocolEndpoint::getClassName() const { return CmpiCpp::CmpiName(className); }
+
+} // namespace QLN
