@@ -120,7 +120,7 @@ void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimX
             if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
         }
         for (const CimObjectPath& path : paths)
-            if (seen.insert(path).second) InstanceXml::writeInstanceName(out, path);
+            if (seen.insert(path).second) InstanceXml::writeInstanceName(out, path, _host);
     }
     out.close();
 }
@@ -130,6 +130,7 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
     bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
     CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
     InstanceXml::InstanceOptions options;
+    options.host = _host;
     options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
     options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
     options.propertyList = CimOperationHandler::propertyListParam(request);
@@ -162,7 +163,7 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
             if (!seen.insert(instance.path()).second) continue;
             options.cls = _classes.find(request.nameSpace(), instance.className());
             out.open("VALUE.NAMEDINSTANCE");
-            InstanceXml::writeInstanceName(out, instance.path());
+            InstanceXml::writeInstanceName(out, instance.path(), _host);
             InstanceXml::writeInstance(out, instance, options);
             out.close();
         }
@@ -174,6 +175,7 @@ void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& o
     CimObjectPath path = _objectName(request, "InstanceName");
     CimOperationHandler::boolParam(request, "LocalOnly", false);
     InstanceXml::InstanceOptions options;
+    options.host = _host;
     options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
     options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
     options.propertyList = CimOperationHandler::propertyListParam(request);
@@ -207,6 +209,7 @@ void InstanceOperations::_associators(const CimRequest& request, CimXmlWriter& o
         if (!c->empty() && !_classes.knowsClassName(request.nameSpace(), *c))
             fail(CimOperationError::invalidParameter, "class " + *c + " does not exist");
     InstanceXml::InstanceOptions options;
+    options.host = _host;
     if (!names) {
         options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
         options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
@@ -240,6 +243,7 @@ void InstanceOperations::_references(const CimRequest& request, CimXmlWriter& ou
     if (!resultClass.empty() && !_classes.knowsClassName(request.nameSpace(), resultClass))
         fail(CimOperationError::invalidParameter, "class " + resultClass + " does not exist");
     InstanceXml::InstanceOptions options;
+    options.host = _host;
     if (!names) {
         options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
         options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);

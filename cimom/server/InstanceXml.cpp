@@ -59,12 +59,12 @@ void InstanceXml::writeLocalNamespacePath(CimXmlWriter& out, const std::string& 
     out.close();
 }
 
-void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path) {
+void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path, const std::string& host) {
     out.open("INSTANCENAME", {{"CLASSNAME", path.className()}});
     for (const auto& key : path.keys()) {
         out.open("KEYBINDING", {{"NAME", key.name}});
         if (key.value.type() == CMPI_ref && !key.value.isNull()) {
-            writeValue(out, key.value, "");
+            writeValue(out, key.value, host);
         } else {
             out.element("KEYVALUE", key.value.isNull() ? "" : key.value.toText(),
                         {{"VALUETYPE", keyValueType(key.value.type())}});
@@ -80,7 +80,7 @@ void InstanceXml::writeInstancePath(CimXmlWriter& out, const CimObjectPath& path
     out.element("HOST", path.host().empty() ? host : path.host());
     writeLocalNamespacePath(out, path.nameSpace());
     out.close();
-    writeInstanceName(out, path);
+    writeInstanceName(out, path, host);
     out.close();
 }
 
@@ -103,7 +103,7 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std
         if (!path.nameSpace().empty()) {
             writeInstancePath(out, path, host);
         } else {
-            writeInstanceName(out, path);
+            writeInstanceName(out, path, host);
         }
         out.close();
         return;
@@ -151,7 +151,7 @@ void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, 
         }
         if (options.includeClassOrigin && decl) attributes.emplace_back("CLASSORIGIN", decl->classOrigin);
         out.open(tag, attributes);
-        if (!v.isNull()) writeValue(out, v, "");
+        if (!v.isNull()) writeValue(out, v, options.host);
         out.close();
     }
     out.close();

@@ -23,9 +23,10 @@ public:
         bool includeQualifiers = false;
         bool includeClassOrigin = false;
         std::optional<std::set<std::string>> propertyList;  // lower-case names
+        std::string host;  // HOST of reference values whose paths carry none
     };
 
-    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path);
+    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path, const std::string& host = "");
     // INSTANCEPATH: NAMESPACEPATH (HOST, LOCALNAMESPACEPATH) then INSTANCENAME.
     static void writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host);
     static void writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace);

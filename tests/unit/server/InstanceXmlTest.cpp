@@ -163,7 +163,7 @@ TEST_F(InstanceXmlTest, WritesInstancesInTheClientsShape) {
     EXPECT_EQ(body(path), "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH>"
                           "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
                           "<INSTANCENAME CLASSNAME=\"QLN_DiskLink\"><KEYBINDING NAME=\"Antecedent\"><VALUE.REFERENCE>"
-                          "<INSTANCEPATH><NAMESPACEPATH><HOST></HOST><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
+                          "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
                           "<NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
                           "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"DeviceID\">"
                           "<KEYVALUE VALUETYPE=\"string\">d&lt;1&gt;</KEYVALUE></KEYBINDING>"
