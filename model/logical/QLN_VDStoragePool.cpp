@@ -1,0 +1,58 @@
+#include "QLN_VDStoragePool.h"
+
+#include "CmpiBroker.h"
+#include "IdentityHelpers.h"
+#include "QLNUtil.h"
+#include "VDPoolSpace.h"
+
+namespace {
+char const* const className = "QLN_VDStoragePool";
+} // namespace
+
+namespace QLN {
+
+QLN_VDStoragePool::QLN_VDStoragePool(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+                                     VeldraCFUArray const& array, VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _arrayId(array.getArrayID()),
+      _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDStoragePool::~QLN_VDStoragePool() { _logger.info("dxtor()"); }
+
+std::string QLN_VDStoragePool::_instanceId() const {
+    return std::string(className) + "-" + std::to_string(_controllerIndex) + "-" + _arrayId;
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDStoragePool::getPath() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("InstanceID", _instanceId());
+    return path;
+}
+
+CmpiCpp::CmpiInstance QLN_VDStoragePool::getInstance() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    instance.addProperty("InstanceID", _instanceId());
+    instance.addProperty("ElementName", getControllerDisplayName(data) + ": Array " + _arrayId);
+    // Unlike the primordial pool, this one always carries a PoolID; an
+    // unreadable serial number gives the empty one.
+    std::string serial;
+    std::string poolId;
+    if (data.getControllerSerialNumber(serial) == 0) poolId = serial + ":" + _arrayId;
+    instance.addProperty("PoolID", poolId);
+    instance.addProperty("TotalManagedSpace", VDPoolSpace::totalManagedSpace(_controller));
+    instance.addProperty("RemainingManagedSpace", VDPoolSpace::remainingManagedSpace(_controller));
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDStoragePool::getClassName() const { return CmpiCpp::CmpiName(className); }
+
+} // namespace QLN
