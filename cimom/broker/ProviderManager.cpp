@@ -42,6 +42,15 @@ private:
     std::vector<const char*> _ptrs;
 };
 
+// A provider may leave entries of its tables empty; calling one would crash.
+template <class Fn> Fn required(Fn fn, const LoadedProvider& p, const char* operation) {
+    if (fn == nullptr) {
+        throw CimError(CMPI_RC_ERR_NOT_SUPPORTED,
+                       "provider " + p.registration().name + " does not implement " + operation);
+    }
+    return fn;
+}
+
 } // namespace
 
 // Shared hold on the providers for one call, unless this thread holds one already.
@@ -298,8 +307,8 @@ std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObje
     BrokerResult* result = _broker->registry().make<BrokerResult>();
     CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
     BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
-    _check(p->instanceMI()->ft->enumerateInstanceNames(p->instanceMI(), ctx->cmpi(), result->cmpi(),
-                                                       op),
+    _check(required(p->instanceMI()->ft->enumerateInstanceNames, *p,
+                    "enumerateInstanceNames")(p->instanceMI(), ctx->cmpi(), result->cmpi(), op),
            *p, "enumerateInstanceNames");
     std::vector<CimObjectPath> paths = result->takePaths();
     for (CimObjectPath& path : paths) {
@@ -322,8 +331,8 @@ std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath
     CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
     BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
     PropertyArray props(propertyList);
-    _check(p->instanceMI()->ft->enumerateInstances(p->instanceMI(), ctx->cmpi(), result->cmpi(), op,
-                                                   props.get()),
+    _check(required(p->instanceMI()->ft->enumerateInstances, *p, "enumerateInstances")(
+               p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
            *p, "enumerateInstances");
     return _finish(classPath, result->takeInstances(), propertyList);
 }
@@ -341,8 +350,8 @@ CimInstance ProviderManager::getInstance(const CimObjectPath& path,
     CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
     BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
     PropertyArray props(propertyList);
-    _check(p->instanceMI()->ft->getInstance(p->instanceMI(), ctx->cmpi(), result->cmpi(), op,
-                                            props.get()),
+    _check(required(p->instanceMI()->ft->getInstance, *p,
+                    "getInstance")(p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
            *p, "getInstance");
     std::vector<CimInstance> found = _finish(path, result->takeInstances(), propertyList);
     if (found.empty()) {
@@ -363,9 +372,9 @@ ProviderManager::associators(const CimObjectPath& path, const std::string& assoc
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
         PropertyArray props(propertyList);
-        _check(p->associationMI()->ft->associators(p->associationMI(), ctx->cmpi(), result->cmpi(),
-                                                   op, cstr(assocClass), cstr(resultClass),
-                                                   cstr(role), cstr(resultRole), props.get()),
+        _check(required(p->associationMI()->ft->associators, *p, "associators")(
+                   p->associationMI(), ctx->cmpi(), result->cmpi(), op, cstr(assocClass),
+                   cstr(resultClass), cstr(role), cstr(resultRole), props.get()),
                *p, "associators");
         for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
@@ -386,7 +395,7 @@ std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath&
         BrokerResult* result = _broker->registry().make<BrokerResult>();
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
-        _check(p->associationMI()->ft->associatorNames(
+        _check(required(p->associationMI()->ft->associatorNames, *p, "associatorNames")(
                    p->associationMI(), ctx->cmpi(), result->cmpi(), op, cstr(assocClass),
                    cstr(resultClass), cstr(role), cstr(resultRole)),
                *p, "associatorNames");
@@ -410,8 +419,9 @@ std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
         PropertyArray props(propertyList);
-        _check(p->associationMI()->ft->references(p->associationMI(), ctx->cmpi(), result->cmpi(),
-                                                  op, cstr(resultClass), cstr(role), props.get()),
+        _check(required(p->associationMI()->ft->references, *p,
+                        "references")(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                      cstr(resultClass), cstr(role), props.get()),
                *p, "references");
         for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
@@ -430,9 +440,9 @@ std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& 
         BrokerResult* result = _broker->registry().make<BrokerResult>();
         CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
         BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
-        _check(p->associationMI()->ft->referenceNames(p->associationMI(), ctx->cmpi(),
-                                                      result->cmpi(), op, cstr(resultClass),
-                                                      cstr(role)),
+        _check(required(p->associationMI()->ft->referenceNames, *p,
+                        "referenceNames")(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                                          cstr(resultClass), cstr(role)),
                *p, "referenceNames");
         for (CimObjectPath& found : result->takePaths()) {
             _complete(path, found);
@@ -456,8 +466,9 @@ MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std:
     BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
     BrokerArgs* in = _broker->registry().make<BrokerArgs>(inArgs);
     BrokerArgs* out = _broker->registry().make<BrokerArgs>();
-    _check(p->methodMI()->ft->invokeMethod(p->methodMI(), ctx->cmpi(), result->cmpi(), op,
-                                           method.c_str(), in->cmpi(), out->cmpi()),
+    _check(required(p->methodMI()->ft->invokeMethod, *p,
+                    "invokeMethod")(p->methodMI(), ctx->cmpi(), result->cmpi(), op, method.c_str(),
+                                    in->cmpi(), out->cmpi()),
            *p, "invokeMethod");
     MethodResult r;
     std::vector<CimValue> data = result->takeData();
@@ -480,8 +491,9 @@ void ProviderManager::activateFilter(const std::string& nameSpace, const std::st
     CMPIObjectPath* op =
         _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
     BrokerContext* ctx = _broker->newContext(nameSpace, 0);
-    _check(p->indicationMI()->ft->activateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
-                                                 className.c_str(), op, firstActivation ? 1 : 0),
+    _check(required(p->indicationMI()->ft->activateFilter, *p,
+                    "activateFilter")(p->indicationMI(), ctx->cmpi(), nullptr, className.c_str(),
+                                      op, firstActivation ? 1 : 0),
            *p, "activateFilter");
 }
 
@@ -497,8 +509,9 @@ void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::
     CMPIObjectPath* op =
         _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
     BrokerContext* ctx = _broker->newContext(nameSpace, 0);
-    _check(p->indicationMI()->ft->deActivateFilter(p->indicationMI(), ctx->cmpi(), nullptr,
-                                                   className.c_str(), op, lastActivation ? 1 : 0),
+    _check(required(p->indicationMI()->ft->deActivateFilter, *p,
+                    "deActivateFilter")(p->indicationMI(), ctx->cmpi(), nullptr, className.c_str(),
+                                        op, lastActivation ? 1 : 0),
            *p, "deActivateFilter");
 }
 
@@ -508,7 +521,8 @@ void ProviderManager::enableIndications() {
         if (CMPIIndicationMI* mi = p->indicationMI()) {
             ObjectRegistry::Scope scope(_broker->registry());
             BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
-            _check(mi->ft->enableIndications(mi, ctx->cmpi()), *p, "enableIndications");
+            _check(required(mi->ft->enableIndications, *p, "enableIndications")(mi, ctx->cmpi()),
+                   *p, "enableIndications");
         }
     }
 }
@@ -519,7 +533,8 @@ void ProviderManager::disableIndications() {
         if (CMPIIndicationMI* mi = p->indicationMI()) {
             ObjectRegistry::Scope scope(_broker->registry());
             BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
-            _check(mi->ft->disableIndications(mi, ctx->cmpi()), *p, "disableIndications");
+            _check(required(mi->ft->disableIndications, *p, "disableIndications")(mi, ctx->cmpi()),
+                   *p, "disableIndications");
         }
     }
 }
