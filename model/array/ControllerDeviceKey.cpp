@@ -10,19 +10,23 @@ char const* const arraySystemClass = "QLN_VDArraySystem";
 
 namespace QLN {
 
-std::string ControllerDeviceKey::serialOr(VeldraControllerData const& data, std::string const& fallback) {
+std::string ControllerDeviceKey::serialOr(VeldraControllerData const& data,
+                                          std::string const& fallback) {
     std::string serial;
-    if (data.getControllerSerialNumber(serial) == 0) return serial;
+    if (data.getControllerSerialNumber(serial) == 0)
+        return serial;
     return fallback;
 }
 
-std::string ControllerDeviceKey::systemName(VeldraControllerData const& data, unsigned int controllerIndex) {
+std::string ControllerDeviceKey::systemName(VeldraControllerData const& data,
+                                            unsigned int controllerIndex) {
     return getControllerName(data, static_cast<int>(controllerIndex));
 }
 
-CmpiCpp::CmpiObjectPath ControllerDeviceKey::path(std::string const& nameSpace, std::string const& className,
-                                                  char const* lastKeyName, std::string const& lastKeyValue,
-                                                  VeldraControllerData const& data, unsigned int controllerIndex) {
+CmpiCpp::CmpiObjectPath
+ControllerDeviceKey::path(std::string const& nameSpace, std::string const& className,
+                          char const* lastKeyName, std::string const& lastKeyValue,
+                          VeldraControllerData const& data, unsigned int controllerIndex) {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, nameSpace, className);
     path.setHost(QLNUtil::getHostName());

@@ -20,7 +20,8 @@ public:
     // in this order, on the host of the moment.
     static CmpiCpp::CmpiObjectPath path(std::string const& nameSpace, std::string const& className,
                                         char const* lastKeyName, std::string const& lastKeyValue,
-                                        VeldraControllerData const& data, unsigned int controllerIndex);
+                                        VeldraControllerData const& data,
+                                        unsigned int controllerIndex);
 
     // The value of SystemName: the array system's Name.
     static std::string systemName(VeldraControllerData const& data, unsigned int controllerIndex);

@@ -21,8 +21,10 @@ struct StatusView {
 StatusView statusOf(VeldraControllerData const& data) {
     controllerStatusEnum status = CONTROLLER_STATUS_UNKNOWN;
     if (data.getControllerStatus(status) == 0) {
-        if (status == CONTROLLER_STATUS_OK) return {2, 5, "Array port is operating properly"};
-        if (status == CONTROLLER_STATUS_FAILED) return {6, 20, "Array port Failed"};
+        if (status == CONTROLLER_STATUS_OK)
+            return {2, 5, "Array port is operating properly"};
+        if (status == CONTROLLER_STATUS_FAILED)
+            return {6, 20, "Array port Failed"};
     }
     return {0, 0, "Array port Unknown"};
 }
@@ -31,17 +33,20 @@ StatusView statusOf(VeldraControllerData const& data) {
 // apart; without a usable slot number the type is "Other".
 unsigned short portTypeOf(VeldraControllerData const& data) {
     int slot = 0;
-    if (data.getPCISlotNumber(slot) != 0) return 1;
-    if (slot > 0) return 82;
-    if (slot == 0) return 81;
+    if (data.getPCISlotNumber(slot) != 0)
+        return 1;
+    if (slot > 0)
+        return 82;
+    if (slot == 0)
+        return 81;
     return 1;
 }
 } // namespace
 
 namespace QLN {
 
-QLN_VDDAPort::QLN_VDDAPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                           VeldraController* controller)
+QLN_VDDAPort::QLN_VDDAPort(Logger& logger, std::string const& nameSpace,
+                           unsigned int controllerIndex, VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -49,16 +54,20 @@ QLN_VDDAPort::QLN_VDDAPort(Logger& logger, std::string const& nameSpace, unsigne
     _logger.info("cxtor()");
 }
 
-QLN_VDDAPort::~QLN_VDDAPort() { _logger.info("dxtor()"); }
+QLN_VDDAPort::~QLN_VDDAPort() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDDAPort::_keyValue(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
+                                                   std::to_string(_controllerIndex));
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDDAPort::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDDAPort::getInstance() const {
@@ -85,6 +94,8 @@ CmpiCpp::CmpiInstance QLN_VDDAPort::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDDAPort::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDDAPort::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

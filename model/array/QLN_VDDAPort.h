@@ -11,7 +11,8 @@ namespace QLN {
 
 class QLN_VDDAPort : public CmpiManagedInstance {
 public:
-    QLN_VDDAPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex, VeldraController* controller);
+    QLN_VDDAPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+                 VeldraController* controller);
     ~QLN_VDDAPort() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -13,8 +13,8 @@ unsigned short const firmwareClassification = 10;
 
 namespace QLN {
 
-QLN_VDFirmware::QLN_VDFirmware(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                               VeldraController* controller)
+QLN_VDFirmware::QLN_VDFirmware(Logger& logger, std::string const& nameSpace,
+                               unsigned int controllerIndex, VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -22,7 +22,9 @@ QLN_VDFirmware::QLN_VDFirmware(Logger& logger, std::string const& nameSpace, uns
     _logger.info("cxtor()");
 }
 
-QLN_VDFirmware::~QLN_VDFirmware() { _logger.info("dxtor()"); }
+QLN_VDFirmware::~QLN_VDFirmware() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDFirmware::_instanceId() const {
     return std::string("MWQ:") + className + "-" + std::to_string(_controllerIndex);
@@ -47,11 +49,13 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
     instance.addProperty("Description", firmwareText);
     instance.addProperty("IsEntity", true);
     std::string manufacturer;
-    if (data.getManufacturer(manufacturer) == 0) instance.addProperty("Manufacturer", manufacturer);
+    if (data.getManufacturer(manufacturer) == 0)
+        instance.addProperty("Manufacturer", manufacturer);
     instance.addProperty("Classifications", VDArrayValues::uint16s({firmwareClassification}));
     instance.addProperty("ClassificationDescriptions", VDArrayValues::strings({firmwareText}));
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Array Firmware Status: OK"}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Array Firmware Status: OK"}));
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
 
     std::string version;
@@ -62,8 +66,10 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
         if (QLNUtil::validateVersion(version)) {
             unsigned short major = 0;
             unsigned short minor = 0;
-            if (QLNUtil::stringVersionToMajor(version, major)) instance.addProperty("MajorVersion", major);
-            if (QLNUtil::stringVersionToMinor(version, minor)) instance.addProperty("MinorVersion", minor);
+            if (QLNUtil::stringVersionToMajor(version, major))
+                instance.addProperty("MajorVersion", major);
+            if (QLNUtil::stringVersionToMinor(version, minor))
+                instance.addProperty("MinorVersion", minor);
         }
     }
 
@@ -71,12 +77,16 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
     if (data.getModel(model) == 0) {
         instance.addProperty("ElementName", model);
         instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
-        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
-        instance.addProperty("IdentityInfoValue", VDArrayValues::strings({"MWQ:" + model, "Storage Controller"}));
+        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily",
+                                                                         "MWQ:SoftwareCategory"}));
+        instance.addProperty("IdentityInfoValue",
+                             VDArrayValues::strings({"MWQ:" + model, "Storage Controller"}));
     }
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDFirmware::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDFirmware::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

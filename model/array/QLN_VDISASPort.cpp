@@ -13,26 +13,32 @@ unsigned short const sasPortType = 94;
 
 namespace QLN {
 
-QLN_VDISASPort::QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                               VeldraController* controller, std::string const& port)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port), _controller(controller) {
+QLN_VDISASPort::QLN_VDISASPort(Logger& logger, std::string const& nameSpace,
+                               unsigned int controllerIndex, VeldraController* controller,
+                               std::string const& port)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port),
+      _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-QLN_VDISASPort::~QLN_VDISASPort() { _logger.info("dxtor()"); }
+QLN_VDISASPort::~QLN_VDISASPort() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDISASPort::_keyValue(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + ":" + std::to_string(_controllerIndex)) +
+    return ControllerDeviceKey::serialOr(data, std::string(className) + ":" +
+                                                   std::to_string(_controllerIndex)) +
            ":" + _port;
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDISASPort::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
@@ -51,7 +57,8 @@ CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
     // The hardware reports no state per port; a listed port is a working one.
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Controller port is operating properly"}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Controller port is operating properly"}));
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
@@ -60,6 +67,8 @@ CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDISASPort::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDISASPort::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,8 +11,8 @@ namespace QLN {
 
 class QLN_VDISASPort : public CmpiManagedInstance {
 public:
-    QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex, VeldraController* controller,
-         std::string const& port);
+    QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+                   VeldraController* controller, std::string const& port);
     ~QLN_VDISASPort() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -12,27 +12,34 @@ char const* const arraySystemClass = "QLN_VDArraySystem";
 
 namespace QLN {
 
-QLN_VDISASSCSIProtocolEndpoint::QLN_VDISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
+QLN_VDISASSCSIProtocolEndpoint::QLN_VDISASSCSIProtocolEndpoint(Logger& logger,
+                                                               std::string const& nameSpace,
                                                                unsigned int controllerIndex,
-                                                               VeldraController* controller, std::string const& port)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port), _controller(controller) {
+                                                               VeldraController* controller,
+                                                               std::string const& port)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port),
+      _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-QLN_VDISASSCSIProtocolEndpoint::~QLN_VDISASSCSIProtocolEndpoint() { _logger.info("dxtor()"); }
+QLN_VDISASSCSIProtocolEndpoint::~QLN_VDISASSCSIProtocolEndpoint() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDISASSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + ":" + std::to_string(_controllerIndex)) +
+    return ControllerDeviceKey::serialOr(data, std::string(className) + ":" +
+                                                   std::to_string(_controllerIndex)) +
            ":" + _port;
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDISASSCSIProtocolEndpoint::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDISASSCSIProtocolEndpoint::getInstance() const {
@@ -53,13 +60,16 @@ CmpiCpp::CmpiInstance QLN_VDISASSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("Role", static_cast<unsigned short>(2));
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Endpoint is operating properly"}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Endpoint is operating properly"}));
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDISASSCSIProtocolEndpoint::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDISASSCSIProtocolEndpoint::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,8 +11,9 @@ namespace QLN {
 
 class QLN_VDISASSCSIProtocolEndpoint : public CmpiManagedInstance {
 public:
-    QLN_VDISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex, VeldraController* controller,
-         std::string const& port);
+    QLN_VDISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
+                                   unsigned int controllerIndex, VeldraController* controller,
+                                   std::string const& port);
     ~QLN_VDISASSCSIProtocolEndpoint() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -21,16 +21,21 @@ struct StatusView {
 StatusView statusOf(VeldraControllerData const& data) {
     controllerOperationalStatusEnum status = CONTROLLER_OP_STATUS_UNKNOWN;
     if (data.getControllerOperationalStatus(status) == 0) {
-        if (status == CONTROLLER_OP_STATUS_OK) return {2, 5, "Port controller is operating properly"};
-        if (status == CONTROLLER_OP_STATUS_DEGRADED) return {3, 10, "Port controller Degraded"};
-        if (status == CONTROLLER_OP_STATUS_FAILED) return {6, 20, "Port controller Failed"};
+        if (status == CONTROLLER_OP_STATUS_OK)
+            return {2, 5, "Port controller is operating properly"};
+        if (status == CONTROLLER_OP_STATUS_DEGRADED)
+            return {3, 10, "Port controller Degraded"};
+        if (status == CONTROLLER_OP_STATUS_FAILED)
+            return {6, 20, "Port controller Failed"};
     }
     return {0, 0, "Port controller Unknown"};
 }
 
 char const* controllerTypeText(controllerTypeEnum type) {
-    if (type == CONTROLLER_TYPE_EMBEDDED) return "SCSI";
-    if (type == CONTROLLER_TYPE_PCI_CARD || type == CONTROLLER_TYPE_EXTERNAL) return "SAS/SATA";
+    if (type == CONTROLLER_TYPE_EMBEDDED)
+        return "SCSI";
+    if (type == CONTROLLER_TYPE_PCI_CARD || type == CONTROLLER_TYPE_EXTERNAL)
+        return "SAS/SATA";
     return "Unknown";
 }
 } // namespace
@@ -38,7 +43,8 @@ char const* controllerTypeText(controllerTypeEnum type) {
 namespace QLN {
 
 QLN_VDPortController::QLN_VDPortController(Logger& logger, std::string const& nameSpace,
-                                           unsigned int controllerIndex, VeldraController* controller)
+                                           unsigned int controllerIndex,
+                                           VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -46,16 +52,20 @@ QLN_VDPortController::QLN_VDPortController(Logger& logger, std::string const& na
     _logger.info("cxtor()");
 }
 
-QLN_VDPortController::~QLN_VDPortController() { _logger.info("dxtor()"); }
+QLN_VDPortController::~QLN_VDPortController() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDPortController::_deviceId(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
+                                                   std::to_string(_controllerIndex));
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDPortController::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _deviceId(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _deviceId(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
@@ -79,10 +89,13 @@ CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
     // Always "Other": the bus family goes into OtherControllerType.
     instance.addProperty("ControllerType", static_cast<unsigned short>(1));
     controllerTypeEnum type = CONTROLLER_TYPE_UNKNOWN;
-    if (data.getControllerType(type) == 0) instance.addProperty("OtherControllerType", controllerTypeText(type));
+    if (data.getControllerType(type) == 0)
+        instance.addProperty("OtherControllerType", controllerTypeText(type));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDPortController::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDPortController::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

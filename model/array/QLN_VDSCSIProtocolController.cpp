@@ -15,8 +15,10 @@ unsigned int const maxUnitsControlled = 32;
 
 namespace QLN {
 
-QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger, std::string const& nameSpace,
-                                                           unsigned int controllerIndex, VeldraController* controller)
+QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger,
+                                                           std::string const& nameSpace,
+                                                           unsigned int controllerIndex,
+                                                           VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -24,16 +26,20 @@ QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger, std::
     _logger.info("cxtor()");
 }
 
-QLN_VDSCSIProtocolController::~QLN_VDSCSIProtocolController() { _logger.info("dxtor()"); }
+QLN_VDSCSIProtocolController::~QLN_VDSCSIProtocolController() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDSCSIProtocolController::_keyValue(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
+                                                   std::to_string(_controllerIndex));
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolController::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
@@ -50,14 +56,17 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
     // The controller's health shows on the array controller; this face of it is healthy by design.
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions",
-                         VDArrayValues::strings({"Array protocol controller is operating properly"}));
+    instance.addProperty(
+        "StatusDescriptions",
+        VDArrayValues::strings({"Array protocol controller is operating properly"}));
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDSCSIProtocolController::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDSCSIProtocolController::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,7 +11,8 @@ namespace QLN {
 
 class QLN_VDSCSIProtocolController : public CmpiManagedInstance {
 public:
-    QLN_VDSCSIProtocolController(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex, VeldraController* controller);
+    QLN_VDSCSIProtocolController(Logger& logger, std::string const& nameSpace,
+                                 unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDSCSIProtocolController() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -14,7 +14,8 @@ char const* const arraySystemClass = "QLN_VDArraySystem";
 namespace QLN {
 
 QLN_VDSCSIProtocolEndpoint::QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                                       unsigned int controllerIndex, VeldraController* controller)
+                                                       unsigned int controllerIndex,
+                                                       VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -22,16 +23,20 @@ QLN_VDSCSIProtocolEndpoint::QLN_VDSCSIProtocolEndpoint(Logger& logger, std::stri
     _logger.info("cxtor()");
 }
 
-QLN_VDSCSIProtocolEndpoint::~QLN_VDSCSIProtocolEndpoint() { _logger.info("dxtor()"); }
+QLN_VDSCSIProtocolEndpoint::~QLN_VDSCSIProtocolEndpoint() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
-    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" + std::to_string(_controllerIndex));
+    return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
+                                                   std::to_string(_controllerIndex));
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolEndpoint::getPath() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data, _controllerIndex);
+    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data,
+                                     _controllerIndex);
 }
 
 CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
@@ -52,13 +57,16 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
     // The endpoint has no state of its own to report; it is healthy by design.
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions", VDArrayValues::strings({"Endpoint is operating properly"}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Endpoint is operating properly"}));
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDSCSIProtocolEndpoint::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDSCSIProtocolEndpoint::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,7 +11,8 @@ namespace QLN {
 
 class QLN_VDSCSIProtocolEndpoint : public CmpiManagedInstance {
 public:
-    QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex, VeldraController* controller);
+    QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
+                               unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDSCSIProtocolEndpoint() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -15,14 +15,16 @@ unsigned short const driverClassification = 2;
 // Reads one text of the controller data; a failed read gives the empty text.
 template <typename Getter> std::string textOf(VeldraControllerData const& data, Getter getter) {
     std::string text;
-    if ((data.*getter)(text) != 0) return std::string();
+    if ((data.*getter)(text) != 0)
+        return std::string();
     return text;
 }
 } // namespace
 
 namespace QLN {
 
-QLN_VDSoftwareIdentityDriver::QLN_VDSoftwareIdentityDriver(Logger& logger, std::string const& nameSpace,
+QLN_VDSoftwareIdentityDriver::QLN_VDSoftwareIdentityDriver(Logger& logger,
+                                                           std::string const& nameSpace,
                                                            unsigned int controllerIndex,
                                                            VeldraControllerData const& data)
     : _namespace(nameSpace), _controllerIndex(controllerIndex) {
@@ -36,7 +38,9 @@ QLN_VDSoftwareIdentityDriver::QLN_VDSoftwareIdentityDriver(Logger& logger, std::
     _manufacturer = textOf(data, &VeldraControllerData::getManufacturer);
 }
 
-QLN_VDSoftwareIdentityDriver::~QLN_VDSoftwareIdentityDriver() { _logger.info("dxtor()"); }
+QLN_VDSoftwareIdentityDriver::~QLN_VDSoftwareIdentityDriver() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDSoftwareIdentityDriver::_instanceId() const {
     return std::string("MWQ:") + className + ":" + std::to_string(_controllerIndex);
@@ -71,26 +75,34 @@ CmpiCpp::CmpiInstance QLN_VDSoftwareIdentityDriver::getInstance() const {
         unsigned short major = 0;
         unsigned short minor = 0;
         unsigned short revision = 0;
-        if (QLNUtil::stringVersionToMajor(_driverVersion, major)) instance.addProperty("MajorVersion", major);
-        if (QLNUtil::stringVersionToMinor(_driverVersion, minor)) instance.addProperty("MinorVersion", minor);
+        if (QLNUtil::stringVersionToMajor(_driverVersion, major))
+            instance.addProperty("MajorVersion", major);
+        if (QLNUtil::stringVersionToMinor(_driverVersion, minor))
+            instance.addProperty("MinorVersion", minor);
         if (QLNUtil::stringVersionToRevision(_driverVersion, revision))
             instance.addProperty("RevisionNumber", revision);
     }
-    instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
+    instance.addProperty("IdentityInfoType",
+                         VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
     // The family names the driver and what it drives, so that a client can
     // tell the drivers of two controller models apart; unknown parts are left out.
     std::string family = "MWQ:Veldra Controller Driver.";
     bool first = true;
     for (std::string const* part : {&_driverName, &_model, &_manufacturer}) {
-        if (part->empty()) continue;
-        if (!first) family += "-";
+        if (part->empty())
+            continue;
+        if (!first)
+            family += "-";
         family += *part;
         first = false;
     }
-    instance.addProperty("IdentityInfoValue", VDArrayValues::strings({family, "Storage Controller Driver"}));
+    instance.addProperty("IdentityInfoValue",
+                         VDArrayValues::strings({family, "Storage Controller Driver"}));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDSoftwareIdentityDriver::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDSoftwareIdentityDriver::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

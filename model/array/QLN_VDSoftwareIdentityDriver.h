@@ -12,8 +12,8 @@ namespace QLN {
 
 class QLN_VDSoftwareIdentityDriver : public CmpiManagedInstance {
 public:
-    QLN_VDSoftwareIdentityDriver(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                                 VeldraControllerData const& data);
+    QLN_VDSoftwareIdentityDriver(Logger& logger, std::string const& nameSpace,
+                                 unsigned int controllerIndex, VeldraControllerData const& data);
     ~QLN_VDSoftwareIdentityDriver() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

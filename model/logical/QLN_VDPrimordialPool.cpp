@@ -12,7 +12,8 @@ char const* const className = "QLN_VDPrimordialPool";
 namespace QLN {
 
 QLN_VDPrimordialPool::QLN_VDPrimordialPool(Logger& logger, std::string const& nameSpace,
-                                           unsigned int controllerIndex, VeldraController* controller)
+                                           unsigned int controllerIndex,
+                                           VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -20,7 +21,9 @@ QLN_VDPrimordialPool::QLN_VDPrimordialPool(Logger& logger, std::string const& na
     _logger.info("cxtor()");
 }
 
-QLN_VDPrimordialPool::~QLN_VDPrimordialPool() { _logger.info("dxtor()"); }
+QLN_VDPrimordialPool::~QLN_VDPrimordialPool() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDPrimordialPool::_instanceId() const {
     return std::string(className) + "-" + std::to_string(_controllerIndex);
@@ -44,12 +47,15 @@ CmpiCpp::CmpiInstance QLN_VDPrimordialPool::getInstance() const {
     // Without a serial number there is nothing that identifies the pool
     // across hosts, so PoolID is left out rather than made up.
     std::string serial;
-    if (data.getControllerSerialNumber(serial) == 0) instance.addProperty("PoolID", serial);
+    if (data.getControllerSerialNumber(serial) == 0)
+        instance.addProperty("PoolID", serial);
     instance.addProperty("TotalManagedSpace", VDPoolSpace::totalManagedSpace(_controller));
     instance.addProperty("RemainingManagedSpace", VDPoolSpace::remainingManagedSpace(_controller));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDPrimordialPool::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDPrimordialPool::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

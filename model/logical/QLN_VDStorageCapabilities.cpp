@@ -12,7 +12,8 @@ unsigned short const storagePoolElementType = 5;
 namespace QLN {
 
 QLN_VDStorageCapabilities::QLN_VDStorageCapabilities(Logger& logger, std::string const& nameSpace,
-                                                     unsigned int controllerIndex, VeldraCFUArray const& array,
+                                                     unsigned int controllerIndex,
+                                                     VeldraCFUArray const& array,
                                                      VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _arrayId(array.getArrayID()),
       _controller(controller) {
@@ -22,11 +23,14 @@ QLN_VDStorageCapabilities::QLN_VDStorageCapabilities(Logger& logger, std::string
     _logger.info("cxtor()");
 }
 
-QLN_VDStorageCapabilities::~QLN_VDStorageCapabilities() { _logger.info("dxtor()"); }
+QLN_VDStorageCapabilities::~QLN_VDStorageCapabilities() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDStorageCapabilities::_instanceId() const {
     std::string id = std::string(className) + "-" + std::to_string(_controllerIndex);
-    if (!_arrayId.empty()) id += "-" + _arrayId;
+    if (!_arrayId.empty())
+        id += "-" + _arrayId;
     return id;
 }
 
@@ -43,7 +47,8 @@ std::string QLN_VDStorageCapabilities::_elementName(VeldraControllerData const& 
     } else {
         name += "Embedded " + index;
     }
-    if (!_arrayId.empty()) name += ": Array " + _arrayId;
+    if (!_arrayId.empty())
+        name += ": Array " + _arrayId;
     return name;
 }
 
@@ -69,7 +74,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageCapabilities::getInstance() const {
 
     unsigned int dataDisks = 0;
     for (VeldraPhysicalDisk const& disk : _controller->getLastAllPhysicalDisks())
-        if (disk.getConfiguration() == PD_CONFIG_DATA) ++dataDisks;
+        if (disk.getConfiguration() == PD_CONFIG_DATA)
+            ++dataDisks;
 
     // An even number of data disks can be mirrored pairwise, which gives the
     // second copy; an odd number leaves parity, one copy. Only the parity of
@@ -93,6 +99,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageCapabilities::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDStorageCapabilities::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDStorageCapabilities::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -13,8 +13,9 @@ namespace QLN {
 
 class QLN_VDStorageCapabilities : public CmpiManagedInstance {
 public:
-    QLN_VDStorageCapabilities(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                              VeldraCFUArray const& array, VeldraController* controller);
+    QLN_VDStorageCapabilities(Logger& logger, std::string const& nameSpace,
+                              unsigned int controllerIndex, VeldraCFUArray const& array,
+                              VeldraController* controller);
     ~QLN_VDStorageCapabilities() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -11,8 +11,9 @@ char const* const className = "QLN_VDStoragePool";
 
 namespace QLN {
 
-QLN_VDStoragePool::QLN_VDStoragePool(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                                     VeldraCFUArray const& array, VeldraController* controller)
+QLN_VDStoragePool::QLN_VDStoragePool(Logger& logger, std::string const& nameSpace,
+                                     unsigned int controllerIndex, VeldraCFUArray const& array,
+                                     VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _arrayId(array.getArrayID()),
       _controller(controller) {
     _logger = logger;
@@ -21,7 +22,9 @@ QLN_VDStoragePool::QLN_VDStoragePool(Logger& logger, std::string const& nameSpac
     _logger.info("cxtor()");
 }
 
-QLN_VDStoragePool::~QLN_VDStoragePool() { _logger.info("dxtor()"); }
+QLN_VDStoragePool::~QLN_VDStoragePool() {
+    _logger.info("dxtor()");
+}
 
 std::string QLN_VDStoragePool::_instanceId() const {
     return std::string(className) + "-" + std::to_string(_controllerIndex) + "-" + _arrayId;
@@ -46,13 +49,16 @@ CmpiCpp::CmpiInstance QLN_VDStoragePool::getInstance() const {
     // unreadable serial number gives the empty one.
     std::string serial;
     std::string poolId;
-    if (data.getControllerSerialNumber(serial) == 0) poolId = serial + ":" + _arrayId;
+    if (data.getControllerSerialNumber(serial) == 0)
+        poolId = serial + ":" + _arrayId;
     instance.addProperty("PoolID", poolId);
     instance.addProperty("TotalManagedSpace", VDPoolSpace::totalManagedSpace(_controller));
     instance.addProperty("RemainingManagedSpace", VDPoolSpace::remainingManagedSpace(_controller));
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDStoragePool::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDStoragePool::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -10,7 +10,8 @@
 
 namespace {
 char const* const className = "QLN_VDStorageSetting";
-char const* const notFoundText = "getInstance, findLogicalDiskInVector could not find logical based on serial #";
+char const* const notFoundText =
+    "getInstance, findLogicalDiskInVector could not find logical based on serial #";
 // Not a CMPI code: the provider's own, so that a client can tell a volume that
 // vanished between enumeration and fetch from an ordinary miss.
 int const logicalDiskGoneCode = 100;
@@ -19,9 +20,16 @@ int const logicalDiskGoneCode = 100;
 // mirrors; tolerances beyond the known ones are not described.
 std::optional<unsigned short> dataRedundancyOf(unsigned int tolerance) {
     switch (tolerance) {
-    case 1: case 4: case 5: case 7: case 8: case 9:
+    case 1:
+    case 4:
+    case 5:
+    case 7:
+    case 8:
+    case 9:
         return 1;
-    case 2: case 3: case 6:
+    case 2:
+    case 3:
+    case 6:
         return 2;
     }
     return std::nullopt;
@@ -29,9 +37,12 @@ std::optional<unsigned short> dataRedundancyOf(unsigned int tolerance) {
 
 // Disks that may fail without loss of data.
 std::optional<unsigned short> packageRedundancyOf(unsigned int tolerance) {
-    if (tolerance == 1) return 0;
-    if (tolerance >= 2 && tolerance <= 6) return 1;
-    if (tolerance >= 7 && tolerance <= 9) return 2;
+    if (tolerance == 1)
+        return 0;
+    if (tolerance >= 2 && tolerance <= 6)
+        return 1;
+    if (tolerance >= 7 && tolerance <= 9)
+        return 2;
     return std::nullopt;
 }
 } // namespace
@@ -39,19 +50,24 @@ std::optional<unsigned short> packageRedundancyOf(unsigned int tolerance) {
 namespace QLN {
 
 QLN_VDStorageSetting::QLN_VDStorageSetting(Logger& logger, std::string const& nameSpace,
-                                           unsigned int controllerIndex, VeldraLogicalDisk const& logicalDisk,
+                                           unsigned int controllerIndex,
+                                           VeldraLogicalDisk const& logicalDisk,
                                            VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _serialNumber(logicalDisk.getSerialNumber()),
-      _controller(controller) {
+    : _namespace(nameSpace), _controllerIndex(controllerIndex),
+      _serialNumber(logicalDisk.getSerialNumber()), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-QLN_VDStorageSetting::~QLN_VDStorageSetting() { _logger.info("dxtor()"); }
+QLN_VDStorageSetting::~QLN_VDStorageSetting() {
+    _logger.info("dxtor()");
+}
 
-std::string QLN_VDStorageSetting::_instanceId() const { return std::string(className) + "-" + _serialNumber; }
+std::string QLN_VDStorageSetting::_instanceId() const {
+    return std::string(className) + "-" + _serialNumber;
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageSetting::getPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
@@ -94,6 +110,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageSetting::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDStorageSetting::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDStorageSetting::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

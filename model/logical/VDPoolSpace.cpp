@@ -12,7 +12,8 @@ unsigned long long VDPoolSpace::totalManagedSpace(VeldraController* controller) 
 unsigned long long VDPoolSpace::remainingManagedSpace(VeldraController* controller) {
     unsigned long long remaining = 0;
     for (VeldraPhysicalDisk const& disk : controller->getAllPhysicalDisks())
-        remaining += static_cast<unsigned long long>(disk.getRemainingBlocks()) * disk.getBlockSize();
+        remaining +=
+            static_cast<unsigned long long>(disk.getRemainingBlocks()) * disk.getBlockSize();
     return remaining;
 }
 

@@ -23,7 +23,8 @@ namespace modeltest {
 class ScenarioRig {
 public:
     explicit ScenarioRig(std::string const& yaml) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "veldra-model-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "veldra-model-XXXXXX").string();
         char* made = ::mkdtemp(pattern.data());
         EXPECT_NE(made, nullptr);
         _dir = pattern;
@@ -54,7 +55,8 @@ public:
         std::filesystem::rename(temp, _scenario);
         // The back end looks at the file when a live counter is read, as the
         // worker does at the start of each pass.
-        for (VeldraController* controller : controllers) controller->getDiskVectorCount();
+        for (VeldraController* controller : controllers)
+            controller->getDiskVectorCount();
     }
 
     // Stores the current hardware as the accepted snapshot.

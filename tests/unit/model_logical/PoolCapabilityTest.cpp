@@ -39,10 +39,11 @@ controllers:
 )" + extraDisk;
 }
 
-std::string const unassignedDisk =
-    "      - {id: 3, serialNumber: D3, configuration: 1, blockSize: 512, totalBlocks: 50, remainingBlocks: 10}\n";
+std::string const unassignedDisk = "      - {id: 3, serialNumber: D3, configuration: 1, blockSize: "
+                                   "512, totalBlocks: 50, remainingBlocks: 10}\n";
 
-unsigned long long const totalSpace = 3907029168ULL * 512 + 1000000000ULL * 4096 + 100ULL * 512 + 50ULL * 512;
+unsigned long long const totalSpace =
+    3907029168ULL * 512 + 1000000000ULL * 4096 + 100ULL * 512 + 50ULL * 512;
 
 } // namespace
 
@@ -55,7 +56,8 @@ TEST(PoolSpace, TotalFromSnapshotRemainingFromHardware) {
     QLN::QLN_VDStoragePool pool(rig.logger, ns, 1, arrayWithId("1"), controller);
     QLN::QLN_VDPrimordialPool primordial(rig.logger, ns, 1, controller);
 
-    unsigned long long const remaining = 1000ULL * 512 + 2000ULL * 4096 + 100ULL * 512 + 10ULL * 512;
+    unsigned long long const remaining =
+        1000ULL * 512 + 2000ULL * 4096 + 100ULL * 512 + 10ULL * 512;
     for (CmpiCpp::CmpiInstance const& instance : {pool.getInstance(), primordial.getInstance()}) {
         EXPECT_EQ(uint64Of(instance, "TotalManagedSpace"), totalSpace);
         EXPECT_EQ(uint64Of(instance, "RemainingManagedSpace"), remaining);
@@ -139,15 +141,20 @@ TEST_P(CapabilitiesRule, FollowsTheNumberOfDataDisks) {
     yaml += "      - {id: 91, serialNumber: LOOSE, configuration: 1}\n";
     ScenarioRig rig(yaml);
 
-    QLN::QLN_VDStorageCapabilities concrete(rig.logger, ns, 1, arrayWithId("1"), rig.controllers.at(0));
-    QLN::QLN_VDStorageCapabilities primordial(rig.logger, ns, 1, arrayWithId(""), rig.controllers.at(0));
-    for (CmpiCpp::CmpiInstance const& instance : {concrete.getInstance(), primordial.getInstance()}) {
+    QLN::QLN_VDStorageCapabilities concrete(rig.logger, ns, 1, arrayWithId("1"),
+                                            rig.controllers.at(0));
+    QLN::QLN_VDStorageCapabilities primordial(rig.logger, ns, 1, arrayWithId(""),
+                                              rig.controllers.at(0));
+    for (CmpiCpp::CmpiInstance const& instance :
+         {concrete.getInstance(), primordial.getInstance()}) {
         SCOPED_TRACE(text(instance, "InstanceID"));
         EXPECT_EQ(uint16Of(instance, "DataRedundancyDefault"), c.dataRedundancy);
         EXPECT_EQ(uint16Of(instance, "DataRedundancyMax"), c.dataRedundancy);
         EXPECT_EQ(uint16Of(instance, "DataRedundancyMin"), 1);
-        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailure").getBool(), c.noSinglePointOfFailure);
-        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailureDefault").getBool(), c.noSinglePointOfFailure);
+        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailure").getBool(),
+                  c.noSinglePointOfFailure);
+        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailureDefault").getBool(),
+                  c.noSinglePointOfFailure);
         EXPECT_EQ(uint16Of(instance, "PackageRedundancyDefault"), c.packageRedundancy);
         EXPECT_EQ(uint16Of(instance, "PackageRedundancyMax"), c.packageRedundancy);
         EXPECT_EQ(uint16Of(instance, "PackageRedundancyMin"), 0);
@@ -155,10 +162,11 @@ TEST_P(CapabilitiesRule, FollowsTheNumberOfDataDisks) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DataDisks, CapabilitiesRule,
-                         ::testing::Values(RedundancyCase{0, 2, false, 0}, RedundancyCase{1, 1, false, 0},
-                                           RedundancyCase{2, 2, true, 1}, RedundancyCase{3, 1, true, 1},
-                                           RedundancyCase{4, 2, true, 2}, RedundancyCase{5, 1, true, 2}));
+INSTANTIATE_TEST_SUITE_P(
+    DataDisks, CapabilitiesRule,
+    ::testing::Values(RedundancyCase{0, 2, false, 0}, RedundancyCase{1, 1, false, 0},
+                      RedundancyCase{2, 2, true, 1}, RedundancyCase{3, 1, true, 1},
+                      RedundancyCase{4, 2, true, 2}, RedundancyCase{5, 1, true, 2}));
 
 // Catches the slot cases swapped and the array part added to the primordial
 // pool's capabilities.
@@ -174,13 +182,14 @@ controllers:
         unsigned int index;
         std::string arrayId, instanceId, elementName;
     };
-    for (Row const& row : {Row{1, "1", "QLN_VDStorageCapabilities-1-1", "Veldra in Slot 4: Array 1"},
-                           Row{1, "", "QLN_VDStorageCapabilities-1", "Veldra in Slot 4"},
-                           Row{2, "", "QLN_VDStorageCapabilities-2", "Veldra Embedded 2"},
-                           Row{3, "1", "QLN_VDStorageCapabilities-3-1", "Veldra External 3: Array 1"},
-                           Row{4, "", "QLN_VDStorageCapabilities-4", "Veldra UNKNOWN-4"}}) {
-        QLN::QLN_VDStorageCapabilities capabilities(rig.logger, ns, row.index, arrayWithId(row.arrayId),
-                                                    rig.controllers.at(row.index - 1));
+    for (Row const& row :
+         {Row{1, "1", "QLN_VDStorageCapabilities-1-1", "Veldra in Slot 4: Array 1"},
+          Row{1, "", "QLN_VDStorageCapabilities-1", "Veldra in Slot 4"},
+          Row{2, "", "QLN_VDStorageCapabilities-2", "Veldra Embedded 2"},
+          Row{3, "1", "QLN_VDStorageCapabilities-3-1", "Veldra External 3: Array 1"},
+          Row{4, "", "QLN_VDStorageCapabilities-4", "Veldra UNKNOWN-4"}}) {
+        QLN::QLN_VDStorageCapabilities capabilities(
+            rig.logger, ns, row.index, arrayWithId(row.arrayId), rig.controllers.at(row.index - 1));
         CmpiCpp::CmpiInstance const instance = capabilities.getInstance();
         EXPECT_EQ(text(instance, "InstanceID"), row.instanceId);
         EXPECT_EQ(text(instance, "ElementName"), row.elementName);
@@ -200,12 +209,14 @@ controllers:
       - {number: 2, serialNumber: LD-TRIPLE, tolerance: 6, dataDisks: [1]}
       - {number: 3, serialNumber: LD-WIDE, tolerance: 8, dataDisks: [1]}
 )";
-    if (withMirror) yaml += "      - {number: 1, serialNumber: LD-MIRROR, tolerance: 2, dataDisks: [0, 1]}\n";
+    if (withMirror)
+        yaml += "      - {number: 1, serialNumber: LD-MIRROR, tolerance: 2, dataDisks: [0, 1]}\n";
     return yaml;
 }
 
 std::optional<unsigned short> optionalU16(CmpiCpp::CmpiInstance const& instance, char const* name) {
-    if (!instance.hasProperty(name)) return std::nullopt;
+    if (!instance.hasProperty(name))
+        return std::nullopt;
     return uint16Of(instance, name);
 }
 } // namespace
@@ -219,7 +230,8 @@ TEST(StorageSetting, RedundancyByToleranceAndVanishedVolume) {
     auto settingOf = [&](std::string const& serial) {
         for (VeldraLogicalDisk const& logical : logicals)
             if (logical.getSerialNumber() == serial)
-                return std::make_unique<QLN::QLN_VDStorageSetting>(rig.logger, ns, 1, logical, controller);
+                return std::make_unique<QLN::QLN_VDStorageSetting>(rig.logger, ns, 1, logical,
+                                                                   controller);
         ADD_FAILURE() << serial;
         return std::unique_ptr<QLN::QLN_VDStorageSetting>();
     };
@@ -229,16 +241,19 @@ TEST(StorageSetting, RedundancyByToleranceAndVanishedVolume) {
         bool noSinglePointOfFailure;
         std::optional<unsigned short> data, package;
     };
-    for (Row const& row : {Row{"LD-PLAIN", false, std::nullopt, std::nullopt}, Row{"LD-MIRROR", true, 2, 1},
-                           Row{"LD-TRIPLE", true, 2, 1}, Row{"LD-WIDE", true, 1, 2}}) {
+    for (Row const& row :
+         {Row{"LD-PLAIN", false, std::nullopt, std::nullopt}, Row{"LD-MIRROR", true, 2, 1},
+          Row{"LD-TRIPLE", true, 2, 1}, Row{"LD-WIDE", true, 1, 2}}) {
         SCOPED_TRACE(row.serial);
         CmpiCpp::CmpiInstance const instance = settingOf(row.serial)->getInstance();
         EXPECT_EQ(text(instance, "InstanceID"), "QLN_VDStorageSetting-" + row.serial);
         EXPECT_EQ(instance.getProperty("DeltaReservationGoal").getType(), CMPI_uint8);
-        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailure").getBool(), row.noSinglePointOfFailure);
+        EXPECT_EQ(instance.getProperty("NoSinglePointOfFailure").getBool(),
+                  row.noSinglePointOfFailure);
         for (char const* name : {"DataRedundancyGoal", "DataRedundancyMax", "DataRedundancyMin"})
             EXPECT_EQ(optionalU16(instance, name), row.data) << name;
-        for (char const* name : {"PackageRedundancyGoal", "PackageRedundancyMax", "PackageRedundancyMin"})
+        for (char const* name :
+             {"PackageRedundancyGoal", "PackageRedundancyMax", "PackageRedundancyMin"})
             EXPECT_EQ(optionalU16(instance, name), row.package) << name;
     }
 
@@ -250,9 +265,11 @@ TEST(StorageSetting, RedundancyByToleranceAndVanishedVolume) {
         FAIL() << "a volume gone from the snapshot must not be served";
     } catch (CmpiCpp::CmpiStatus const& status) {
         EXPECT_EQ(static_cast<int>(status.rc()), 100);
-        EXPECT_EQ(status.msg(), "getInstance, findLogicalDiskInVector could not find logical based on serial #");
+        EXPECT_EQ(status.msg(),
+                  "getInstance, findLogicalDiskInVector could not find logical based on serial #");
     }
-    EXPECT_NE(rig.log().find("ERROR QLNVeldra:QLN_VDStorageSetting: getInstance, findLogicalDiskInVector"),
+    EXPECT_NE(rig.log().find(
+                  "ERROR QLNVeldra:QLN_VDStorageSetting: getInstance, findLogicalDiskInVector"),
               std::string::npos);
     // The path needs no hardware and survives the volume.
     EXPECT_EQ(mirror->getPath().getKey("InstanceID").getString(), "QLN_VDStorageSetting-LD-MIRROR");

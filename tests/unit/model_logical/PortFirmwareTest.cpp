@@ -22,7 +22,8 @@ namespace {
 std::string const ns = "root/mwq";
 
 std::optional<unsigned short> optionalU16(CmpiCpp::CmpiInstance const& instance, char const* name) {
-    if (!instance.hasProperty(name)) return std::nullopt;
+    if (!instance.hasProperty(name))
+        return std::nullopt;
     return uint16Of(instance, name);
 }
 
@@ -31,7 +32,8 @@ std::optional<unsigned short> optionalU16(CmpiCpp::CmpiInstance const& instance,
 // Catches a property dropped, renamed, moved or given another CIM type; a
 // client's query and the MOF both depend on them.
 TEST(PortController, PropertyOrderAndTypes) {
-    ScenarioRig rig("controllers:\n  - {serialNumber: PORD01, physloc: [5, 2], controllerType: 2}\n");
+    ScenarioRig rig(
+        "controllers:\n  - {serialNumber: PORD01, physloc: [5, 2], controllerType: 2}\n");
     QLN::QLN_VDPortController portController(rig.logger, ns, 1, rig.controllers.at(0));
     CmpiCpp::CmpiInstance const instance = portController.getInstance();
 
@@ -40,12 +42,12 @@ TEST(PortController, PropertyOrderAndTypes) {
         CMPIType type;
     };
     std::vector<Expected> const expected = {
-        {"CreationClassName", CMPI_string}, {"SystemCreationClassName", CMPI_string},
-        {"SystemName", CMPI_string},        {"DeviceID", CMPI_string},
-        {"ElementName", CMPI_string},       {"HealthState", CMPI_uint16},
+        {"CreationClassName", CMPI_string},  {"SystemCreationClassName", CMPI_string},
+        {"SystemName", CMPI_string},         {"DeviceID", CMPI_string},
+        {"ElementName", CMPI_string},        {"HealthState", CMPI_uint16},
         {"OperationalStatus", CMPI_uint16A}, {"StatusDescriptions", CMPI_stringA},
-        {"EnabledDefault", CMPI_uint16},    {"EnabledState", CMPI_uint16},
-        {"RequestedState", CMPI_uint16},    {"ControllerType", CMPI_uint16},
+        {"EnabledDefault", CMPI_uint16},     {"EnabledState", CMPI_uint16},
+        {"RequestedState", CMPI_uint16},     {"ControllerType", CMPI_uint16},
         {"OtherControllerType", CMPI_string}};
     ASSERT_EQ(instance.getPropertyCount(), expected.size());
     for (unsigned int i = 0; i < expected.size(); ++i) {
@@ -69,7 +71,8 @@ controllers:
   - {serialNumber: B, operationalStatus: 4, fail: [getControllerType]}
   - {serialNumber: C, fail: [getControllerOperationalStatus]}
 )");
-    CmpiCpp::CmpiInstance const degraded = QLN::QLN_VDPortController(rig.logger, ns, 1, rig.controllers[0]).getInstance();
+    CmpiCpp::CmpiInstance const degraded =
+        QLN::QLN_VDPortController(rig.logger, ns, 1, rig.controllers[0]).getInstance();
     EXPECT_EQ(uint16Of(degraded, "HealthState"), 10);
     EXPECT_EQ(firstU16(degraded, "OperationalStatus"), 3);
     EXPECT_EQ(firstText(degraded, "StatusDescriptions"), "Port controller Degraded");
@@ -77,12 +80,14 @@ controllers:
 
     for (unsigned int index : {2u, 3u}) {
         CmpiCpp::CmpiInstance const unknown =
-            QLN::QLN_VDPortController(rig.logger, ns, index, rig.controllers[index - 1]).getInstance();
+            QLN::QLN_VDPortController(rig.logger, ns, index, rig.controllers[index - 1])
+                .getInstance();
         EXPECT_EQ(uint16Of(unknown, "HealthState"), 0);
         EXPECT_EQ(firstU16(unknown, "OperationalStatus"), 0);
         EXPECT_EQ(firstText(unknown, "StatusDescriptions"), "Port controller Unknown");
     }
-    CmpiCpp::CmpiInstance const untyped = QLN::QLN_VDPortController(rig.logger, ns, 2, rig.controllers[1]).getInstance();
+    CmpiCpp::CmpiInstance const untyped =
+        QLN::QLN_VDPortController(rig.logger, ns, 2, rig.controllers[1]).getInstance();
     EXPECT_FALSE(untyped.hasProperty("OtherControllerType"));
     EXPECT_EQ(uint16Of(untyped, "ControllerType"), 1);
 }
@@ -98,25 +103,38 @@ controllers:
     VeldraController* blank = rig.controllers[0];
     VeldraController* unread = rig.controllers[1];
 
-    EXPECT_EQ(QLN::QLN_VDDAPort(rig.logger, ns, 1, blank).getPath().getKey("DeviceID").getString(), "");
-    EXPECT_EQ(QLN::QLN_VDISASPort(rig.logger, ns, 1, blank, "1I").getPath().getKey("DeviceID").getString(), ":1I");
+    EXPECT_EQ(QLN::QLN_VDDAPort(rig.logger, ns, 1, blank).getPath().getKey("DeviceID").getString(),
+              "");
+    EXPECT_EQ(QLN::QLN_VDISASPort(rig.logger, ns, 1, blank, "1I")
+                  .getPath()
+                  .getKey("DeviceID")
+                  .getString(),
+              ":1I");
 
     CmpiCpp::CmpiObjectPath const port = QLN::QLN_VDDAPort(rig.logger, ns, 2, unread).getPath();
     EXPECT_EQ(port.getKey("DeviceID").getString(), "QLN_VDDAPort-2");
     EXPECT_EQ(port.getKey("SystemCreationClassName").getString(), "QLN_VDArraySystem");
     EXPECT_EQ(port.getKey("SystemName").getString(), "PCISLOT-5");
-    EXPECT_EQ(QLN::QLN_VDPortController(rig.logger, ns, 2, unread).getPath().getKey("DeviceID").getString(),
+    EXPECT_EQ(QLN::QLN_VDPortController(rig.logger, ns, 2, unread)
+                  .getPath()
+                  .getKey("DeviceID")
+                  .getString(),
               "QLN_VDPortController-2");
-    EXPECT_EQ(QLN::QLN_VDSCSIProtocolController(rig.logger, ns, 2, unread).getPath().getKey("DeviceID").getString(),
+    EXPECT_EQ(QLN::QLN_VDSCSIProtocolController(rig.logger, ns, 2, unread)
+                  .getPath()
+                  .getKey("DeviceID")
+                  .getString(),
               "QLN_VDSCSIProtocolController-2");
-    CmpiCpp::CmpiObjectPath const endpoint = QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 2, unread).getPath();
+    CmpiCpp::CmpiObjectPath const endpoint =
+        QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 2, unread).getPath();
     EXPECT_FALSE(endpoint.hasKey("DeviceID"));
     EXPECT_EQ(endpoint.getKey("Name").getString(), "QLN_VDSCSIProtocolEndpoint-2");
 
     QLN::QLN_VDISASPort sasPort(rig.logger, ns, 2, unread, "2E");
     QLN::QLN_VDISASSCSIProtocolEndpoint initiator(rig.logger, ns, 2, unread, "2E");
     EXPECT_EQ(sasPort.getPath().getKey("DeviceID").getString(), "QLN_VDISASPort:2:2E");
-    EXPECT_EQ(initiator.getPath().getKey("Name").getString(), "QLN_VDISASSCSIProtocolEndpoint:2:2E");
+    EXPECT_EQ(initiator.getPath().getKey("Name").getString(),
+              "QLN_VDISASSCSIProtocolEndpoint:2:2E");
     CmpiCpp::CmpiInstance const initiatorInstance = initiator.getInstance();
     EXPECT_EQ(text(initiatorInstance, "ElementName"), "Protocol Endpoint for Port:2E");
     EXPECT_EQ(uint16Of(initiatorInstance, "Role"), 2);
@@ -133,24 +151,31 @@ controllers:
   - {serialNumber: BOARD, physloc: [1]}
   - {serialNumber: LOST, fail: [getPhysloc]}
 )");
-    auto starts = [](std::string const& text, std::string const& prefix) { return text.rfind(prefix, 0) == 0; };
+    auto starts = [](std::string const& text, std::string const& prefix) {
+        return text.rfind(prefix, 0) == 0;
+    };
     VeldraController* external = rig.controllers[0];
-    EXPECT_TRUE(starts(text(QLN::QLN_VDDAPort(rig.logger, ns, 1, external).getInstance(), "ElementName"),
-                       "Veldra External "));
-    EXPECT_TRUE(starts(text(QLN::QLN_VDSCSIProtocolController(rig.logger, ns, 1, external).getInstance(),
-                            "ElementName"),
-                       "Veldra External "));
-    std::string const plain = text(QLN::QLN_VDPortController(rig.logger, ns, 1, external).getInstance(), "ElementName");
+    EXPECT_TRUE(
+        starts(text(QLN::QLN_VDDAPort(rig.logger, ns, 1, external).getInstance(), "ElementName"),
+               "Veldra External "));
+    EXPECT_TRUE(
+        starts(text(QLN::QLN_VDSCSIProtocolController(rig.logger, ns, 1, external).getInstance(),
+                    "ElementName"),
+               "Veldra External "));
+    std::string const plain =
+        text(QLN::QLN_VDPortController(rig.logger, ns, 1, external).getInstance(), "ElementName");
     EXPECT_TRUE(starts(plain, "Veldra ") && !starts(plain, "Veldra External ")) << plain;
-    std::string const endpoint =
-        text(QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 1, external).getInstance(), "ElementName");
+    std::string const endpoint = text(
+        QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 1, external).getInstance(), "ElementName");
     EXPECT_TRUE(starts(endpoint, "Veldra ") && !starts(endpoint, "Veldra External ")) << endpoint;
 
-    EXPECT_EQ(text(QLN::QLN_VDDAPort(rig.logger, ns, 2, rig.controllers[1]).getInstance(), "ElementName"),
-              "Veldra System Board");
-    EXPECT_TRUE(starts(text(QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 3, rig.controllers[2]).getInstance(),
-                            "ElementName"),
-                       "Veldra Unknown "));
+    EXPECT_EQ(
+        text(QLN::QLN_VDDAPort(rig.logger, ns, 2, rig.controllers[1]).getInstance(), "ElementName"),
+        "Veldra System Board");
+    EXPECT_TRUE(starts(
+        text(QLN::QLN_VDSCSIProtocolEndpoint(rig.logger, ns, 3, rig.controllers[2]).getInstance(),
+             "ElementName"),
+        "Veldra Unknown "));
 }
 
 // Catches the slot cases of PortType swapped and the port's status taken from
@@ -164,7 +189,8 @@ controllers:
   - {serialNumber: S4, fail: [getPCISlotNumber, getControllerStatus]}
 )");
     std::vector<CmpiCpp::CmpiInstance> ports;
-    for (unsigned int i = 0; i < 4; ++i) ports.push_back(QLN::QLN_VDDAPort(rig.logger, ns, i + 1, rig.controllers[i]).getInstance());
+    for (unsigned int i = 0; i < 4; ++i)
+        ports.push_back(QLN::QLN_VDDAPort(rig.logger, ns, i + 1, rig.controllers[i]).getInstance());
     EXPECT_EQ(uint16Of(ports[0], "PortType"), 82);
     EXPECT_EQ(uint16Of(ports[1], "PortType"), 81);
     EXPECT_EQ(uint16Of(ports[2], "PortType"), 1);
@@ -187,7 +213,8 @@ controllers:
   - {serialNumber: F2, fwVersion: "build 7", model: Veldra 8i}
   - {serialNumber: F3, fail: [getFWVersion, getModel, getManufacturer]}
 )");
-    CmpiCpp::CmpiInstance const good = QLN::QLN_VDFirmware(rig.logger, ns, 1, rig.controllers[0]).getInstance();
+    CmpiCpp::CmpiInstance const good =
+        QLN::QLN_VDFirmware(rig.logger, ns, 1, rig.controllers[0]).getInstance();
     EXPECT_EQ(text(good, "InstanceID"), "MWQ:QLN_VDFirmware-1");
     EXPECT_EQ(text(good, "VersionString"), "5.2.0-1234");
     EXPECT_EQ(optionalU16(good, "MajorVersion"), 5);
@@ -200,14 +227,16 @@ controllers:
     EXPECT_EQ(values.getElementAt(1).getString(), "Storage Controller");
     EXPECT_EQ(firstU16(good, "Classifications"), 10);
 
-    CmpiCpp::CmpiInstance const odd = QLN::QLN_VDFirmware(rig.logger, ns, 2, rig.controllers[1]).getInstance();
+    CmpiCpp::CmpiInstance const odd =
+        QLN::QLN_VDFirmware(rig.logger, ns, 2, rig.controllers[1]).getInstance();
     EXPECT_EQ(text(odd, "VersionString"), "build 7");
     EXPECT_FALSE(odd.hasProperty("MajorVersion"));
     EXPECT_FALSE(odd.hasProperty("MinorVersion"));
 
-    CmpiCpp::CmpiInstance const bare = QLN::QLN_VDFirmware(rig.logger, ns, 3, rig.controllers[2]).getInstance();
-    for (char const* name : {"VersionString", "MajorVersion", "Manufacturer", "ElementName", "TargetTypes",
-                             "IdentityInfoType", "IdentityInfoValue"})
+    CmpiCpp::CmpiInstance const bare =
+        QLN::QLN_VDFirmware(rig.logger, ns, 3, rig.controllers[2]).getInstance();
+    for (char const* name : {"VersionString", "MajorVersion", "Manufacturer", "ElementName",
+                             "TargetTypes", "IdentityInfoType", "IdentityInfoValue"})
         EXPECT_FALSE(bare.hasProperty(name)) << name;
     EXPECT_EQ(firstText(bare, "StatusDescriptions"), "Array Firmware Status: OK");
 }
@@ -233,7 +262,8 @@ controllers:
     EXPECT_EQ(optionalU16(full, "MajorVersion"), 3);
     EXPECT_EQ(optionalU16(full, "MinorVersion"), 4);
     EXPECT_EQ(optionalU16(full, "RevisionNumber"), 7);
-    EXPECT_EQ(firstText(full, "IdentityInfoValue"), "MWQ:Veldra Controller Driver.vldr-Veldra 8i-QLN");
+    EXPECT_EQ(firstText(full, "IdentityInfoValue"),
+              "MWQ:Veldra Controller Driver.vldr-Veldra 8i-QLN");
 
     CmpiCpp::CmpiInstance const twoParts = instanceOf(2);
     EXPECT_EQ(optionalU16(twoParts, "MajorVersion"), 2);

@@ -29,14 +29,16 @@ protected:
     StorageGroup() : rig(groupScenario), group(rig.logger, ns) {
         CmpiCpp::CmpiContext context;
         for (unsigned int i = 0; i < rig.controllers.size(); ++i) {
-            systems.push_back(std::make_unique<QLN::QLN_VDArraySystem>(rig.logger, ns, i + 1, rig.controllers[i]));
+            systems.push_back(std::make_unique<QLN::QLN_VDArraySystem>(rig.logger, ns, i + 1,
+                                                                       rig.controllers[i]));
             systems.back()->manageDynamic(false, context);
         }
     }
     // The array systems of the given controller numbers, as the worker hands them over.
     std::vector<QLN::QLN_VDArraySystem*> pick(std::initializer_list<unsigned int> numbers) {
         std::vector<QLN::QLN_VDArraySystem*> out;
-        for (unsigned int number : numbers) out.push_back(systems.at(number - 1).get());
+        for (unsigned int number : numbers)
+            out.push_back(systems.at(number - 1).get());
         return out;
     }
     void pass(std::initializer_list<unsigned int> numbers, bool indications = false) {
@@ -69,7 +71,8 @@ TEST_F(StorageGroup, AllFineLogsNoChange) {
     EXPECT_EQ(shownText(), "Storage Arrays are operating properly");
     std::string const log = rig.log();
     EXPECT_EQ(log.find("Controller Operational Status"), std::string::npos);
-    EXPECT_NE(log.find("QLNVeldra:QLN_VDStorageSpecificCollection: indications enabled"), std::string::npos);
+    EXPECT_NE(log.find("QLNVeldra:QLN_VDStorageSpecificCollection: indications enabled"),
+              std::string::npos);
     // The flag is still set: the first change is told as "bad".
     pass({1, 2});
     EXPECT_NE(rig.log().find("Controller Operational Status bad, 3"), std::string::npos);
@@ -80,8 +83,9 @@ TEST_F(StorageGroup, AllFineLogsNoChange) {
 TEST_F(StorageGroup, UnknownCountsAsFailedAndWorstWins) {
     pass({1, 3});
     EXPECT_EQ(shown(), 6);
-    EXPECT_EQ(shownText(), "One or more of the Array Controllers have failed, one or more of the Storage "
-                           "Enclosures have failed, one or more of the logical drives have failed");
+    EXPECT_EQ(shownText(),
+              "One or more of the Array Controllers have failed, one or more of the Storage "
+              "Enclosures have failed, one or more of the logical drives have failed");
     pass({2, 1});
     EXPECT_EQ(shown(), 3);
     EXPECT_NE(shownText().find("are not OK but not failed"), std::string::npos);
@@ -102,18 +106,12 @@ TEST_F(StorageGroup, FirstChangeIsBadLaterOnesAreChanges) {
     EXPECT_NE(log.find("Controller Operational Status bad, 6"), std::string::npos);
     EXPECT_NE(log.find("Send Controller Operational Status bad, 6"), std::string::npos);
     EXPECT_NE(log.find("Controller Operational Status change, Old: 6 New: 3"), std::string::npos);
-    EXPECT_NE(log.find("Send Controller Operational Status change, Old: 6 New: 3"), std::string::npos);
+    EXPECT_NE(log.find("Send Controller Operational Status change, Old: 6 New: 3"),
+              std::string::npos);
     EXPECT_NE(log.find("Controller Operational Status change, Old: 3 New: 2"), std::string::npos);
     // Without the flag the line that would announce an indication is not written.
-    EXPECT_EQ(log.find("Send Controller Operational Status change, Old: 3 New: 2"), std::string::npos);
+    EXPECT_EQ(log.find("Send Controller Operational Status change, Old: 3 New: 2"),
+              std::string::npos);
     EXPECT_EQ(log.find("Controller Operational Status bad, 3"), std::string::npos);
     EXPECT_EQ(shown(), 2);
-}
-
-TEST_F(StorageGroup, PathIsTheOneFixedKey) {
-    CmpiCpp::CmpiObjectPath const path = group.getPath();
-    ASSERT_EQ(path.getKeyCount(), 1u);
-    EXPECT_EQ(path.getKey("InstanceID").getString(), "QLN_VDStorageSpecificCollection-1");
-    EXPECT_EQ(path.getClassName().str(), "QLN_VDStorageSpecificCollection");
-    EXPECT_EQ(text(group.getInstance(), "ElementName"), "Storage Array Consolidated Status");
 }
