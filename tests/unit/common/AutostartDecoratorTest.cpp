@@ -99,9 +99,9 @@ TEST_F(Autostart, PerformWorkOnScheduleFromAttachedThread) {
     EXPECT_EQ(broker.prepared, 1);
     EXPECT_EQ(broker.preparedWith, nullptr); // no request came by
     EXPECT_EQ(broker.attached, 1);
-    EXPECT_EQ(broker.attachedOn(), calls[0].thread);
+    EXPECT_EQ(broker.attachedOn.load(), calls[0].thread);
     EXPECT_EQ(broker.detached, 1);
-    EXPECT_EQ(broker.detachedOn(), calls[0].thread);
+    EXPECT_EQ(broker.detachedOn.load(), calls[0].thread);
     EXPECT_EQ(instancesDestroyed, 1);
     EXPECT_EQ(TestProvider::state().destroyed, 1);
 }

@@ -1,4 +1,5 @@
 #include "AutostartDecorator.h"
+#include "CapturedMethodResult.h"
 #include "LoggedProvider.h"
 #include "PerfmonDecorator.h"
 #include "ResultSinks.h"
@@ -78,13 +79,9 @@ TEST_F(Chain, LoggedAutostartPerfmonForwardAndTearDown) {
     InstanceSink rows;
     EXPECT_THROW(instances->getInstance(context, disk, nullptr, rows), CmpiCpp::CmpiStatus);
 
-    struct Result : CmpiCpp::CmpiMethodResult {
-        void returnData(std::uint32_t value) override { returned = value; }
-        void addOutArg(CmpiCpp::CmpiName const&, CmpiCpp::CmpiData const&) override {}
-        std::uint32_t returned = 99;
-    } result;
+    QLN::CapturedMethodResult result;
     methods->invokeMethod(context, disk, "Identify", CmpiCpp::CmpiArgs(), result);
-    EXPECT_EQ(result.returned, 0u);
+    EXPECT_EQ(result.returnValue(), 0u);
     ASSERT_EQ(TestProvider::state().calls(), 1u);
     EXPECT_EQ(TestProvider::state().snapshot()[0].name, "Identify");
 

@@ -3,16 +3,28 @@
 #include "cmpift.h"
 
 #include <atomic>
-#include <mutex>
 #include <thread>
 
 class TestBroker {
 public:
     TestBroker() {
         _table.brokerVersion = 0; // as old object managers report it
-        _table.prepareAttachThread = &TestBroker::_prepare;
-        _table.attachThread = &TestBroker::_attach;
-        _table.detachThread = &TestBroker::_detach;
+        _table.prepareAttachThread = [](CMPIBroker const* broker, CMPIContext const* context) {
+            TestBroker* self = _self(broker);
+            self->preparedWith = context;
+            ++self->prepared;
+            return &self->_threadContext;
+        };
+        _table.attachThread = [](CMPIBroker const* broker, CMPIContext const*) {
+            _self(broker)->attachedOn = std::this_thread::get_id();
+            ++_self(broker)->attached;
+            return CMPIStatus{CMPI_RC_OK, nullptr};
+        };
+        _table.detachThread = [](CMPIBroker const* broker, CMPIContext const*) {
+            _self(broker)->detachedOn = std::this_thread::get_id();
+            ++_self(broker)->detached;
+            return CMPIStatus{CMPI_RC_OK, nullptr};
+        };
         _broker.hdl = this;
         _broker.bft = &_table;
     }
@@ -22,55 +34,19 @@ public:
     CMPIBroker const* get() const { return &_broker; }
     CMPIContext const* threadContext() const { return &_threadContext; }
 
-    std::thread::id attachedOn() const {
-        std::lock_guard lock(_mutex);
-        return _attachedOn;
-    }
-    std::thread::id detachedOn() const {
-        std::lock_guard lock(_mutex);
-        return _detachedOn;
-    }
-
     std::atomic<int> prepared{0};
     std::atomic<int> attached{0};
     std::atomic<int> detached{0};
     std::atomic<CMPIContext const*> preparedWith{nullptr};
-    std::atomic<CMPIContext const*> attachedWith{nullptr};
+    std::atomic<std::thread::id> attachedOn;
+    std::atomic<std::thread::id> detachedOn;
 
 private:
     static TestBroker* _self(CMPIBroker const* broker) {
         return static_cast<TestBroker*>(broker->hdl);
     }
-    static CMPIContext* _prepare(CMPIBroker const* broker, CMPIContext const* context) {
-        TestBroker* self = _self(broker);
-        self->preparedWith = context;
-        ++self->prepared;
-        return &self->_threadContext;
-    }
-    static CMPIStatus _attach(CMPIBroker const* broker, CMPIContext const* context) {
-        TestBroker* self = _self(broker);
-        {
-            std::lock_guard lock(self->_mutex);
-            self->_attachedOn = std::this_thread::get_id();
-        }
-        self->attachedWith = context;
-        ++self->attached;
-        return {CMPI_RC_OK, nullptr};
-    }
-    static CMPIStatus _detach(CMPIBroker const* broker, CMPIContext const*) {
-        TestBroker* self = _self(broker);
-        {
-            std::lock_guard lock(self->_mutex);
-            self->_detachedOn = std::this_thread::get_id();
-        }
-        ++self->detached;
-        return {CMPI_RC_OK, nullptr};
-    }
 
     CMPIBrokerFT _table{};
     CMPIBroker _broker{};
     CMPIContext _threadContext{};
-    mutable std::mutex _mutex;
-    std::thread::id _attachedOn;
-    std::thread::id _detachedOn;
 };
