@@ -52,6 +52,9 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
     _server->set_keep_alive_timeout(5);
     // wbemcli and load tools reuse one connection for many requests.
     _server->set_keep_alive_max_count(1000);
+    // Headers and body go out in separate writes; without this, delayed ACKs
+    // add about 40 ms to every answer on a kept-alive connection.
+    _server->set_tcp_nodelay(true);
     _server->set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
         if (request.headers.size() > _settings.maxHeaders) {
             response.status = 431;

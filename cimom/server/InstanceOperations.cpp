@@ -52,7 +52,8 @@ void InstanceOperations::_checkParams(const CimRequest& request, std::initialize
 std::string InstanceOperations::_requireClass(const CimRequest& request, const char* param) const {
     std::string name = CimOperationHandler::classNameParam(request, param);
     if (name.empty()) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
-    if (!_classes.find(request.nameSpace(), name))
+    // A schema superclass we do not ship still names our subclasses of it.
+    if (!_classes.knowsClassName(request.nameSpace(), name))
         fail(CimOperationError::invalidClass, "class " + name + " does not exist");
     return name;
 }
@@ -135,7 +136,7 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
     options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
     options.propertyList = CimOperationHandler::propertyListParam(request);
     const CimClassDecl* requested = _classes.find(request.nameSpace(), className);
-    if (!deep) {
+    if (!deep && requested) {
         // Without deep inheritance only the requested class's properties are shown.
         std::set<std::string> own;
         for (const auto& p : requested->properties) own.insert(CimName::lower(p.name));
