@@ -100,7 +100,6 @@ private:
 
     void _index(Entry* entry);
     void _unindex(Entry* entry);
-    void _eraseEntry(std::size_t position);
     std::size_t _positionOf(Entry const* entry) const;
     std::vector<Entry const*> _fittingAssociations(std::string const& sourceKey,
                                                    CmpiCpp::CmpiName const& assocClass,

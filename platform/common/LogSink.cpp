@@ -64,7 +64,7 @@ void LogSink::_configureIfStale() {
     }
     std::lock_guard<std::mutex> lock(_mutex);
     if (_generation.load(std::memory_order_relaxed) != current) {
-        _configure(current);
+        _configure();
         _generation.store(current, std::memory_order_release);
     }
 }
@@ -80,7 +80,7 @@ void LogSink::_closeDestination() {
     _destination = Destination::Stderr;
 }
 
-void LogSink::_configure(unsigned long) {
+void LogSink::_configure() {
     _closeDestination();
     std::string target = "stderr";
     std::string level = "info";

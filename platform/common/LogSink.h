@@ -24,7 +24,7 @@ private:
 
     LogSink() = default;
     void _configureIfStale();
-    void _configure(unsigned long generation);
+    void _configure();
     void _closeDestination();
     void _emit(LogLevel level, std::string const& source, std::string const& text);
 

@@ -62,7 +62,8 @@ TEST(CollectionConcurrency, ReadersBesideWriter) {
     for (int i = 0; i < 3; ++i) {
         readers.emplace_back(reader);
     }
-    for (int round = 0; round < 100; ++round) {
+    // Runs until the readers have really overlapped with it.
+    for (int round = 0; round < 100 || reads.load() < 50; ++round) {
         std::vector<CmpiObjectPath> made;
         for (int i = 0; i < 5; ++i) {
             auto* disk = new TestInstance("QLN_Disk", "moving" + std::to_string(i));
