@@ -58,7 +58,8 @@ OperationalView operationalView(VeldraControllerData const& data) {
 // Sets the property only when the getter answers; enumerations go out as
 // their raw number, narrowed to uint16.
 template <typename Value, typename Getter>
-void addEnumIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraControllerData const& data, Getter getter) {
+void addEnumIfRead(CmpiCpp::CmpiInstance& instance, char const* name,
+                   VeldraControllerData const& data, Getter getter) {
     Value value{};
     if ((data.*getter)(value) == 0) {
         instance.addProperty(name, static_cast<unsigned short>(value));
@@ -66,7 +67,8 @@ void addEnumIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraCont
 }
 
 template <typename Value, typename Getter>
-void addIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraControllerData const& data, Getter getter) {
+void addIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraControllerData const& data,
+               Getter getter) {
     Value value{};
     if ((data.*getter)(value) == 0) {
         instance.addProperty(name, value);
@@ -81,11 +83,15 @@ void addCacheSizes(CmpiCpp::CmpiInstance& instance, VeldraControllerData const& 
         addIfRead<u32>(instance, "SplitWriteSize", data, &VeldraControllerData::getSplitWriteSize);
         addIfRead<u32>(instance, "SplitReadSize", data, &VeldraControllerData::getSplitReadSize);
         addIfRead<u32>(instance, "CacheSizeTotal", data, &VeldraControllerData::getCacheSizeTotal);
-        addEnumIfRead<readCacheStatusEnum>(instance, "ReadCacheStatus", data, &VeldraControllerData::getReadCacheStatus);
+        addEnumIfRead<readCacheStatusEnum>(instance, "ReadCacheStatus", data,
+                                           &VeldraControllerData::getReadCacheStatus);
     } else {
-        addIfRead<u16>(instance, "CacheReadPercent", data, &VeldraControllerData::getCacheReadPercent);
-        addIfRead<u16>(instance, "CacheWritePercent", data, &VeldraControllerData::getCacheWritePercent);
-        addIfRead<u32>(instance, "CacheSizeTotal", data, &VeldraControllerData::getCacheSizeInBytes);
+        addIfRead<u16>(instance, "CacheReadPercent", data,
+                       &VeldraControllerData::getCacheReadPercent);
+        addIfRead<u16>(instance, "CacheWritePercent", data,
+                       &VeldraControllerData::getCacheWritePercent);
+        addIfRead<u32>(instance, "CacheSizeTotal", data,
+                       &VeldraControllerData::getCacheSizeInBytes);
     }
 }
 
@@ -117,15 +123,19 @@ void addEncryptionStatus(CmpiCpp::CmpiInstance& instance, VeldraControllerData c
 namespace QLN {
 
 QLN_VDArrayController::QLN_VDArrayController(Logger& logger, std::string const& nameSpace,
-                                             unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller), _firstStatus(true) {
+                                             unsigned int controllerIndex,
+                                             VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
+      _firstStatus(true) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-QLN_VDArrayController::~QLN_VDArrayController() { _logger.info("dxtor()"); }
+QLN_VDArrayController::~QLN_VDArrayController() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayController::getPath() const {
     VeldraControllerData data;
@@ -177,7 +187,8 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     addEnumIfRead<DPGSupportedTypeEnum>(instance, "DPGSupported", data, &D::getDPGSupportedType);
     addEnumIfRead<rebuildPriorityEnum>(instance, "RebuildPriority", data, &D::getRebuildPriority);
     addEnumIfRead<batteryStatusEnum>(instance, "BatteryStatus", data, &D::getBatteryStatus);
-    addEnumIfRead<cacheBoardPresentEnum>(instance, "CacheBoardPresent", data, &D::getCacheBoardPresent);
+    addEnumIfRead<cacheBoardPresentEnum>(instance, "CacheBoardPresent", data,
+                                         &D::getCacheBoardPresent);
     addEnumIfRead<cacheHasBatteryEnum>(instance, "CacheHasBattery", data, &D::getCacheHasBattery);
     addIfRead<u32>(instance, "CacheParityReadErrors", data, &D::getCacheParityReadErrors);
     addIfRead<u32>(instance, "CacheParityWriteErrors", data, &D::getCacheParityWriteErrors);
@@ -197,21 +208,26 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
                                               &D::getCacheBackupPowerSource);
     addEnumIfRead<cacheStatusEnum>(instance, "CacheStatus", data, &D::getCacheStatus);
     addEnumIfRead<cacheStateEnum>(instance, "CacheState", data, &D::getCacheState);
-    addEnumIfRead<controllerStatusEnum>(instance, "ControllerStatus", data, &D::getControllerStatus);
+    addEnumIfRead<controllerStatusEnum>(instance, "ControllerStatus", data,
+                                        &D::getControllerStatus);
     addEnumIfRead<cacheOperationalStatusEnum>(instance, "CacheOperationalStatus", data,
                                               &D::getCacheOperationalStatus);
     addEncryptionStatus(instance, data);
-    addEnumIfRead<EncryptSelfTestStatusEnum>(instance, "EncryptSelfTestStatus", data, &D::getEncryptionSelfTestStatus);
-    addEnumIfRead<EncryptCSPNvramStatusEnum>(instance, "EncryptCSPNvramStatus", data, &D::getEncryptionCSPNvramStatus);
+    addEnumIfRead<EncryptSelfTestStatusEnum>(instance, "EncryptSelfTestStatus", data,
+                                             &D::getEncryptionSelfTestStatus);
+    addEnumIfRead<EncryptCSPNvramStatusEnum>(instance, "EncryptCSPNvramStatus", data,
+                                             &D::getEncryptionCSPNvramStatus);
     addEnumIfRead<EncryptCntlrPwdSetStatusEnum>(instance, "EncryptCntlrPwdSetStatus", data,
                                                 &D::getEncryptCntlrPwdSetStatus);
-    addEnumIfRead<EncryptCryptoOfficerPwdSetStatusEnum>(instance, "EncryptCryptoOfficerPwdSetStatus", data,
+    addEnumIfRead<EncryptCryptoOfficerPwdSetStatusEnum>(instance,
+                                                        "EncryptCryptoOfficerPwdSetStatus", data,
                                                         &D::getEncryptCryptoOfficerPwdSetStatus);
     addEnumIfRead<EncryptedCntlrPwdAvailStatusEnum>(instance, "EncryptedCntlrPwdAvailStatus", data,
                                                     &D::getEncryptedCntlrPwdAvailStatus);
-    addEnumIfRead<EncryptFWLockStatusEnum>(instance, "EncryptFWLockStatus", data, &D::getEncryptFWLockStatus);
-    addEnumIfRead<UnencryptLDCreationPolicyEnum>(instance, "UnencryptedLogicalDrvCreationPolicy", data,
-                                                 &D::getUnencryptLDCreationPolicy);
+    addEnumIfRead<EncryptFWLockStatusEnum>(instance, "EncryptFWLockStatus", data,
+                                           &D::getEncryptFWLockStatus);
+    addEnumIfRead<UnencryptLDCreationPolicyEnum>(instance, "UnencryptedLogicalDrvCreationPolicy",
+                                                 data, &D::getUnencryptLDCreationPolicy);
     addEnumIfRead<EncryptLDCreationPolicyEnum>(instance, "EncryptedLogicalDrvCreationPolicy", data,
                                                &D::getEncryptLDCreationPolicy);
 
@@ -224,6 +240,8 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDArrayController::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDArrayController::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -12,8 +12,8 @@ namespace QLN {
 
 class QLN_VDArrayController : public CmpiManagedInstance {
 public:
-    QLN_VDArrayController(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                          VeldraController* controller);
+    QLN_VDArrayController(Logger& logger, std::string const& nameSpace,
+                          unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDArrayController() override;
 
     // Shares its Name with the array system; only the class tells them apart.

@@ -14,8 +14,10 @@ char const* const className = "QLN_VDArrayControllerLocation";
 
 namespace QLN {
 
-QLN_VDArrayControllerLocation::QLN_VDArrayControllerLocation(Logger& logger, std::string const& nameSpace,
-                                                     unsigned int controllerIndex, VeldraController* controller)
+QLN_VDArrayControllerLocation::QLN_VDArrayControllerLocation(Logger& logger,
+                                                             std::string const& nameSpace,
+                                                             unsigned int controllerIndex,
+                                                             VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -23,7 +25,9 @@ QLN_VDArrayControllerLocation::QLN_VDArrayControllerLocation(Logger& logger, std
     _logger.info("cxtor()");
 }
 
-QLN_VDArrayControllerLocation::~QLN_VDArrayControllerLocation() { _logger.info("dxtor()"); }
+QLN_VDArrayControllerLocation::~QLN_VDArrayControllerLocation() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayControllerLocation::getPath() const {
     VeldraControllerData data;
@@ -33,7 +37,8 @@ CmpiCpp::CmpiObjectPath QLN_VDArrayControllerLocation::getPath() const {
     path.setHost(QLNUtil::getHostName());
     // Name is the only key of a location: the tag keeps controllers apart,
     // external ones included (their tag carries the controller's number).
-    path.addKey("Name", std::string(className) + "-" + getControllerTag(data, static_cast<int>(_controllerIndex)));
+    path.addKey("Name", std::string(className) + "-" +
+                            getControllerTag(data, static_cast<int>(_controllerIndex)));
     return path;
 }
 
@@ -49,9 +54,12 @@ CmpiCpp::CmpiInstance QLN_VDArrayControllerLocation::getInstance() const {
     bool located = data.getPhysloc(location) == 0;
     instance.addProperty("PhysicalPosition", QLNPhysloc::physlocToHWLocation(location));
     // The controller's own wording: no "External", as its ElementName has none.
-    std::string display = (located ? (QLNPhysloc::kindOf(location) == static_cast<int>(QLNPhysloc::Kind::PciSlot) ? "Veldra in " : "Veldra ")
-                                   : "Veldra Unknown ") +
-                          QLNPhysloc::physlocToHWLocation(location);
+    std::string display =
+        (located ? (QLNPhysloc::kindOf(location) == static_cast<int>(QLNPhysloc::Kind::PciSlot)
+                        ? "Veldra in "
+                        : "Veldra ")
+                 : "Veldra Unknown ") +
+        QLNPhysloc::physlocToHWLocation(location);
     instance.addProperty("Caption", display);
     instance.addProperty("Description", display);
     instance.addProperty("ElementName", display);
@@ -60,16 +68,22 @@ CmpiCpp::CmpiInstance QLN_VDArrayControllerLocation::getInstance() const {
         std::vector<std::string> names;
         std::vector<unsigned short> numbers;
         QLNPhysloc::createLocationInfoVectors(location, names, numbers);
-        CmpiCpp::CmpiArray codes = CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
-        CmpiCpp::CmpiArray texts = CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
-        for (unsigned int i = 0; i < numbers.size(); ++i) codes.setElementAt(i, numbers[i]);
-        for (unsigned int i = 0; i < names.size(); ++i) texts.setElementAt(i, names[i]);
+        CmpiCpp::CmpiArray codes =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
+        CmpiCpp::CmpiArray texts =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
+        for (unsigned int i = 0; i < numbers.size(); ++i)
+            codes.setElementAt(i, numbers[i]);
+        for (unsigned int i = 0; i < names.size(); ++i)
+            texts.setElementAt(i, names[i]);
         instance.addProperty("LocationInformation", codes);
         instance.addProperty("LocationInfoDesc", texts);
     }
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDArrayControllerLocation::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDArrayControllerLocation::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,8 +11,8 @@ namespace QLN {
 
 class QLN_VDArrayControllerLocation : public CmpiManagedInstance {
 public:
-    QLN_VDArrayControllerLocation(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-          VeldraController* controller);
+    QLN_VDArrayControllerLocation(Logger& logger, std::string const& nameSpace,
+                                  unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDArrayControllerLocation() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -14,7 +14,8 @@ unsigned short const packageModuleCard = 9;
 unsigned short const removalNotApplicable = 2;
 unsigned short const removalWhenOff = 3;
 
-void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraControllerData const& data,
+void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name,
+                   VeldraControllerData const& data,
                    int (VeldraControllerData::*getter)(std::string&) const) {
     std::string value;
     if ((data.*getter)(value) == 0 && !value.empty()) {
@@ -26,8 +27,9 @@ void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraCont
 
 namespace QLN {
 
-QLN_VDArrayControllerPhysicalPackage::QLN_VDArrayControllerPhysicalPackage(Logger& logger, std::string const& nameSpace,
-                                             unsigned int controllerIndex, VeldraController* controller)
+QLN_VDArrayControllerPhysicalPackage::QLN_VDArrayControllerPhysicalPackage(
+    Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+    VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -35,7 +37,9 @@ QLN_VDArrayControllerPhysicalPackage::QLN_VDArrayControllerPhysicalPackage(Logge
     _logger.info("cxtor()");
 }
 
-QLN_VDArrayControllerPhysicalPackage::~QLN_VDArrayControllerPhysicalPackage() { _logger.info("dxtor()"); }
+QLN_VDArrayControllerPhysicalPackage::~QLN_VDArrayControllerPhysicalPackage() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayControllerPhysicalPackage::getPath() const {
     VeldraControllerData data;
@@ -45,7 +49,8 @@ CmpiCpp::CmpiObjectPath QLN_VDArrayControllerPhysicalPackage::getPath() const {
     path.setHost(QLNUtil::getHostName());
     path.addKey("CreationClassName", className);
     // The controller's name, as the array controller has it, scoped by the class.
-    path.addKey("Tag", std::string(className) + "-" + getControllerName(data, static_cast<int>(_controllerIndex)));
+    path.addKey("Tag", std::string(className) + "-" +
+                           getControllerName(data, static_cast<int>(_controllerIndex)));
     return path;
 }
 
@@ -82,6 +87,8 @@ CmpiCpp::CmpiInstance QLN_VDArrayControllerPhysicalPackage::getInstance() const 
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDArrayControllerPhysicalPackage::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDArrayControllerPhysicalPackage::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -11,8 +11,9 @@ namespace QLN {
 
 class QLN_VDArrayControllerPhysicalPackage : public CmpiManagedInstance {
 public:
-    QLN_VDArrayControllerPhysicalPackage(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-          VeldraController* controller);
+    QLN_VDArrayControllerPhysicalPackage(Logger& logger, std::string const& nameSpace,
+                                         unsigned int controllerIndex,
+                                         VeldraController* controller);
     ~QLN_VDArrayControllerPhysicalPackage() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

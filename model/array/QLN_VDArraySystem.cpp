@@ -49,9 +49,12 @@ struct Health {
 };
 
 Health healthOf(int status) {
-    if (status == statusOk) return {2, 5};
-    if (status == statusDegraded) return {3, 10};
-    if (status == statusFailed) return {6, 20};
+    if (status == statusOk)
+        return {2, 5};
+    if (status == statusDegraded)
+        return {3, 10};
+    if (status == statusFailed)
+        return {6, 20};
     return {0, 0};
 }
 
@@ -59,17 +62,19 @@ Health healthOf(int status) {
 
 namespace QLN {
 
-QLN_VDArraySystem::QLN_VDArraySystem(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                                     VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller), _status(statusOk),
-      _statusText(textOk) {
+QLN_VDArraySystem::QLN_VDArraySystem(Logger& logger, std::string const& nameSpace,
+                                     unsigned int controllerIndex, VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
+      _status(statusOk), _statusText(textOk) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-QLN_VDArraySystem::~QLN_VDArraySystem() { _logger.info("dxtor()"); }
+QLN_VDArraySystem::~QLN_VDArraySystem() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystem::getPath() const {
     VeldraControllerData data;
@@ -121,7 +126,9 @@ CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDArraySystem::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDArraySystem::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 void QLN_VDArraySystem::manageDynamic(bool indicationsEnabled, CmpiCpp::CmpiContext const&) {
     _logger.info("manageDynamic()");
@@ -211,7 +218,8 @@ void QLN_VDArraySystem::manageDynamic(bool indicationsEnabled, CmpiCpp::CmpiCont
     }
 }
 
-unsigned int QLN_VDArraySystem::invokeMethod(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in) {
+unsigned int QLN_VDArraySystem::invokeMethod(CmpiCpp::CmpiName const& method,
+                                             CmpiCpp::CmpiArgs const& in) {
     unsigned int result = methodNotFound;
     if (!(method == CmpiCpp::CmpiName("Identify"))) {
         return result;

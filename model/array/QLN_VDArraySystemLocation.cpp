@@ -15,7 +15,8 @@ char const* const className = "QLN_VDArraySystemLocation";
 namespace QLN {
 
 QLN_VDArraySystemLocation::QLN_VDArraySystemLocation(Logger& logger, std::string const& nameSpace,
-                                                     unsigned int controllerIndex, VeldraController* controller)
+                                                     unsigned int controllerIndex,
+                                                     VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -23,7 +24,9 @@ QLN_VDArraySystemLocation::QLN_VDArraySystemLocation(Logger& logger, std::string
     _logger.info("cxtor()");
 }
 
-QLN_VDArraySystemLocation::~QLN_VDArraySystemLocation() { _logger.info("dxtor()"); }
+QLN_VDArraySystemLocation::~QLN_VDArraySystemLocation() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystemLocation::getPath() const {
     VeldraControllerData data;
@@ -33,7 +36,8 @@ CmpiCpp::CmpiObjectPath QLN_VDArraySystemLocation::getPath() const {
     path.setHost(QLNUtil::getHostName());
     // Name is the only key of a location: the tag keeps controllers apart,
     // external ones included (their tag carries the controller's number).
-    path.addKey("Name", std::string(className) + "-" + getControllerTag(data, static_cast<int>(_controllerIndex)));
+    path.addKey("Name", std::string(className) + "-" +
+                            getControllerTag(data, static_cast<int>(_controllerIndex)));
     return path;
 }
 
@@ -57,16 +61,22 @@ CmpiCpp::CmpiInstance QLN_VDArraySystemLocation::getInstance() const {
         std::vector<std::string> names;
         std::vector<unsigned short> numbers;
         QLNPhysloc::createLocationInfoVectors(location, names, numbers);
-        CmpiCpp::CmpiArray codes = CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
-        CmpiCpp::CmpiArray texts = CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
-        for (unsigned int i = 0; i < numbers.size(); ++i) codes.setElementAt(i, numbers[i]);
-        for (unsigned int i = 0; i < names.size(); ++i) texts.setElementAt(i, names[i]);
+        CmpiCpp::CmpiArray codes =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
+        CmpiCpp::CmpiArray texts =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
+        for (unsigned int i = 0; i < numbers.size(); ++i)
+            codes.setElementAt(i, numbers[i]);
+        for (unsigned int i = 0; i < names.size(); ++i)
+            texts.setElementAt(i, names[i]);
         instance.addProperty("LocationInformation", codes);
         instance.addProperty("LocationInfoDesc", texts);
     }
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDArraySystemLocation::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDArraySystemLocation::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

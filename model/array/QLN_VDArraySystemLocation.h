@@ -11,8 +11,8 @@ namespace QLN {
 
 class QLN_VDArraySystemLocation : public CmpiManagedInstance {
 public:
-    QLN_VDArraySystemLocation(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-          VeldraController* controller);
+    QLN_VDArraySystemLocation(Logger& logger, std::string const& nameSpace,
+                              unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDArraySystemLocation() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -15,7 +15,8 @@ unsigned short const packageModuleCard = 9;
 unsigned short const removalNotApplicable = 2;
 unsigned short const removalWhenOff = 3;
 
-void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraControllerData const& data,
+void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name,
+                   VeldraControllerData const& data,
                    int (VeldraControllerData::*getter)(std::string&) const) {
     std::string value;
     if ((data.*getter)(value) == 0 && !value.empty()) {
@@ -28,7 +29,8 @@ void addTextIfRead(CmpiCpp::CmpiInstance& instance, char const* name, VeldraCont
 namespace QLN {
 
 QLN_VDPhysicalPackage::QLN_VDPhysicalPackage(Logger& logger, std::string const& nameSpace,
-                                             unsigned int controllerIndex, VeldraController* controller)
+                                             unsigned int controllerIndex,
+                                             VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -36,7 +38,9 @@ QLN_VDPhysicalPackage::QLN_VDPhysicalPackage(Logger& logger, std::string const& 
     _logger.info("cxtor()");
 }
 
-QLN_VDPhysicalPackage::~QLN_VDPhysicalPackage() { _logger.info("dxtor()"); }
+QLN_VDPhysicalPackage::~QLN_VDPhysicalPackage() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDPhysicalPackage::getPath() const {
     VeldraControllerData data;
@@ -46,7 +50,8 @@ CmpiCpp::CmpiObjectPath QLN_VDPhysicalPackage::getPath() const {
     path.setHost(QLNUtil::getHostName());
     path.addKey("CreationClassName", className);
     // The controller's name, as the array system has it, scoped by the class.
-    path.addKey("Tag", std::string(className) + "-" + getControllerName(data, static_cast<int>(_controllerIndex)));
+    path.addKey("Tag", std::string(className) + "-" +
+                           getControllerName(data, static_cast<int>(_controllerIndex)));
     return path;
 }
 
@@ -91,6 +96,8 @@ CmpiCpp::CmpiInstance QLN_VDPhysicalPackage::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDPhysicalPackage::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDPhysicalPackage::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

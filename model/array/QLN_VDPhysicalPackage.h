@@ -13,8 +13,8 @@ namespace QLN {
 
 class QLN_VDPhysicalPackage : public CmpiManagedInstance {
 public:
-    QLN_VDPhysicalPackage(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-          VeldraController* controller);
+    QLN_VDPhysicalPackage(Logger& logger, std::string const& nameSpace,
+                          unsigned int controllerIndex, VeldraController* controller);
     ~QLN_VDPhysicalPackage() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -10,8 +10,8 @@ char const* const className = "QLN_VDProduct";
 // What a key says when the controller cannot tell; a key may not be empty.
 char const* const unknownText = "UNKNOWN";
 
-std::string textOr(VeldraControllerData const& data, int (VeldraControllerData::*getter)(std::string&) const,
-                   char const* fallback) {
+std::string textOr(VeldraControllerData const& data,
+                   int (VeldraControllerData::*getter)(std::string&) const, char const* fallback) {
     std::string value;
     if ((data.*getter)(value) != 0 || value.empty()) {
         return fallback;
@@ -23,8 +23,8 @@ std::string textOr(VeldraControllerData const& data, int (VeldraControllerData::
 
 namespace QLN {
 
-QLN_VDProduct::QLN_VDProduct(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                             VeldraController* controller)
+QLN_VDProduct::QLN_VDProduct(Logger& logger, std::string const& nameSpace,
+                             unsigned int controllerIndex, VeldraController* controller)
     : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
     _logger = logger;
     _logger.appendLogSource(":");
@@ -32,7 +32,9 @@ QLN_VDProduct::QLN_VDProduct(Logger& logger, std::string const& nameSpace, unsig
     _logger.info("cxtor()");
 }
 
-QLN_VDProduct::~QLN_VDProduct() { _logger.info("dxtor()"); }
+QLN_VDProduct::~QLN_VDProduct() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_VDProduct::getPath() const {
     VeldraControllerData data;
@@ -67,6 +69,8 @@ CmpiCpp::CmpiInstance QLN_VDProduct::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_VDProduct::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_VDProduct::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

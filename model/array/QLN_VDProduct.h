@@ -12,7 +12,7 @@ namespace QLN {
 class QLN_VDProduct : public CmpiManagedInstance {
 public:
     QLN_VDProduct(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-          VeldraController* controller);
+                  VeldraController* controller);
     ~QLN_VDProduct() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;

@@ -24,7 +24,9 @@ char const* const computerSystemClass = "QLN_ComputerSystem";
 // The kind of location lives in the low nibble of the first byte; 5 is a PCI slot.
 int const pciSlotKind = 5;
 
-int locationKind(physloc_t const& location) { return location.bytes[0] & 0x0f; }
+int locationKind(physloc_t const& location) {
+    return location.bytes[0] & 0x0f;
+}
 
 CmpiCpp::CmpiObjectPath makePath(char const* className) {
     CmpiCpp::CmpiBroker broker(QLN::QLNUtil::getBroker());
@@ -120,16 +122,17 @@ CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data) {
         // The device number is printed in decimal; other tools of the family
         // read the address that way, so it stays.
         char text[64];
-        std::snprintf(text, sizeof(text), "%04x:%02x:%02d.%d", static_cast<unsigned int>(info.domain),
-                      static_cast<unsigned int>(info.bus), static_cast<int>(info.device),
-                      static_cast<int>(info.function));
+        std::snprintf(text, sizeof(text), "%04x:%02x:%02d.%d",
+                      static_cast<unsigned int>(info.domain), static_cast<unsigned int>(info.bus),
+                      static_cast<int>(info.device), static_cast<int>(info.function));
         address = text;
     }
     path.addKey("DeviceID", "MWQ:QLN_PCIDevice:" + address);
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index, VeldraLogicalDisk logicalDisk) {
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index,
+                                              VeldraLogicalDisk logicalDisk) {
     CmpiCpp::CmpiObjectPath path = makePath(storageVolumeClass);
     path.addKey("SystemCreationClassName", arraySystemClass);
     path.addKey("CreationClassName", storageVolumeClass);
@@ -138,7 +141,8 @@ CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int ind
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index, VeldraPhysicalDisk disk) {
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index,
+                                          VeldraPhysicalDisk disk) {
     CmpiCpp::CmpiObjectPath path = makePath(diskDriveClass);
     path.addKey("SystemCreationClassName", arraySystemClass);
     path.addKey("CreationClassName", diskDriveClass);
@@ -146,8 +150,8 @@ CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index, 
     std::string serial = removeWhitespace(disk.getSerialNumber());
     std::string deviceId;
     if (serial.empty()) {
-        deviceId = std::to_string(index) + "-" + std::to_string(disk.getEnclosureBoxNumber()) + ":" +
-                   std::to_string(disk.getBay());
+        deviceId = std::to_string(index) + "-" + std::to_string(disk.getEnclosureBoxNumber()) +
+                   ":" + std::to_string(disk.getBay());
     } else {
         deviceId = removeWhitespace(disk.getModel()) + "-" + serial;
     }
@@ -183,8 +187,8 @@ bool isSamePhysicalDisk(VeldraPhysicalDisk disk, std::string serial, int box, in
 }
 
 bool isPhysicalDiskAtPort(VeldraPhysicalDisk disk, std::string port, int box, int bay) {
-    return isPortInPaths(port, disk.getLastAllPhysicalPaths()) && disk.getEnclosureBoxNumber() == box &&
-           disk.getBay() == bay;
+    return isPortInPaths(port, disk.getLastAllPhysicalPaths()) &&
+           disk.getEnclosureBoxNumber() == box && disk.getBay() == bay;
 }
 
 } // namespace QLN

@@ -32,8 +32,10 @@ std::string getControllerDisplayName(VeldraControllerData const& data);
 
 CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData data, int index);
 CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data);
-CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index, VeldraLogicalDisk logicalDisk);
-CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index, VeldraPhysicalDisk disk);
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index,
+                                              VeldraLogicalDisk logicalDisk);
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index,
+                                          VeldraPhysicalDisk disk);
 CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure enclosure);
 CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure enclosure);
 

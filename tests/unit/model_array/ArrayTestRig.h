@@ -2,6 +2,7 @@
 // A scenario on disk, the simulated back end over it, and the snapshots
 // primed the way the graph factory primes them, so that the classes read
 // what they would read in the provider.
+#include "CmpiInstance.h"
 #include "Logger.h"
 #include "SimulatedControllerMRA.h"
 
@@ -16,7 +17,8 @@ class ArrayTestRig {
 public:
     // `controllers` is the YAML list under "controllers:", indented by two.
     explicit ArrayTestRig(std::string const& controllers) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "veldra-array-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "veldra-array-XXXXXX").string();
         char* made = ::mkdtemp(pattern.data());
         _dir = made ? made : pattern;
         path = (_dir / "scenario.yaml").string();
@@ -32,7 +34,8 @@ public:
 
     VeldraController* controller(int number = 1) {
         VeldraController* found = backend->getFirstData();
-        for (int i = 1; i < number && found; ++i) found = backend->getNextData(found);
+        for (int i = 1; i < number && found; ++i)
+            found = backend->getNextData(found);
         return found;
     }
 
@@ -84,3 +87,11 @@ private:
 
     std::filesystem::path _dir;
 };
+
+// The instance's property names in order, joined by blanks.
+inline std::string propertyNames(CmpiCpp::CmpiInstance const& instance) {
+    std::string names;
+    for (unsigned int i = 0; i < instance.getPropertyCount(); ++i)
+        names += (i ? " " : "") + instance.getPropertyNameAt(i).str();
+    return names;
+}
