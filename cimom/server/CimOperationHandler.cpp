@@ -143,6 +143,7 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
             throw CimProtocolError(400, "request-not-valid", "Content-Type " + *exchange.contentType + " is not XML");
         CimRequest request = CimRequest::parse(exchange.body, _settings.maxXmlDepth);
         _checkHeaders(exchange, request);
+        ServerLog::debug("request " + request.methodName() + " in " + request.nameSpace());
 
         CimXmlWriter out;
         openEnvelope(out, request.messageId());

@@ -161,7 +161,14 @@ int main(int argc, char** argv) {
     try {
         server = std::make_unique<CimHttpServer>(settings, [&handler](CimHttpExchange& e) { handler.handle(e); });
         port = server->bind();
-        instances.setHost(o.listen + ":" + std::to_string(port));
+        // Paths name the host clients reach us by; a wildcard address is no such name.
+        std::string host = o.listen;
+        if (host == "0.0.0.0" || host == "::") {
+            char name[256] = {};
+            host = gethostname(name, sizeof name - 1) == 0 ? name : "localhost";
+        }
+        if (host.find(':') != std::string::npos) host = "[" + host + "]";
+        instances.setHost(host + ":" + std::to_string(port));
     } catch (const std::exception& e) {
         std::cerr << "veldra-cimd: " << e.what() << "\n";
         providers->shutdown();

@@ -58,9 +58,9 @@ bool CimdProcess::running() const {
     return waitpid(_pid, &status, WNOHANG) == 0;
 }
 
-int CimdProcess::stop() {
+int CimdProcess::stop(int signal) {
     if (_pid <= 0) return _exitStatus;
-    kill(_pid, SIGTERM);
+    kill(_pid, signal);
     int status = 0;
     for (int i = 0; i < 200; ++i) {
         if (waitpid(_pid, &status, WNOHANG) == _pid) {

@@ -11,8 +11,9 @@ public:
     ~CimdProcess();
 
     int port() const { return _port; }
-    // Sends SIGTERM and waits; returns the exit status (or -1 on a signal death).
-    int stop();
+    // Sends the signal (SIGTERM by default) and waits; returns the exit
+    // status, or -1 when the process died of a signal or had to be killed.
+    int stop(int signal = 15);
     std::string log() const;
     bool running() const;
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <unistd.h>
 
 #include <filesystem>
@@ -113,14 +114,14 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
     EXPECT_NE(readFile(trace).find("Identify 7"), std::string::npos) << readFile(trace);
 }
 
-// Catches a provider that is never cleaned up: SIGTERM must drain, call the
-// provider's cleanup and unload it, and exit 0.
+// Catches a provider that is never cleaned up: SIGINT (as Ctrl-C in the demo)
+// must drain, call the provider's cleanup and unload it, and exit 0.
 TEST_F(Wbemcli, ShutdownUnloadsTheProvider) {
     std::filesystem::remove(trace);
     CimdProcess cimd(args());
     CommandResult r = runCommand("wbemcli ein http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test:Test_Disk");
     ASSERT_EQ(r.exitCode, 0) << r.out;
-    EXPECT_EQ(cimd.stop(), 0) << cimd.log();
+    EXPECT_EQ(cimd.stop(SIGINT), 0) << cimd.log();
     std::string traced = readFile(trace);
     EXPECT_NE(traced.find("cleanup instance"), std::string::npos) << traced;
     EXPECT_NE(traced.find("unloaded"), std::string::npos) << traced;
