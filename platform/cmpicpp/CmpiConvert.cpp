@@ -18,11 +18,15 @@ void check(CMPIStatus const& rc, char const* what) {
     }
 }
 
-template <typename T> T* made(T* object, CMPIStatus const& rc, char const* what) {
+template <typename T> T* checked(T* object, CMPIStatus const& rc, char const* what) {
     check(rc, what);
     if (!object)
         throw CmpiStatus(CMPI_RC_ERR_FAILED, std::string(what) + " gave null");
     return object;
+}
+
+template <typename T> T* kept(CmpiConvert::Made* made, T* object) {
+    return made ? made->keep(object) : object;
 }
 
 // The value argument of a CMPI setter: null for a null value; for CMPI_chars
@@ -42,28 +46,37 @@ template <typename T> void requireTable(T const* object, char const* what) {
 
 } // namespace
 
+void CmpiConvert::Made::releaseAll() noexcept {
+    while (!_releases.empty()) {
+        std::function<void()> const release = std::move(_releases.back());
+        _releases.pop_back();
+        release();
+    }
+}
+
 CMPIBrokerEncFT const* CmpiConvert::_enc(CmpiBroker const& broker) {
     if (broker.isNull() || !broker.toCMPI()->eft)
         throw CmpiStatus(CMPI_RC_ERR_INVALID_HANDLE, "no broker to make CMPI objects with");
     return broker.toCMPI()->eft;
 }
 
-CMPIString* CmpiConvert::newString(CmpiBroker const& broker, std::string const& text) {
+CMPIString* CmpiConvert::newString(CmpiBroker const& broker, std::string const& text, Made* made) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIString* s = _enc(broker)->newString(broker.toCMPI(), text.c_str(), &rc);
-    return made(s, rc, "newString");
+    return kept(made, checked(s, rc, "newString"));
 }
 
-CMPIObjectPath* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiObjectPath const& path) {
+CMPIObjectPath* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiObjectPath const& path,
+                                    Made* made) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIObjectPath* op = _enc(broker)->newObjectPath(broker.toCMPI(), path.getNameSpace().c_str(),
                                                      path.getClassName().c_str(), &rc);
-    made(op, rc, "newObjectPath");
+    kept(made, checked(op, rc, "newObjectPath"));
     if (!path.getHost().empty())
         check(op->ft->setHostname(op, path.getHost().c_str()), "setHostname");
     for (unsigned int i = 0; i < path.getKeyCount(); ++i) {
         CmpiData const& key = path.getKeyAt(i);
-        CMPIData raw = _transient(broker, key);
+        CMPIData raw = _transient(broker, key, made);
         check(op->ft->addKey(op, path.getKeyNameAt(i).c_str(), setterValue(raw, key.isNull()),
                              raw.type),
               "addKey");
@@ -71,14 +84,15 @@ CMPIObjectPath* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiObjectPath con
     return op;
 }
 
-CMPIInstance* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiInstance const& instance) {
-    CMPIObjectPath* op = toCMPI(broker, instance.getPath());
+CMPIInstance* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiInstance const& instance,
+                                  Made* made) {
+    CMPIObjectPath* op = toCMPI(broker, instance.getPath(), made);
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIInstance* ci = _enc(broker)->newInstance(broker.toCMPI(), op, &rc);
-    made(ci, rc, "newInstance");
+    kept(made, checked(ci, rc, "newInstance"));
     for (unsigned int i = 0; i < instance.getPropertyCount(); ++i) {
         CmpiData const& value = instance.getPropertyAt(i);
-        CMPIData raw = _transient(broker, value);
+        CMPIData raw = _transient(broker, value, made);
         check(ci->ft->setProperty(ci, instance.getPropertyNameAt(i).c_str(),
                                   setterValue(raw, value.isNull()), raw.type),
               "setProperty");
@@ -86,33 +100,34 @@ CMPIInstance* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiInstance const& 
     return ci;
 }
 
-CMPIArray* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiArray const& array) {
+CMPIArray* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiArray const& array, Made* made) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIArray* ca =
         _enc(broker)->newArray(broker.toCMPI(), array.size(), array.getElementType(), &rc);
-    made(ca, rc, "newArray");
+    kept(made, checked(ca, rc, "newArray"));
     for (unsigned int i = 0; i < array.size(); ++i) {
         CmpiData const& element = array.getElementAt(i);
         // A new CMPI array's elements are null already.
         if (element.isNull())
             continue;
-        CMPIData raw = toCMPI(broker, element);
+        CMPIData raw = toCMPI(broker, element, made);
         check(ca->ft->setElementAt(ca, i, &raw.value, raw.type), "setElementAt");
     }
     return ca;
 }
 
-CMPIDateTime* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiDateTime const& dateTime) {
+CMPIDateTime* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiDateTime const& dateTime,
+                                  Made* made) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIDateTime* dt = _enc(broker)->newDateTimeFromBinary(broker.toCMPI(), dateTime.microseconds(),
                                                            dateTime.isInterval() ? 1 : 0, &rc);
-    return made(dt, rc, "newDateTimeFromBinary");
+    return kept(made, checked(dt, rc, "newDateTimeFromBinary"));
 }
 
 CMPIArgs* CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiArgs const& args) {
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIArgs* ca = _enc(broker)->newArgs(broker.toCMPI(), &rc);
-    made(ca, rc, "newArgs");
+    checked(ca, rc, "newArgs");
     addArgs(broker, ca, args);
     return ca;
 }
@@ -130,34 +145,34 @@ void CmpiConvert::addArgs(CmpiBroker const& broker, CMPIArgs const* out, CmpiArg
     }
 }
 
-CMPIData CmpiConvert::_transient(CmpiBroker const& broker, CmpiData const& data) {
+CMPIData CmpiConvert::_transient(CmpiBroker const& broker, CmpiData const& data, Made* made) {
     if (data.getType() == CMPI_string || data.isNull())
         return data.toCMPI();
-    return toCMPI(broker, data);
+    return toCMPI(broker, data, made);
 }
 
-CMPIData CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiData const& data) {
+CMPIData CmpiConvert::toCMPI(CmpiBroker const& broker, CmpiData const& data, Made* made) {
     if (data.isNull())
         return data.toCMPI();
     CMPIData raw{};
     raw.type = data.getType();
     raw.state = CMPI_goodValue;
     if (data.isArray()) {
-        raw.value.array = toCMPI(broker, data.getArray());
+        raw.value.array = toCMPI(broker, data.getArray(), made);
         return raw;
     }
     switch (data.getType()) {
     case CMPI_string:
-        raw.value.string = newString(broker, data.getString());
+        raw.value.string = newString(broker, data.getString(), made);
         return raw;
     case CMPI_ref:
-        raw.value.ref = toCMPI(broker, data.getObjectPath());
+        raw.value.ref = toCMPI(broker, data.getObjectPath(), made);
         return raw;
     case CMPI_dateTime:
-        raw.value.dateTime = toCMPI(broker, data.getDateTime());
+        raw.value.dateTime = toCMPI(broker, data.getDateTime(), made);
         return raw;
     case CMPI_instance:
-        raw.value.inst = toCMPI(broker, data.getInstance());
+        raw.value.inst = toCMPI(broker, data.getInstance(), made);
         return raw;
     default:
         return data.toCMPI();

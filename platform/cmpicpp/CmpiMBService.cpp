@@ -12,7 +12,11 @@ void CmpiMBService::deliverIndication(CmpiContext const& context, CmpiName const
                                       CmpiInstance const& indication) const {
     if (!_broker || !_broker->bft || !_broker->bft->deliverIndication)
         throw CmpiStatus(CMPI_RC_ERR_INVALID_HANDLE, "no broker to deliver the indication");
-    CMPIInstance* raw = CmpiConvert::toCMPI(CmpiBroker(_broker), indication);
+    // The indication is handed over by copy; the objects made for it are
+    // given back at once, since a provider's attached thread would otherwise
+    // hold them until it detaches.
+    CmpiConvert::Made made;
+    CMPIInstance* raw = CmpiConvert::toCMPI(CmpiBroker(_broker), indication, &made);
     CMPIStatus const rc =
         _broker->bft->deliverIndication(_broker, context.toCMPI(), nameSpace.c_str(), raw);
     if (rc.rc != CMPI_RC_OK) {

@@ -271,8 +271,8 @@ TEST_F(CmpiTable, MethodCallCarriesArgumentsReturnValueAndOutArgs) {
 }
 
 // Catches: an indication that never reaches the object manager, arrives in
-// the wrong namespace or without its properties, and a failed delivery that
-// goes unreported.
+// the wrong namespace or without its properties, leaves its CMPI objects
+// behind, and a failed delivery that goes unreported.
 TEST_F(CmpiTable, DeliverIndicationGoesThroughTheBroker) {
     auto sink = std::make_shared<MemoryIndicationSink>();
     broker.setIndicationSink(sink);
@@ -281,8 +281,12 @@ TEST_F(CmpiTable, DeliverIndicationGoesThroughTheBroker) {
     CmpiInstance ind(CmpiObjectPath("root/mwq", "QLN_VeldraDiskDriveIndication"));
     ind.addProperty("AlertType", static_cast<unsigned short>(5));
     ind.addProperty("SourceInstance", CmpiData(disk("0:1")));
+    std::size_t const before = broker.registry().liveObjects();
     service.deliverIndication(CmpiContext(ctx), "root/mwq", ind);
     ASSERT_EQ(sink->count(), 1u);
+    // Nothing made for the delivery stays behind: an attached worker thread
+    // would otherwise grow by every indication until it detaches.
+    EXPECT_EQ(broker.registry().liveObjects(), before);
     MemoryIndicationSink::Delivered const got = sink->delivered()[0];
     EXPECT_EQ(got.nameSpace, "root/mwq");
     EXPECT_EQ(got.indication.className(), "QLN_VeldraDiskDriveIndication");
