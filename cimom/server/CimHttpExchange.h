@@ -9,6 +9,7 @@ struct CimHttpExchange {
     std::optional<std::string> cimOperation;
     std::optional<std::string> cimMethod;
     std::optional<std::string> cimObject;
+    std::optional<std::string> cimProtocolVersion;
     std::optional<std::string> contentType;
     std::string body;
 

@@ -99,6 +99,7 @@ void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& r
     exchange.cimOperation = headerOf(request, "CIMOperation");
     exchange.cimMethod = headerOf(request, "CIMMethod");
     exchange.cimObject = headerOf(request, "CIMObject");
+    exchange.cimProtocolVersion = headerOf(request, "CIMProtocolVersion");
     exchange.contentType = headerOf(request, "Content-Type");
     exchange.body = request.body;
     try {

@@ -139,11 +139,15 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
             throw CimProtocolError(400, "header-mismatch", "CIMMethod header missing");
         if (!exchange.cimObject || exchange.cimObject->empty())
             throw CimProtocolError(400, "header-mismatch", "CIMObject header missing");
+        if (exchange.cimProtocolVersion && exchange.cimProtocolVersion->rfind("1.", 0) != 0)
+            throw CimProtocolError(501, "unsupported-protocol-version",
+                                   "CIMProtocolVersion " + *exchange.cimProtocolVersion + " not supported");
         if (exchange.contentType && lower(*exchange.contentType).find("xml") == std::string::npos)
             throw CimProtocolError(400, "request-not-valid", "Content-Type " + *exchange.contentType + " is not XML");
         CimRequest request = CimRequest::parse(exchange.body, _settings.maxXmlDepth);
         _checkHeaders(exchange, request);
-        ServerLog::debug("request " + request.methodName() + " in " + request.nameSpace());
+        if (ServerLog::enabled(ServerLog::Level::Debug))
+            ServerLog::debug("request " + request.methodName() + " in " + request.nameSpace());
 
         CimXmlWriter out;
         openEnvelope(out, request.messageId());

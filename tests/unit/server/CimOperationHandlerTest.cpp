@@ -63,6 +63,7 @@ struct Row {
     std::string cimError;
     std::string response;  // exact body for 200, a fragment otherwise
     std::string operation = "MethodCall";
+    std::string protocolVersion = "1.0";
 };
 
 class HandlerTable : public ::testing::Test {
@@ -169,6 +170,8 @@ TEST_F(HandlerTable, RequestsAndExactResponses) {
         {"empty body", "GetClass", "root%2Fmwq", "", 400, "request-not-well-formed", "XML error"},
         {"parameter given twice", "GetClass", "root%2Fmwq", imethod("GetClass", className + className), 400,
          "request-not-valid", "given twice"},
+        {"CIMProtocolVersion 2.0", "GetClass", "root%2Fmwq", imethod("GetClass", className), 501,
+         "unsupported-protocol-version", "CIMProtocolVersion", "MethodCall", "2.0"},
     };
 
     CimOperationHandler handler(repo, CimOperationHandler::Settings{32});
@@ -178,6 +181,7 @@ TEST_F(HandlerTable, RequestsAndExactResponses) {
         if (row.operation != "-") exchange.cimOperation = row.operation;
         if (row.method != "-") exchange.cimMethod = row.method;
         if (row.object != "-") exchange.cimObject = row.object;
+        exchange.cimProtocolVersion = row.protocolVersion;
         exchange.contentType = "application/xml; charset=\"utf-8\"";
         exchange.body = row.body;
         handler.handle(exchange);
