@@ -55,20 +55,6 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
     // Headers and body go out in separate writes; without this, delayed ACKs
     // add about 40 ms to every answer on a kept-alive connection.
     _server->set_tcp_nodelay(true);
-    _server->set_pre_routing_handler([this](const httplib::Request& request, httplib::Response& response) {
-        if (request.headers.size() > _settings.maxHeaders) {
-            response.status = 431;
-            ServerLog::warn("refused request with " + std::to_string(request.headers.size()) + " headers");
-            return httplib::Server::HandlerResponse::Handled;
-        }
-        if (!_authorized(request)) {
-            response.status = 401;
-            response.set_header("WWW-Authenticate", realmHeader);
-            ServerLog::warn("refused request from " + request.remote_addr + ": bad or missing credentials");
-            return httplib::Server::HandlerResponse::Handled;
-        }
-        return httplib::Server::HandlerResponse::Unhandled;
-    });
     _server->Post("/cimom", [this](const httplib::Request& request, httplib::Response& response) {
         _serve(request, response);
     });
@@ -95,6 +81,20 @@ bool CimHttpServer::_authorized(const httplib::Request& request) const {
 }
 
 void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& response) {
+    // Checked here rather than before routing: by now the body has been read
+    // (within the size limit), so a refused request leaves a clean
+    // connection that a client may reuse with credentials.
+    if (request.headers.size() > _settings.maxHeaders) {
+        response.status = 431;
+        ServerLog::warn("refused request with " + std::to_string(request.headers.size()) + " headers");
+        return;
+    }
+    if (!_authorized(request)) {
+        response.status = 401;
+        response.set_header("WWW-Authenticate", realmHeader);
+        ServerLog::warn("refused request from " + request.remote_addr + ": bad or missing credentials");
+        return;
+    }
     CimHttpExchange exchange;
     exchange.cimOperation = headerOf(request, "CIMOperation");
     exchange.cimMethod = headerOf(request, "CIMMethod");
