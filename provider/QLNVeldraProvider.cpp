@@ -1,5 +1,6 @@
 #include "QLNVeldraProvider.h"
 
+#include "QLN_VDArraySystem.h"
 #include "CmpiStatus.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
@@ -162,26 +163,30 @@ int QLNVeldraProvider::getProviderKind() { return 2; }
 
 // No lock on purpose: methods run beside reads and beside the worker, and
 // the collection guards its own lookups.
-std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const&,
-                                                         CmpiArgs const&) {
+std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const& method,
+                                                         CmpiArgs const& in) {
     std::uint32_t const outcome = methodNotFound;
     CmpiName const className = path.getClassName();
-    if (!(className == CmpiName(diskDriveClass) || className == CmpiName(storageVolumeClass) ||
-          className == CmpiName(arraySystemClass))) {
+    bool const diskDrive = className == CmpiName(diskDriveClass);
+    bool const storageVolume = className == CmpiName(storageVolumeClass);
+    bool const arraySystem = className == CmpiName(arraySystemClass);
+    if (!(diskDrive || storageVolume || arraySystem)) {
         return outcome;
     }
     CmpiManagedInstance* instance = _managedInstances.getManagedInstance(path);
     if (instance == nullptr) {
         return outcome;
     }
-    // The graph holds no instance of the three method classes yet, so an
-    // instance found under one of their names is not of that class.
+    if (arraySystem) {
+        auto* system = dynamic_cast<QLN_VDArraySystem*>(instance);
+        if (system == nullptr) {
+            throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
+        }
+        return system->invokeMethod(method, in);
+    }
+    // Disks and volumes join the graph with the device model; until then an
+    // instance found under their names is not of their class.
     throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
-}
-
-void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
-    _logger.info("_cmpiManagedInstanceFactory");
-    _logger.info("the instance graph is not built yet: serving an empty collection");
 }
 
 std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const&) {

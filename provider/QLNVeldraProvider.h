@@ -8,7 +8,9 @@
 #include "CmpiInstanceProvider.h"
 #include "CmpiManagedInstanceCollection.h"
 #include "CmpiMethodProvider.h"
+#include "GraphEntries.h"
 #include "InternalVeldraControllerMRA.h"
+#include "VeldraCFUArray.h"
 #include "Logger.h"
 
 #include <pthread.h>
@@ -18,6 +20,11 @@
 #include <vector>
 
 namespace QLN {
+
+class QLN_VDArraySystem;
+class QLN_VDPhysicalPackage;
+class QLN_VDSCSIProtocolController;
+class QLN_VDISASSCSIProtocolEndpoint;
 
 class QLNVeldraProvider : public CmpiCpp::CmpiInstanceProvider,
                           public CmpiCpp::CmpiAssociationProvider,
@@ -85,7 +92,29 @@ private:
         std::string third;
     };
 
+    // The first instance graph, built by the constructor (graph/).
     void _cmpiManagedInstanceFactory();
+    // The device graphs of one controller: they append what they make to
+    // newInstances, and the caller hands it to the collection.
+    void _createAllEnclosureInstances(int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
+                                      QLN_VDPhysicalPackage* physicalPackage,
+                                      std::vector<VeldraEnclosure> const& enclosures, std::vector<CageEntry>& cages,
+                                      std::vector<CmpiManagedInstance*>& newInstances);
+    void _createAllPhysicalDiskInstances(int number, VeldraController* controller,
+                                         std::vector<VeldraPhysicalDisk> const& physicals,
+                                         QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
+                                         std::vector<VeldraCFUArray> const& arrays,
+                                         std::vector<CageEntry> const& cages,
+                                         std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
+                                         std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
+                                         std::vector<CmpiManagedInstance*>& newInstances);
+    void _createAllLogicalDiskInstances(int number, VeldraController* controller,
+                                        std::vector<VeldraLogicalDisk> const& logicals, QLN_VDArraySystem* arraySystem,
+                                        QLN_VDSCSIProtocolController* protocolController,
+                                        std::vector<PoolEntry> const& pools, std::vector<ExtentEntry> const& sparePaths,
+                                        std::vector<ExtentEntry> const& nonSparePaths,
+                                        std::vector<CmpiManagedInstance*>& newInstances);
+    void _createViewClassInstances(int number, VeldraController* controller);
     std::uint32_t _backgroundWorker(CmpiCpp::CmpiContext const& context);
     std::uint32_t _invokeMethodOnInstance(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& method,
                                           CmpiCpp::CmpiArgs const& in);
