@@ -2,15 +2,17 @@
 # Load check of veldra-cimd from a second process: starts the server on a
 # free port with a scenario, finds the class with the most instances, and
 # runs wrk against GetInstance of one of them and EnumerateInstances of all.
+# The default 20 s per operation spans the provider's periodic worker pass
+# (first after 18 s, then every 30 s), so requests meet a pass in flight.
 #
 #   bench/cimom/load.sh [--build DIR] [--scenario FILE] [--registration FILE]
-#                       [--duration 10s] [--connections 8] [--threads 2]
+#                       [--duration 20s] [--connections 8] [--threads 2]
 set -euo pipefail
 root="$(cd "$(dirname "$0")/../.." && pwd)"
 build="$root/build"
 scenario=""
 registration="$root/data/registration/veldra-cimd.yaml"
-duration=10s
+duration=20s
 connections=8
 threads=2
 while [ $# -gt 0 ]; do
