@@ -849,7 +849,14 @@ const CMPIBrokerMemFT memTable = {CMPICurrentVersion, mark,           releaseMar
 
 } // namespace
 
-Broker::Broker() : _cmpi{this, &mainTable, &encTable, &extTable, &memTable} {}
+Broker::Broker()
+    : _mainTable(mainTable),
+      _encTable(encTable), _cmpi{this, &_mainTable, &_encTable, &extTable, &memTable} {}
+
+void Broker::reportVersions(unsigned int brokerVersion, int encapsulatedVersion) {
+    _mainTable.brokerVersion = brokerVersion;
+    _encTable.ftVersion = encapsulatedVersion;
+}
 
 Broker::~Broker() {
     attachedArenas.erase(std::remove_if(attachedArenas.begin(), attachedArenas.end(),
@@ -858,7 +865,11 @@ Broker::~Broker() {
 }
 
 Broker* Broker::from(const CMPIBroker* mb) {
-    return (mb != nullptr && mb->bft == &mainTable) ? static_cast<Broker*>(mb->hdl) : nullptr;
+    // Each broker has its own copy of the table; its functions are what identify it.
+    return (mb != nullptr && mb->bft != nullptr &&
+            mb->bft->prepareAttachThread == mainTable.prepareAttachThread)
+               ? static_cast<Broker*>(mb->hdl)
+               : nullptr;
 }
 
 void Broker::setUpcalls(BrokerUpcalls* upcalls) {

@@ -33,6 +33,12 @@ public:
     Broker& operator=(const Broker&) = delete;
 
     const CMPIBroker* cmpi() const { return &_cmpi; }
+
+    // The versions this broker reports: CMPI 2.0 (200) in both by default.
+    // Lower ones let tests stand in for an older object manager (SFCB 1.3
+    // reports a broker version of 0 and an encapsulated table version of 1).
+    // Set them before any provider sees the broker.
+    void reportVersions(unsigned int brokerVersion, int encapsulatedVersion);
     ObjectRegistry& registry() { return _registry; }
 
     void setUpcalls(BrokerUpcalls* upcalls);
@@ -54,6 +60,8 @@ public:
     void log(int severity, const std::string& text);
 
 private:
+    CMPIBrokerFT _mainTable;
+    CMPIBrokerEncFT _encTable;
     CMPIBroker _cmpi;
     ObjectRegistry _registry;
     mutable std::mutex _mutex;

@@ -92,6 +92,7 @@ ProviderManager::ProviderManager(Options options)
     if (_options.log) {
         _broker->setLog(_options.log);
     }
+    _broker->reportVersions(_options.brokerVersion, _options.encapsulatedVersion);
     _sink = _options.indicationSink;
     if (!_sink) {
         Broker* broker = _broker.get();

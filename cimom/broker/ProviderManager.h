@@ -41,6 +41,9 @@ public:
         std::shared_ptr<IndicationSink> indicationSink;
         Broker::ClassIsA classIsA;
         Broker::LogFunction log;
+        // Versions the broker reports (see Broker::reportVersions).
+        unsigned int brokerVersion = CMPICurrentVersion;
+        int encapsulatedVersion = CMPICurrentVersion;
     };
 
     ProviderManager();

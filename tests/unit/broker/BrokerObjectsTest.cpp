@@ -207,3 +207,21 @@ TEST_F(BrokerObjectsTest, TypeQueriesClassHierarchyAndMessages) {
     d = ctx->ft->getEntry(ctx, CMPIInitNameSpace, &rc);
     EXPECT_EQ(str(d.value.string), "root/test");
 }
+
+TEST(BrokerVersions, AnOlderObjectManagerCanBeStoodInFor) {
+    Broker old;
+    Broker current;
+    old.reportVersions(0, 1); // what SFCB 1.3 reports
+    const CMPIBroker* mb = old.cmpi();
+    EXPECT_EQ(mb->bft->brokerVersion, 0u);
+    EXPECT_EQ(mb->eft->ftVersion, 1);
+    EXPECT_EQ(current.cmpi()->bft->brokerVersion, static_cast<unsigned>(CMPICurrentVersion));
+    EXPECT_EQ(current.cmpi()->eft->ftVersion, CMPICurrentVersion);
+    // Still recognised as ours, and each broker keeps its own objects.
+    ObjectRegistry::Scope request(old.registry());
+    CMPIStatus rc{CMPI_RC_ERR_FAILED, nullptr};
+    EXPECT_NE(mb->eft->newString(mb, "x", &rc), nullptr);
+    EXPECT_EQ(rc.rc, CMPI_RC_OK);
+    EXPECT_EQ(old.registry().liveObjects(), 1u);
+    EXPECT_EQ(current.registry().liveObjects(), 0u);
+}
