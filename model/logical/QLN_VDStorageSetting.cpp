@@ -16,8 +16,8 @@ char const* const notFoundText =
 // vanished between enumeration and fetch from an ordinary miss.
 int const logicalDiskGoneCode = 100;
 
-// Copies of the data kept: 1 for parity and single-copy layouts, 2 for the
-// mirrors; tolerances beyond the known ones are not described.
+// Copies of the data that each known tolerance keeps; a tolerance beyond the
+// known ones is not described rather than guessed.
 std::optional<unsigned short> dataRedundancyOf(unsigned int tolerance) {
     switch (tolerance) {
     case 1:
