@@ -176,6 +176,12 @@ TEST_F(ProviderManagerTest, MethodsReturnValueOutArgsAndUpcalls) {
     // The provider counts disks by calling back into the broker mid-request.
     r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
     EXPECT_EQ(r.returnValue, CimValue::uint32(3));
+    r = _pm->invokeMethod(diskPath("d2"), "RelayIdentify", {{"Duration", CimValue::uint32(4)}});
+    EXPECT_EQ(r.returnValue, CimValue::uint32(5));
+    std::string msg;
+    EXPECT_EQ(codeOf([&] { _pm->invokeMethod(diskPath("d2"), "RelayIdentify", {}); }, &msg),
+              CMPI_RC_ERR_INVALID_PARAMETER);
+    EXPECT_EQ(msg, "Identify needs a uint32 Duration");
     // Nothing made for those requests outlives them.
     EXPECT_EQ(_pm->broker().registry().liveObjects(), 0u);
     EXPECT_EQ(_pm->broker().registry().liveBlocks(), 0u);

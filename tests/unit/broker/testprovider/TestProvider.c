@@ -15,6 +15,8 @@
  *                 a thread of its own (prepareAttachThread, attachThread,
  *                 deliverIndication, detachThread) and returns 0.
  *   CountDisks()  counts Test_Disk through a broker up-call.
+ *   RelayIdentify(uint32 Duration) calls Identify through the broker's
+ *                 invokeMethod up-call and returns its result plus one.
  *   Anything else answers CMPI_RC_ERR_METHOD_NOT_FOUND.
  *
  * Provider names: "TestProvider" works. "TestProviderNull" makes every
@@ -443,6 +445,18 @@ static CMPIStatus invokeMethod(CMPIMethodMI* mi, const CMPIContext* ctx, const C
             return status(job.result, "delivery failed");
         }
         ret.uint32 = 0;
+    } else if (sameName(method, "RelayIdentify")) {
+        /* Identify again through the broker, handing on our own arguments. */
+        CMPIArgs* relayOut = broker->eft->newArgs(broker, NULL);
+        CMPIData r = broker->bft->invokeMethod(broker, ctx, op, "Identify", in, relayOut, &rc);
+        if (rc.rc != CMPI_RC_OK) {
+            return rc;
+        }
+        CMPIData echo = relayOut->ft->getArg(relayOut, "Echo", &rc);
+        if (rc.rc != CMPI_RC_OK || r.type != CMPI_uint32 || echo.value.uint32 != r.value.uint32) {
+            return status(CMPI_RC_ERR_FAILED, "relayed Identify lost its out argument");
+        }
+        ret.uint32 = r.value.uint32 + 1;
     } else if (sameName(method, "CountDisks")) {
         const char* ns = chars(op->ft->getNameSpace(op, NULL));
         CMPIObjectPath* cls = broker->eft->newObjectPath(broker, ns, DISK_CLASS, NULL);
