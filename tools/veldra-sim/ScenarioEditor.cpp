@@ -10,11 +10,29 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <regex>
 #include <sstream>
 
 namespace {
 YAML::Node const constGet(YAML::Node const& node, char const* key) { return node[key]; }
+
+bool allDigits(std::string const& text) {
+    return !text.empty() && text.size() < 10 && text.find_first_not_of("0123456789") == std::string::npos;
+}
+
+// "1:2:7" -> numbers, when the text is exactly `count` numbers joined by colons.
+bool numbers(std::string const& text, size_t count, std::vector<long long>& out) {
+    out.clear();
+    size_t start = 0;
+    for (;;) {
+        size_t colon = text.find(':', start);
+        std::string part = text.substr(start, colon == std::string::npos ? std::string::npos : colon - start);
+        if (!allDigits(part)) return false;
+        out.push_back(std::stoll(part));
+        if (colon == std::string::npos) break;
+        start = colon + 1;
+    }
+    return out.size() == count;
+}
 } // namespace
 
 ScenarioEditor::ScenarioEditor(std::string path) : _path(std::move(path)) {
@@ -77,18 +95,17 @@ unsigned ScenarioEditor::nextDiskId(int number) {
 }
 
 ScenarioEditor::Place ScenarioEditor::findDisk(std::string const& name, std::initializer_list<char const*> lists) {
-    static std::regex const location(R"((\d+):(\d+):(\d+))");
-    std::smatch m;
+    std::vector<long long> m;
     std::vector<Place> found;
-    bool byPlace = std::regex_match(name, m, location);
+    bool byPlace = numbers(name, 3, m);
     for (int c = 1; c <= controllerCount(); ++c) {
-        if (byPlace && c != std::stoi(m[1])) continue;
+        if (byPlace && c != m[0]) continue;
         for (char const* key : lists) {
             YAML::Node disks = _view(c, key);
             for (size_t i = 0; i < disks.size(); ++i) {
                 YAML::Node const d = disks[i];
-                bool match = byPlace ? toInteger(constGet(d, "enclosureBoxNumber"), 0) == std::stoll(m[2]) &&
-                                           toInteger(constGet(d, "bay"), 0) == std::stoll(m[3])
+                bool match = byPlace ? toInteger(constGet(d, "enclosureBoxNumber"), 0) == m[1] &&
+                                           toInteger(constGet(d, "bay"), 0) == m[2]
                                      : ScenarioEditor::isScalar(constGet(d, "serialNumber")) && d["serialNumber"].Scalar() == name;
                 if (match) found.push_back({c, key, i, disks[i]});
             }
@@ -104,26 +121,26 @@ ScenarioEditor::Place ScenarioEditor::findDisk(std::string const& name, std::ini
 }
 
 ScenarioEditor::Place ScenarioEditor::findEnclosure(std::string const& name) {
-    static std::regex const pattern(R"((\d+):(\d+))");
-    std::smatch m;
-    if (!std::regex_match(name, m, pattern))
+    std::vector<long long> m;
+    if (!numbers(name, 2, m))
         throw SimCommandError("'" + name + "' is no enclosure: name it as controller:box, e.g. 1:2");
-    int c = std::stoi(m[1]);
+    int c = static_cast<int>(m[0]);
     YAML::Node enclosures = _view(c, "enclosures");
     for (size_t i = 0; i < enclosures.size(); ++i)
-        if (toInteger(constGet(enclosures[i], "enclosureBoxNumber"), 0) == std::stoll(m[2]))
+        if (toInteger(constGet(enclosures[i], "enclosureBoxNumber"), 0) == m[1])
             return {c, "enclosures", i, enclosures[i]};
-    throw SimCommandError("controller " + m[1].str() + " has no enclosure with box number " + m[2].str());
+    throw SimCommandError("controller " + std::to_string(c) + " has no enclosure with box number " +
+                          std::to_string(m[1]));
 }
 
 ScenarioEditor::Place ScenarioEditor::findVolume(std::string const& name) {
-    static std::regex const pattern(R"((\d+):(.+))");
-    std::smatch m;
-    bool scoped = std::regex_match(name, m, pattern);
-    std::string serial = scoped ? m[2].str() : name;
+    size_t colon = name.find(':');
+    bool scoped = colon != std::string::npos && allDigits(name.substr(0, colon)) && colon + 1 < name.size();
+    long long scope = scoped ? std::stoll(name.substr(0, colon)) : 0;
+    std::string serial = scoped ? name.substr(colon + 1) : name;
     std::vector<Place> found;
     for (int c = 1; c <= controllerCount(); ++c) {
-        if (scoped && c != std::stoi(m[1])) continue;
+        if (scoped && c != scope) continue;
         YAML::Node volumes = _view(c, "logicalDisks");
         for (size_t i = 0; i < volumes.size(); ++i) {
             YAML::Node const v = volumes[i];

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
-#include <regex>
 
 namespace {
 
@@ -390,13 +389,12 @@ void SimCommands::deleteVolume(std::string const& name) {
 }
 
 void SimCommands::setField(std::string const& target, std::string const& field, std::string const& value) {
-    static std::regex const pattern(R"((controller|enclosure|disk|volume):(.+))");
-    std::smatch m;
-    if (!std::regex_match(target, m, pattern))
+    size_t colon = target.find(':');
+    std::string kind = target.substr(0, colon), name = colon == std::string::npos ? "" : target.substr(colon + 1);
+    if (name.empty() || (kind != "controller" && kind != "enclosure" && kind != "disk" && kind != "volume"))
         throw SimCommandError("'" + target +
                               "' is no target: use controller:N, enclosure:C:BOX, disk:SERIAL, disk:C:BOX:BAY or "
                               "volume:SERIAL");
-    std::string kind = m[1], name = m[2];
     YAML::Node node;
     if (kind == "controller") {
         char* end = nullptr;
