@@ -5,7 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <stdexcept>
+#include <thread>
+#include <vector>
 
 using namespace CmpiCpp;
 
@@ -118,4 +121,29 @@ TEST(CmpiProviderLife, FilterOperationsReceiveTheirArguments) {
     EXPECT_EQ(p.calls, (std::vector<std::string>{"authorizeFilter", "activateFilter",
                                                  "deActivateFilter", "mustPoll"}));
     EXPECT_EQ(mi->ft->ftVersion, CMPICurrentVersion);
+}
+
+// Catches: a count that is not atomic, so that cleanups arriving on several
+// threads at once delete the provider twice or never.
+TEST(CmpiProviderLife, ConcurrentCleanupsDeleteExactlyOnce) {
+    for (int round = 0; round < 50; ++round) {
+        Life life;
+        auto* p = new TestProvider(nullptr, &life.destroyed, &life.cleanups);
+        constexpr int kThreads = 8;
+        for (int i = 0; i < kThreads; ++i)
+            p->incRefcount();
+        CMPIMethodMI* mi = p->getMethodMI();
+        std::atomic<int> failures{0};
+        std::vector<std::thread> threads;
+        for (int i = 0; i < kThreads; ++i)
+            threads.emplace_back([mi, &failures] {
+                if (mi->ft->cleanup(mi, nullptr, 1).rc != CMPI_RC_OK)
+                    ++failures;
+            });
+        for (auto& t : threads)
+            t.join();
+        EXPECT_EQ(failures.load(), 0);
+        EXPECT_TRUE(life.destroyed);
+        EXPECT_EQ(life.cleanups, 1);
+    }
 }
