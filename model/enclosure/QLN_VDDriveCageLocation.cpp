@@ -1,0 +1,86 @@
+#include "QLN_VDDriveCageLocation.h"
+
+#include "CmpiBroker.h"
+#include "EnclosureLocationInfo.h"
+#include "EnclosureSnapshot.h"
+#include "QLNUtil.h"
+
+namespace {
+char const* const className = "QLN_VDDriveCageLocation";
+char const* const missingText =
+    "getInstance, findEnclosureInVector could not find drive based on serial #";
+char const* const cageText = "Drive Cage";
+// CIM_Location tag description: position within the enclosure.
+unsigned short const tagDescription = 22;
+} // namespace
+
+namespace QLN {
+
+QLN_VDDriveCageLocation::QLN_VDDriveCageLocation(Logger& logger, std::string const& nameSpace,
+                                                 unsigned int controllerIndex,
+                                                 VeldraEnclosure const& enclosure,
+                                                 VeldraController* controller)
+    : _namespace(nameSpace), _boxNumber(enclosure.getBoxNumber()),
+      _enclosureBoxNumber(static_cast<int>(enclosure.getEnclosureBoxNumber())),
+      _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDDriveCageLocation::~QLN_VDDriveCageLocation() {
+    _logger.info("dxtor()");
+}
+
+std::optional<std::string> QLN_VDDriveCageLocation::duplexTagOf(int duplexLocation) {
+    switch (duplexLocation) {
+    case 0:
+        return "Non Duplex";
+    case 1:
+        return "Duplex Top";
+    case 2:
+        return "Duplex Bottom";
+    }
+    return std::nullopt;
+}
+
+std::string QLN_VDDriveCageLocation::_name() const {
+    // Name is the only key of a location; it carries the enclosure box
+    // number so that every cage location has a path of its own.
+    return std::string(className) + "-" +
+           EnclosureSnapshot::position(_controllerIndex, static_cast<u32>(_enclosureBoxNumber));
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDDriveCageLocation::getPath() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("Name", _name());
+    return path;
+}
+
+CmpiCpp::CmpiInstance QLN_VDDriveCageLocation::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    VeldraEnclosure const enclosure = EnclosureSnapshot::find(
+        _controller, static_cast<u32>(_enclosureBoxNumber), _logger, missingText);
+
+    instance.addProperty("Name", _name());
+    instance.addProperty("PhysicalPosition", std::to_string(_controllerIndex) + "-" +
+                                                 std::to_string(enclosure.getBoxNumber()));
+    instance.addProperty("Caption", cageText);
+    instance.addProperty("Description", cageText);
+    instance.addProperty("ElementName", cageText);
+    if (auto tag = duplexTagOf(enclosure.getDuplexLocation()))
+        instance.addProperty("ElementLocationTag", *tag);
+    instance.addProperty("ElementLocationTagDesc", tagDescription);
+    EnclosureLocationInfo::add(instance, _controller, enclosure.getBoxNumber());
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDDriveCageLocation::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
+
+} // namespace QLN

@@ -1,0 +1,99 @@
+#include "QLN_VDEnclosureFirmware.h"
+
+#include "CmpiBroker.h"
+#include "EnclosureSnapshot.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDEnclosureFirmware";
+char const* const missingText = "getInstance, findEnclosureInVector could not find enclosure";
+char const* const firmwareText = "Storage Enclosure Processor Firmware";
+// CIM_SoftwareIdentity.Classifications: 10 is "Firmware".
+unsigned short const firmwareClassification = 10;
+} // namespace
+
+namespace QLN {
+
+QLN_VDEnclosureFirmware::QLN_VDEnclosureFirmware(Logger& logger, std::string const& nameSpace,
+                                                 unsigned int controllerIndex,
+                                                 VeldraEnclosure const& enclosure,
+                                                 VeldraController* controller)
+    : _namespace(nameSpace), _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()),
+      _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDEnclosureFirmware::~QLN_VDEnclosureFirmware() {
+    _logger.info("dxtor()");
+}
+
+std::string QLN_VDEnclosureFirmware::_instanceId() const {
+    return std::string("MWQ:") + className + "-" +
+           EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber);
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDEnclosureFirmware::getPath() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("InstanceID", _instanceId());
+    return path;
+}
+
+CmpiCpp::CmpiInstance QLN_VDEnclosureFirmware::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    VeldraEnclosure const enclosure =
+        EnclosureSnapshot::find(_controller, _enclosureBoxNumber, _logger, missingText);
+
+    instance.addProperty("InstanceID", _instanceId());
+    instance.addProperty("Caption", firmwareText);
+    instance.addProperty("Name", firmwareText);
+    instance.addProperty("Description", firmwareText);
+    instance.addProperty("IsEntity", true);
+    std::string const manufacturer = enclosure.getManufacturer();
+    if (!manufacturer.empty())
+        instance.addProperty("Manufacturer", manufacturer);
+    instance.addProperty("Classifications", VDArrayValues::uint16s({firmwareClassification}));
+    instance.addProperty("ClassificationDescriptions", VDArrayValues::strings({firmwareText}));
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Array Firmware Status: OK"}));
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+
+    std::string const version = enclosure.getFWVersion();
+    if (!version.empty()) {
+        instance.addProperty("VersionString", version);
+        // A version the parser does not accept still shows as text; the
+        // numbers appear only when they are trustworthy.
+        if (QLNUtil::validateVersion(version)) {
+            unsigned short major = 0;
+            unsigned short minor = 0;
+            if (QLNUtil::stringVersionToMajor(version, major))
+                instance.addProperty("MajorVersion", major);
+            if (QLNUtil::stringVersionToMinor(version, minor))
+                instance.addProperty("MinorVersion", minor);
+        }
+    }
+
+    std::string const model = enclosure.getModel();
+    if (!model.empty()) {
+        instance.addProperty("ElementName", model);
+        instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
+        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily",
+                                                                         "MWQ:SoftwareCategory"}));
+        instance.addProperty("IdentityInfoValue",
+                             VDArrayValues::strings({"MWQ:" + model, "Storage Device"}));
+    }
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDEnclosureFirmware::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
+
+} // namespace QLN

@@ -1,0 +1,87 @@
+#include "QLN_VDStorageEnclosureLocation.h"
+
+#include "CmpiBroker.h"
+#include "EnclosureLocationInfo.h"
+#include "EnclosureSnapshot.h"
+#include "QLNUtil.h"
+#include "VeldraStorageFunctions.h"
+
+namespace {
+char const* const className = "QLN_VDStorageEnclosureLocation";
+// Speaks of a drive although this is an enclosure; clients and log scanners
+// match the text as it is.
+char const* const missingText =
+    "getInstance, findEnclosureInVector could not find drive based on serial #";
+// CIM_Location tag description: location relative to the controller.
+unsigned short const tagDescription = 19;
+} // namespace
+
+namespace QLN {
+
+QLN_VDStorageEnclosureLocation::QLN_VDStorageEnclosureLocation(Logger& logger,
+                                                               std::string const& nameSpace,
+                                                               unsigned int controllerIndex,
+                                                               VeldraEnclosure const& enclosure,
+                                                               VeldraController* controller)
+    : _namespace(nameSpace), _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()),
+      _controllerIndex(controllerIndex), _controller(controller) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDStorageEnclosureLocation::~QLN_VDStorageEnclosureLocation() {
+    _logger.info("dxtor()");
+}
+
+std::string QLN_VDStorageEnclosureLocation::locationTagOf(std::string const& portText) {
+    // Internal ports end in I and external ones in E (or X on older
+    // controllers); I is asked first, so a box on both counts as internal.
+    if (portText.find('I') != std::string::npos)
+        return "Internal";
+    if (portText.find_first_of("EX") != std::string::npos)
+        return "External";
+    return "Unknown";
+}
+
+std::string QLN_VDStorageEnclosureLocation::_name() const {
+    // Name is the only key of a location, so it carries the enclosure's
+    // position as well: the class name alone would give every enclosure
+    // location the same path.
+    return std::string(className) + "-" +
+           EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber);
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureLocation::getPath() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("Name", _name());
+    return path;
+}
+
+CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    VeldraEnclosure const enclosure =
+        EnclosureSnapshot::find(_controller, _enclosureBoxNumber, _logger, missingText);
+    std::string const userText = pathsToUserStr(enclosure.getPaths(), -1);
+
+    instance.addProperty("Name", _name());
+    instance.addProperty("PhysicalPosition",
+                         EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+    instance.addProperty("Caption", userText);
+    instance.addProperty("Description", userText);
+    instance.addProperty("ElementName", userText);
+    instance.addProperty("ElementLocationTag", locationTagOf(pathsToPortStr(enclosure.getPaths())));
+    instance.addProperty("ElementLocationTagDesc", tagDescription);
+    EnclosureLocationInfo::add(instance, _controller, enclosure.getBoxNumber());
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDStorageEnclosureLocation::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
+
+} // namespace QLN
