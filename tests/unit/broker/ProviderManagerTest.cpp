@@ -252,6 +252,38 @@ TEST_F(ProviderManagerTest, ConcurrentRequestsShareTheProvider) {
     EXPECT_EQ(_pm->broker().registry().liveObjects(), 0u);
 }
 
+TEST_F(ProviderManagerTest, ShutdownDuringRequestsRefusesNewOnesAndWaitsForOthers) {
+    std::atomic<int> served{0};
+    std::vector<std::thread> threads;
+    std::vector<CMPIrc> endedWith(4, CMPI_RC_OK);
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&, t] {
+            while (true) {
+                try {
+                    const auto r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
+                    if (r.returnValue == CimValue::uint32(3)) {
+                        ++served;
+                    }
+                } catch (const CimError& e) {
+                    endedWith[t] = e.code();
+                    return;
+                }
+            }
+        });
+    }
+    while (served.load() < 20) {
+        std::this_thread::yield();
+    }
+    _pm->shutdown();
+    for (auto& th : threads) {
+        th.join();
+    }
+    for (CMPIrc rc : endedWith) {
+        EXPECT_EQ(rc, CMPI_RC_ERR_FAILED);
+    }
+    EXPECT_NE(trace().find("unloaded"), std::string::npos);
+}
+
 namespace {
 
 std::string loadError(const std::string& yaml,
