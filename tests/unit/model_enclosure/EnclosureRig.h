@@ -1,0 +1,60 @@
+#pragma once
+// The array tests' scenario rig, with the enclosures' routes stamped on the
+// stored records as the graph factory stamps them, and the look-up of one
+// stored enclosure by its box number.
+#include "ArrayTestRig.h"
+#include "CmpiStatus.h"
+#include "VeldraStorageFunctions.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+class EnclosureRig : public ArrayTestRig {
+public:
+    // `physloc` and `enclosures` are YAML flow texts for controller 1.
+    EnclosureRig(std::string const& enclosures, std::string const& physloc = "[5, 3]")
+        : ArrayTestRig(yaml(enclosures, physloc)) {
+        stamp();
+    }
+
+    static std::string yaml(std::string const& enclosures, std::string const& physloc = "[5, 3]") {
+        return "  - serialNumber: PENC0001\n    physloc: " + physloc +
+               "\n    enclosures: [" + enclosures + "]\n";
+    }
+
+    void replace(std::string const& enclosures) {
+        rewrite(yaml(enclosures));
+        stamp();
+    }
+
+    VeldraEnclosure stored(u32 enclosureBoxNumber) {
+        std::vector<VeldraEnclosure> all = controller()->getLastAllEnclosures();
+        int at = findEnclosureInVector(enclosureBoxNumber, all);
+        EXPECT_GE(at, 0) << "no enclosure " << enclosureBoxNumber << " in the snapshot";
+        return at < 0 ? VeldraEnclosure() : all[static_cast<size_t>(at)];
+    }
+
+private:
+    void stamp() {
+        std::vector<VeldraEnclosure> enclosures = controller()->getAllEnclosures();
+        for (VeldraEnclosure& enclosure : enclosures) {
+            std::vector<VeldraPhysicalPath> paths = enclosure.getPaths();
+            enclosure.setLastAllPhysicalPaths(paths);
+        }
+        controller()->setLastAllEnclosures(enclosures);
+    }
+};
+
+// Calls getInstance and returns the status it threw (code and text), or a
+// note that it threw nothing.
+template <typename Instance>
+std::string thrownBy(Instance const& instance) {
+    try {
+        instance.getInstance();
+    } catch (CmpiCpp::CmpiStatus const& status) {
+        return std::to_string(static_cast<int>(status.rc())) + " " + status.msg();
+    }
+    return "nothing thrown";
+}
