@@ -60,14 +60,8 @@ TEST(DriveCageLocation, DuplexTagPositionAndLocationParts) {
     EXPECT_EQ(first.getProperty("PhysicalPosition").getString(), "1-5");
     EXPECT_EQ(first.getProperty("ElementName").getString(), "Drive Cage");
     EXPECT_EQ(first.getProperty("ElementLocationTagDesc").getUint16(), 22);
-    CmpiCpp::CmpiArray const& codes = first.getProperty("LocationInformation").getArray();
-    CmpiCpp::CmpiArray const& names = first.getProperty("LocationInfoDesc").getArray();
-    ASSERT_EQ(codes.size(), 2u);
-    ASSERT_EQ(names.size(), 2u);
-    EXPECT_EQ(names.getElementAt(0).getString(), "PCI Slot");
-    EXPECT_EQ(codes.getElementAt(0).getUint16(), 3);
-    EXPECT_EQ(names.getElementAt(1).getString(), "Box");
-    EXPECT_EQ(codes.getElementAt(1).getUint16(), 5);
+    EXPECT_EQ(strings(first, "LocationInfoDesc"), (std::vector<std::string>{"PCI Slot", "Box"}));
+    EXPECT_EQ(uint16s(first, "LocationInformation"), (std::vector<unsigned short>{3, 5}));
 
     EXPECT_EQ(locations[1]->getInstance().getProperty("ElementLocationTag").getString(),
               "Duplex Bottom");

@@ -47,6 +47,23 @@ private:
     }
 };
 
+// The elements of an array property.
+inline std::vector<unsigned short> uint16s(CmpiCpp::CmpiInstance const& instance, char const* name) {
+    std::vector<unsigned short> values;
+    CmpiCpp::CmpiArray const& array = instance.getProperty(name).getArray();
+    for (unsigned int i = 0; i < array.size(); ++i)
+        values.push_back(array.getElementAt(i).getUint16());
+    return values;
+}
+
+inline std::vector<std::string> strings(CmpiCpp::CmpiInstance const& instance, char const* name) {
+    std::vector<std::string> values;
+    CmpiCpp::CmpiArray const& array = instance.getProperty(name).getArray();
+    for (unsigned int i = 0; i < array.size(); ++i)
+        values.push_back(array.getElementAt(i).getString());
+    return values;
+}
+
 // Calls getInstance and returns the status it threw (code and text), or a
 // note that it threw nothing.
 template <typename Instance>
