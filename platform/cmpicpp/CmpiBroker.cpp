@@ -19,18 +19,27 @@ void check(CMPIStatus const& rc, char const* what) {
 } // namespace
 
 CmpiContext CmpiBroker::prepareAttachThread(CmpiContext const& context) const {
-    CMPIContext* prepared = table(_broker)->prepareAttachThread(_broker, context.toCMPI());
+    CMPIBrokerFT const* ft = table(_broker);
+    if (!ft->prepareAttachThread)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no prepareAttachThread");
+    CMPIContext* prepared = ft->prepareAttachThread(_broker, context.toCMPI());
     if (!prepared)
         throw CmpiStatus(CMPI_RC_ERR_FAILED, "prepareAttachThread gave no context");
     return CmpiContext(prepared);
 }
 
 void CmpiBroker::attachThread(CmpiContext const& context) const {
-    check(table(_broker)->attachThread(_broker, context.toCMPI()), "attachThread failed");
+    CMPIBrokerFT const* ft = table(_broker);
+    if (!ft->attachThread)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no attachThread");
+    check(ft->attachThread(_broker, context.toCMPI()), "attachThread failed");
 }
 
 void CmpiBroker::detachThread(CmpiContext const& context) const {
-    check(table(_broker)->detachThread(_broker, context.toCMPI()), "detachThread failed");
+    CMPIBrokerFT const* ft = table(_broker);
+    if (!ft->detachThread)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no detachThread");
+    check(ft->detachThread(_broker, context.toCMPI()), "detachThread failed");
 }
 
 } // namespace CmpiCpp
