@@ -1,0 +1,59 @@
+#include "DiskPathDevice.h"
+
+#include "CmpiBroker.h"
+#include "PhysicalDiskKey.h"
+#include "QLNUtil.h"
+
+namespace {
+char const* const arraySystemClass = "QLN_VDArraySystem";
+} // namespace
+
+namespace QLN {
+
+DiskPathDevice::DiskPathDevice(Logger& logger, std::string const& nameSpace, char const* className,
+                               unsigned int controllerIndex, VeldraPhysicalDisk const& disk,
+                               VeldraPhysicalPath const& path, int pathIndex,
+                               VeldraController* controller)
+    : _namespace(nameSpace), _className(className), _controllerIndex(controllerIndex),
+      _pathIndex(pathIndex), _controller(controller), _serialNumber(disk.getSerialNumber()),
+      _port(path.getPort()), _model(disk.getModel()), _boxNumber(disk.getEnclosureBoxNumber()),
+      _bay(disk.getBay()) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+DiskPathDevice::~DiskPathDevice() {
+    _logger.info("dxtor()");
+}
+
+CmpiCpp::CmpiName DiskPathDevice::getClassName() const {
+    return CmpiCpp::CmpiName(_className);
+}
+
+std::string DiskPathDevice::_keyValue() const {
+    return PhysicalDiskKey::name(_serialNumber, _model, _port + ":", _boxNumber, _bay) + ":" +
+           std::to_string(_pathIndex);
+}
+
+CmpiCpp::CmpiObjectPath DiskPathDevice::_path(char const* lastKeyName) const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("CreationClassName", _className);
+    path.addKey("SystemCreationClassName", arraySystemClass);
+    path.addKey("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
+    path.addKey(lastKeyName, _keyValue());
+    return path;
+}
+
+void DiskPathDevice::_addKeyProperties(CmpiCpp::CmpiInstance& instance,
+                                       char const* lastKeyName) const {
+    instance.addProperty("CreationClassName", _className);
+    instance.addProperty("SystemCreationClassName", arraySystemClass);
+    instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
+    instance.addProperty(lastKeyName, _keyValue());
+}
+
+} // namespace QLN

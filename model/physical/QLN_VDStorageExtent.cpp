@@ -1,0 +1,87 @@
+#include "QLN_VDStorageExtent.h"
+
+#include "CmpiBroker.h"
+#include "DiskStatusRow.h"
+#include "PhysicalDiskKey.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+#include "VeldraStorageFunctions.h"
+
+namespace {
+char const* const className = "QLN_VDStorageExtent";
+char const* const arraySystemClass = "QLN_VDArraySystem";
+// Note the blank after the comma: this class's line differs from the disk's.
+char const* const notFound =
+    "getInstance, findPhysicalDiskInVector could not find drive based on serial # or location";
+// CIM_StorageExtent.ExtentStatus values.
+unsigned short const extentRebuild = 11;
+unsigned short const extentNone = 2;
+} // namespace
+
+namespace QLN {
+
+QLN_VDStorageExtent::QLN_VDStorageExtent(Logger& logger, std::string const& nameSpace,
+                                         unsigned int controllerIndex,
+                                         VeldraPhysicalDisk const& disk,
+                                         VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex),
+      _serialNumber(disk.getSerialNumber()), _boxNumber(disk.getEnclosureBoxNumber()),
+      _bay(disk.getBay()), _model(disk.getModel()), _paths(disk.getLastAllPhysicalPaths()),
+      _controller(controller) {
+    _portString = pathsToPortStr(_paths);
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+QLN_VDStorageExtent::~QLN_VDStorageExtent() {
+    _logger.info("dxtor()");
+}
+
+std::string QLN_VDStorageExtent::_deviceId() const {
+    // Unlike the disk, no controller number: SystemName already scopes it.
+    return PhysicalDiskKey::name(_serialNumber, _model, "", _boxNumber, _bay);
+}
+
+CmpiCpp::CmpiObjectPath QLN_VDStorageExtent::getPath() const {
+    return PhysicalDiskKey::devicePath(_namespace, className, _controller, _controllerIndex,
+                                       "DeviceID", _deviceId());
+}
+
+CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    VeldraPhysicalDisk const disk =
+        PhysicalDiskKey::find(_controller, _logger, _serialNumber, _boxNumber, _bay, notFound);
+
+    instance.addProperty("SystemCreationClassName", arraySystemClass);
+    instance.addProperty("CreationClassName", className);
+    instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
+    instance.addProperty("DeviceID", _deviceId());
+    instance.addProperty("Name", _serialNumber);
+    instance.addProperty("ElementName", pathsToUserStr(disk.getPaths(), disk.getBay()));
+    VeldraPhysicalDiskStatusEnum const status = disk.getStatus();
+    // The wear and carrier rows are the disk's to explain, not the extent's.
+    DiskStatusRow::of(status, false, false).addTo(instance);
+    instance.addProperty(
+        "ExtentStatus",
+        VDArrayValues::uint16s({status == PD_STATUS_REBUILDING ? extentRebuild : extentNone}));
+    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
+    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
+    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    instance.addProperty("BlockSize", static_cast<unsigned long long>(disk.getBlockSize()));
+    auto const blocks = static_cast<unsigned long long>(disk.getTotalBlocks());
+    instance.addProperty("ConsumableBlocks", blocks);
+    instance.addProperty("NumberOfBlocks", blocks);
+    instance.addProperty("Primordial", true);
+    if (u64 const hours = disk.getTotalPowerOnHours(); hours != 0)
+        instance.addProperty("TotalPowerOnHours", static_cast<unsigned long long>(hours));
+    return instance;
+}
+
+CmpiCpp::CmpiName QLN_VDStorageExtent::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
+
+} // namespace QLN

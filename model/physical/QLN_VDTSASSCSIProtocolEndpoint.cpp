@@ -1,0 +1,50 @@
+#include "QLN_VDTSASSCSIProtocolEndpoint.h"
+
+#include "CmpiBroker.h"
+#include "QLNUtil.h"
+#include "VDArrayValues.h"
+
+namespace {
+char const* const className = "QLN_VDTSASSCSIProtocolEndpoint";
+// CIM_ProtocolEndpoint.ProtocolIFType 1: "Other", told by OtherTypeDescription.
+unsigned short const protocolOther = 1;
+// CIM_SCSIProtocolEndpoint.Role 3: target.
+unsigned short const roleTarget = 3;
+} // namespace
+
+namespace QLN {
+
+QLN_VDTSASSCSIProtocolEndpoint::QLN_VDTSASSCSIProtocolEndpoint(
+    Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
+    VeldraPhysicalDisk const& disk, VeldraPhysicalPath const& path, int pathIndex,
+    VeldraController* controller)
+    : DiskPathDevice(logger, nameSpace, className, controllerIndex, disk, path, pathIndex,
+                     controller),
+      _pathStatus(path.getStatus()) {}
+
+CmpiCpp::CmpiObjectPath QLN_VDTSASSCSIProtocolEndpoint::getPath() const {
+    return _path("Name");
+}
+
+CmpiCpp::CmpiInstance QLN_VDTSASSCSIProtocolEndpoint::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    _addKeyProperties(instance, "Name");
+    std::string const name = "Protocol Endpoint for " + std::to_string(_pathIndex);
+    instance.addProperty("ElementName", name);
+    instance.addProperty("Caption", name);
+    instance.addProperty("ProtocolIFType", protocolOther);
+    instance.addProperty("OtherTypeDescription", "SCSI");
+    instance.addProperty("Role", roleTarget);
+    instance.addProperty("HealthState", static_cast<unsigned short>(5));
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
+    instance.addProperty("StatusDescriptions",
+                         VDArrayValues::strings({"Endpoint is operating properly"}));
+    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
+    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
+    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    instance.addProperty("Path", static_cast<unsigned short>(_pathStatus & 0xFFFF));
+    return instance;
+}
+
+} // namespace QLN
