@@ -7,13 +7,7 @@
 #include "CimInstance.h"
 #include "CimObjectPath.h"
 #include "CimValue.h"
-
-// What an extrinsic method call gives back: the return value (null when the
-// provider returned none) and the output arguments in order.
-struct MethodResult {
-    CimValue returnValue;
-    std::vector<std::pair<std::string, CimValue>> outArgs;
-};
+#include "MethodResult.h"
 
 // The operations the broker's up-calls are routed to (the provider manager
 // implements them). Failures are thrown as CimError. A null property list

@@ -63,6 +63,5 @@ private:
     std::vector<Key> _keys;
 };
 
-struct CimObjectPathHash {
-    std::size_t operator()(const CimObjectPath& p) const { return p.hash(); }
-};
+// Kept with the class so that every user of paths can hash them.
+#include "CimObjectPathHash.h"

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <cstddef>
+
+#include "CimObjectPath.h"
+
+// Hash of a path for unordered containers, consistent with its operator==.
+struct CimObjectPathHash {
+    std::size_t operator()(const CimObjectPath& p) const { return p.hash(); }
+};
