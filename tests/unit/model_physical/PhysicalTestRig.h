@@ -2,7 +2,6 @@
 // Simulated controllers read from a scenario written for the test, with the
 // snapshots primed as the graph factory primes them (disks with their last
 // paths). The log goes to a file of the test's own so lines can be checked.
-#include "CmpiData.h"
 #include "CmpiInstance.h"
 #include "FrameworkConfig.h"
 #include "Logger.h"
@@ -25,19 +24,17 @@ namespace physicaltest {
 class PhysicalTestRig {
 public:
     explicit PhysicalTestRig(std::string const& yaml) {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "veldra-physical-XXXXXX").string();
-        EXPECT_NE(::mkdtemp(pattern.data()), nullptr);
-        _dir = pattern;
-        _logPath = (_dir / "log.txt").string();
-        ::setenv("VELDRA_LOG", _logPath.c_str(), 1);
+        std::string dir = (std::filesystem::temp_directory_path() / "veldra-phys-XXXXXX").string();
+        EXPECT_NE(::mkdtemp(dir.data()), nullptr);
+        _dir = dir;
+        ::setenv("VELDRA_LOG", (_dir / "log.txt").c_str(), 1);
         QLN::FrameworkConfig::reload();
         path = (_dir / "scenario.yaml").string();
         _write(yaml);
         _root = std::make_unique<SimulatedControllerMRA>(path, logger);
         for (VeldraController* c = _root->getFirstData(); c; c = _root->getNextData(c))
             controllers.push_back(c);
-        prime();
+        _prime();
     }
     ~PhysicalTestRig() {
         _root.reset();
@@ -52,10 +49,34 @@ public:
         _write(yaml);
         for (VeldraController* c : controllers)
             c->getDiskVectorCount();
-        prime();
+        _prime();
     }
 
-    void prime() {
+    VeldraPhysicalDisk disk(std::size_t controller, std::size_t at) const {
+        return controllers.at(controller)->getLastAllPhysicalDisks().at(at);
+    }
+
+    std::string log() const {
+        std::stringstream all;
+        all << std::ifstream(_dir / "log.txt").rdbuf();
+        return all.str();
+    }
+
+    Logger logger{"QLNVeldra"};
+    std::vector<VeldraController*> controllers;
+    std::string path;
+
+private:
+    void _write(std::string const& yaml) {
+        std::ofstream(path + ".tmp") << yaml;
+        std::filesystem::rename(path + ".tmp", path);
+        // A rewrite within the same second must still look changed.
+        static int bump = 0;
+        std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() +
+                                                   std::chrono::seconds(++bump));
+    }
+
+    void _prime() {
         for (VeldraController* c : controllers) {
             std::vector<VeldraPhysicalDisk> disks = c->getAllPhysicalDisks();
             for (VeldraPhysicalDisk& disk : disks) {
@@ -68,35 +89,7 @@ public:
         }
     }
 
-    // The disk of controller `c` at `at` in the accepted snapshot.
-    VeldraPhysicalDisk disk(std::size_t c, std::size_t at) const {
-        return controllers.at(c)->getLastAllPhysicalDisks().at(at);
-    }
-
-    std::string log() const {
-        std::ifstream in(_logPath);
-        std::stringstream all;
-        all << in.rdbuf();
-        return all.str();
-    }
-
-    Logger logger{"QLNVeldra"};
-    std::vector<VeldraController*> controllers;
-    std::string path;
-
-private:
-    void _write(std::string const& yaml) {
-        std::string const temp = path + ".tmp";
-        std::ofstream(temp) << yaml;
-        std::filesystem::rename(temp, path);
-        // A rewrite within the same second must still look changed.
-        static int bump = 0;
-        std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() +
-                                                   std::chrono::seconds(++bump));
-    }
-
     std::filesystem::path _dir;
-    std::string _logPath;
     std::unique_ptr<SimulatedControllerMRA> _root;
 };
 
@@ -113,32 +106,26 @@ inline std::string text(CmpiCpp::CmpiInstance const& instance, char const* name)
 }
 
 inline unsigned short uint16Of(CmpiCpp::CmpiInstance const& instance, char const* name) {
-    CmpiCpp::CmpiData const& value = instance.getProperty(name);
-    EXPECT_EQ(value.getType(), CMPI_uint16) << name;
-    return value.getUint16();
+    EXPECT_EQ(instance.getProperty(name).getType(), CMPI_uint16) << name;
+    return instance.getProperty(name).getUint16();
 }
 
 inline unsigned long long uint64Of(CmpiCpp::CmpiInstance const& instance, char const* name) {
-    CmpiCpp::CmpiData const& value = instance.getProperty(name);
-    EXPECT_EQ(value.getType(), CMPI_uint64) << name;
-    return value.getUint64();
+    EXPECT_EQ(instance.getProperty(name).getType(), CMPI_uint64) << name;
+    return instance.getProperty(name).getUint64();
 }
 
-inline std::vector<unsigned short> uint16List(CmpiCpp::CmpiInstance const& instance,
-                                              char const* name) {
+// Array elements as text ("6 32771", "a|b"), which reads well in a comparison.
+inline std::string elements(CmpiCpp::CmpiInstance const& instance, char const* name) {
     CmpiCpp::CmpiArray const array = instance.getProperty(name).getArray();
-    std::vector<unsigned short> values;
-    for (unsigned int i = 0; i < array.size(); ++i)
-        values.push_back(array.getElementAt(i).getUint16());
-    return values;
-}
-
-inline std::vector<std::string> strings(CmpiCpp::CmpiInstance const& instance, char const* name) {
-    CmpiCpp::CmpiArray const array = instance.getProperty(name).getArray();
-    std::vector<std::string> values;
-    for (unsigned int i = 0; i < array.size(); ++i)
-        values.push_back(array.getElementAt(i).getString());
-    return values;
+    std::string all;
+    for (unsigned int i = 0; i < array.size(); ++i) {
+        CmpiCpp::CmpiData const& value = array.getElementAt(i);
+        all += (i ? (value.getType() == CMPI_string ? "|" : " ") : "") +
+               (value.getType() == CMPI_string ? value.getString()
+                                               : std::to_string(value.getUint16()));
+    }
+    return all;
 }
 
 } // namespace physicaltest
