@@ -58,6 +58,14 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
     _server->Post("/cimom", [this](const httplib::Request& request, httplib::Response& response) {
         _serve(request, response);
     });
+    // CIM operations come only as POST; say so rather than "not found".
+    auto onlyPost = [](const httplib::Request&, httplib::Response& response) {
+        response.status = 405;
+        response.set_header("Allow", "POST");
+    };
+    _server->Get("/cimom", onlyPost);
+    _server->Put("/cimom", onlyPost);
+    _server->Delete("/cimom", onlyPost);
     _server->set_error_handler([](const httplib::Request&, httplib::Response& response) {
         if (response.status == 413) ServerLog::warn("refused oversized request");
     });

@@ -136,7 +136,8 @@ TEST_F(HttpBadRequests, EachBadRequestGetsAProperErrorAndServingGoesOn) {
          "<ERROR CODE=\"7\" DESCRIPTION=\"operation ExecQuery is not supported\"/>"},
         {"wrong path", "POST /other HTTP/1.1\r\nHost: x\r\nConnection: close\r\nContent-Length: 0\r\n\r\n",
          "HTTP/1.1 404", ""},
-        {"GET instead of POST", "GET /cimom HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n", "HTTP/1.1 4", ""},
+        {"GET instead of POST", "GET /cimom HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n", "HTTP/1.1 405",
+         "Allow: POST"},
         {"not HTTP at all", "\x16\x03\x01 garbage\r\n\r\n", "HTTP/1.1 400", ""},
     };
     for (const Case& c : cases) {
