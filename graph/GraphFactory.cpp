@@ -21,6 +21,7 @@
 #include "QLN_VDArraySystemSCSIProtocolController.h"
 #include "QLN_VDArraySystemSCSIProtocolEndpoint.h"
 #include "QLN_VDArraySystemStoragePool.h"
+#include "QLN_VDCacheVolumeStorageVolume.h"
 #include "QLN_VDComputerSystemArraySystem.h"
 #include "QLN_VDComputerSystemPortController.h"
 #include "QLN_VDDAPort.h"
@@ -55,6 +56,7 @@
 #include "QLN_VDStoragePoolStorageCapabilities.h"
 #include "QLN_VDStorageSpecificCollection.h"
 #include "QLN_VDStorageSpecificCollectionArraySystem.h"
+#include "QLN_VDStorageVolume.h"
 #include "IdentityHelpers.h"
 
 namespace QLN {
@@ -252,6 +254,22 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         _logger.info("after _createAllLogicalDiskInstances");
         handOver(false);
         logPathSizes();
+
+        // Cache pairs: a cached volume (type 2) names its cache volume (type 3)
+        // in the low 16 bits of its related LUN. The two volume objects only
+        // lend their paths to the association; the collection never sees them.
+        for (VeldraLogicalDisk const& cached : cachedVolumes) {
+            for (VeldraLogicalDisk const& cache : cacheVolumes) {
+                if ((cached.getRelatedLUN() & 0xffff) != cache.getLogicalVolumeNumber()) {
+                    continue;
+                }
+                auto* cacheEnd = new QLN_VDStorageVolume(_logger, ns, index, cache, controller);
+                _cachePairEnds.emplace_back(cacheEnd);
+                auto* cachedEnd = new QLN_VDStorageVolume(_logger, ns, index, cached, controller);
+                _cachePairEnds.emplace_back(cachedEnd);
+                add(new QLN_VDCacheVolumeStorageVolume(_logger, ns, cacheEnd, cachedEnd));
+            }
+        }
 
         _createViewClassInstances(number, controller);
 

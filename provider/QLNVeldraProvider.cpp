@@ -1,6 +1,8 @@
 #include "QLNVeldraProvider.h"
 
 #include "QLN_VDArraySystem.h"
+#include "QLN_VDDiskDrive.h"
+#include "QLN_VDStorageVolume.h"
 #include "CmpiStatus.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
@@ -161,6 +163,17 @@ void QLNVeldraProvider::invokeMethod(CmpiContext const& context, CmpiObjectPath 
 
 int QLNVeldraProvider::getProviderKind() { return 2; }
 
+// An instance found under a method class's name that is not of that class
+// is as good as not found.
+template <typename MethodClass>
+std::uint32_t QLNVeldraProvider::_invokeOn(CmpiManagedInstance* instance, CmpiName const& method, CmpiArgs const& in) {
+    auto* target = dynamic_cast<MethodClass*>(instance);
+    if (target == nullptr) {
+        throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
+    }
+    return target->invokeMethod(method, in);
+}
+
 // No lock on purpose: methods run beside reads and beside the worker, and
 // the collection guards its own lookups.
 std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const& method,
@@ -177,16 +190,13 @@ std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& p
     if (instance == nullptr) {
         return outcome;
     }
-    if (arraySystem) {
-        auto* system = dynamic_cast<QLN_VDArraySystem*>(instance);
-        if (system == nullptr) {
-            throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
-        }
-        return system->invokeMethod(method, in);
+    if (diskDrive) {
+        return _invokeOn<QLN_VDDiskDrive>(instance, method, in);
     }
-    // Disks and volumes join the graph with the device model; until then an
-    // instance found under their names is not of their class.
-    throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
+    if (storageVolume) {
+        return _invokeOn<QLN_VDStorageVolume>(instance, method, in);
+    }
+    return _invokeOn<QLN_VDArraySystem>(instance, method, in);
 }
 
 std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const&) {

@@ -15,6 +15,7 @@
 
 #include <pthread.h>
 #include <atomic>
+#include <memory>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -116,6 +117,9 @@ private:
                                         std::vector<CmpiManagedInstance*>& newInstances);
     void _createViewClassInstances(int number, VeldraController* controller);
     std::uint32_t _backgroundWorker(CmpiCpp::CmpiContext const& context);
+    template <typename MethodClass>
+    static std::uint32_t _invokeOn(CmpiManagedInstance* instance, CmpiCpp::CmpiName const& method,
+                                   CmpiCpp::CmpiArgs const& in);
     std::uint32_t _invokeMethodOnInstance(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& method,
                                           CmpiCpp::CmpiArgs const& in);
 
@@ -131,6 +135,9 @@ private:
     bool _heartbeatEnabled;
     InternalVeldraControllerMRA* _internalVDControllerMRA;
     pthread_mutex_t _providerMutex;
+    // The volume objects that only lend their paths to cache-pair
+    // associations; not in the collection, so the provider frees them.
+    std::vector<std::unique_ptr<CmpiManagedInstance>> _cachePairEnds;
 };
 
 } // namespace QLN

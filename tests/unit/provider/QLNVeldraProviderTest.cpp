@@ -53,7 +53,7 @@ TEST(QLNVeldraProvider, UnknownPathIsNotFoundAndLeavesTheMutexFree) {
     // A mutex left locked would hang this read; run it apart and give up after a while.
     auto next = std::async(std::launch::async, [&] {
         Instances more;
-        provider->enumInstances(CmpiContext(), pathOf("QLN_VDStorageEnclosure"), nullptr, more);
+        provider->enumInstances(CmpiContext(), pathOf("QLN_VeldraIndication"), nullptr, more);
         return more.rows.size();
     });
     ASSERT_EQ(next.wait_for(std::chrono::seconds(10)), std::future_status::ready);
