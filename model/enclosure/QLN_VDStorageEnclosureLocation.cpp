@@ -36,8 +36,8 @@ QLN_VDStorageEnclosureLocation::~QLN_VDStorageEnclosureLocation() {
 }
 
 std::string QLN_VDStorageEnclosureLocation::locationTagOf(std::string const& portText) {
-    // Internal ports end in I and external ones in E (or X on older
-    // controllers); I is asked first, so a box on both counts as internal.
+    // Port names carry I for internal and E or X for external connectors.
+    // I is asked first, so a box reached through both counts as internal.
     if (portText.find('I') != std::string::npos)
         return "Internal";
     if (portText.find_first_of("EX") != std::string::npos)
