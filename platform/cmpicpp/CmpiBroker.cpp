@@ -1,6 +1,9 @@
 #include "CmpiBroker.h"
 
 #include "CmpiContext.h"
+#include "CmpiConvert.h"
+#include "CmpiInstance.h"
+#include "CmpiObjectPath.h"
 #include "CmpiStatus.h"
 
 namespace CmpiCpp {
@@ -40,6 +43,23 @@ void CmpiBroker::detachThread(CmpiContext const& context) const {
     if (!ft->detachThread)
         throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no detachThread");
     check(ft->detachThread(_broker, context.toCMPI()), "detachThread failed");
+}
+
+CmpiInstance CmpiBroker::getInstance(CmpiContext const& context, CmpiObjectPath const& path,
+                                     char const** properties) const {
+    CMPIBrokerFT const* ft = table(_broker);
+    if (!ft->getInstance)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no getInstance");
+    CmpiConvert::Made made;
+    CMPIObjectPath* op = CmpiConvert::toCMPI(*this, path, &made);
+    CMPIStatus rc{CMPI_RC_OK, nullptr};
+    CMPIInstance* found = ft->getInstance(_broker, context.toCMPI(), op, properties, &rc);
+    if (rc.rc != CMPI_RC_OK)
+        throw CmpiStatus(rc.rc, "getInstance of " + path.str() + " failed: " + CmpiConvert::fromCMPI(rc.msg));
+    if (!found)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND, "getInstance of " + path.str() + " gave nothing");
+    // The instance belongs to the request; a copy is what the caller keeps.
+    return CmpiConvert::fromCMPI(found);
 }
 
 } // namespace CmpiCpp

@@ -8,6 +8,8 @@
 namespace CmpiCpp {
 
 class CmpiContext;
+class CmpiInstance;
+class CmpiObjectPath;
 
 class CmpiBroker {
 public:
@@ -21,6 +23,11 @@ public:
     CmpiContext prepareAttachThread(CmpiContext const& context) const;
     void attachThread(CmpiContext const& context) const;
     void detachThread(CmpiContext const& context) const;
+
+    // Asks the object manager for an instance another provider serves (the
+    // far end of an association). Throws CmpiStatus when there is none.
+    CmpiInstance getInstance(CmpiContext const& context, CmpiObjectPath const& path,
+                             char const** properties) const;
 
 private:
     CMPIBroker const* _broker = nullptr;

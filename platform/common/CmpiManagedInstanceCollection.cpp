@@ -1,5 +1,7 @@
 #include "CmpiManagedInstanceCollection.h"
 
+#include "QLNUtil.h"
+
 #include "CmpiManagedInstanceAssociation.h"
 #include "CmpiManagedInstanceMultiAssociation.h"
 
@@ -332,22 +334,36 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
     return ends;
 }
 
-void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const&,
+void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const& context,
                                                 CmpiObjectPath const& path,
                                                 CmpiName const& assocClass,
                                                 CmpiName const& resultClass, CmpiName const& role,
                                                 CmpiName const& resultRole,
                                                 char const** properties) const {
     std::vector<CmpiInstance> found;
+    std::vector<CmpiObjectPath> elsewhere;
     {
         std::shared_lock lock(_mutex);
         for (auto const& end : _farEnds(path, assocClass, resultClass, role, resultRole)) {
-            // An end served by another provider has no instance here; its
-            // name still shows in associatorNames.
             CmpiInstance instance;
-            if (end.entry && _instanceOf(end.entry, instance, "associators")) {
+            if (!end.entry) {
+                elsewhere.push_back(end.path);
+            } else if (_instanceOf(end.entry, instance, "associators")) {
                 found.push_back(instance.filtered(properties));
             }
+        }
+    }
+    // An end that another provider serves comes from the object manager,
+    // asked outside the lock; one that it cannot give is left out.
+    CmpiCpp::CmpiBroker const broker(QLNUtil::getBroker());
+    for (auto const& far : elsewhere) {
+        if (broker.isNull()) {
+            break;
+        }
+        try {
+            found.push_back(broker.getInstance(context, far, properties).filtered(properties));
+        } catch (std::exception const& e) {
+            _logger.warn("associators: far end %s not available: %s", far.str().c_str(), e.what());
         }
     }
     for (auto const& each : found) {
