@@ -125,17 +125,8 @@ namespace QLN {
 QLN_VDArrayController::QLN_VDArrayController(Logger& logger, std::string const& nameSpace,
                                              unsigned int controllerIndex,
                                              VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
-      _firstStatus(true) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDArrayController::~QLN_VDArrayController() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _firstStatus(true) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayController::getPath() const {
     VeldraControllerData data;
@@ -238,10 +229,6 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     }
     instance.addProperty("IsSanitizeEraseSupported", data.checkSanitizeEraseSupported());
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDArrayController::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -18,16 +18,7 @@ QLN_VDArrayControllerLocation::QLN_VDArrayControllerLocation(Logger& logger,
                                                              std::string const& nameSpace,
                                                              unsigned int controllerIndex,
                                                              VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDArrayControllerLocation::~QLN_VDArrayControllerLocation() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayControllerLocation::getPath() const {
     VeldraControllerData data;
@@ -80,10 +71,6 @@ CmpiCpp::CmpiInstance QLN_VDArrayControllerLocation::getInstance() const {
         instance.addProperty("LocationInfoDesc", texts);
     }
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDArrayControllerLocation::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

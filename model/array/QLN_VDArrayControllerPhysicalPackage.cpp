@@ -30,16 +30,7 @@ namespace QLN {
 QLN_VDArrayControllerPhysicalPackage::QLN_VDArrayControllerPhysicalPackage(
     Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
     VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDArrayControllerPhysicalPackage::~QLN_VDArrayControllerPhysicalPackage() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayControllerPhysicalPackage::getPath() const {
     VeldraControllerData data;
@@ -85,10 +76,6 @@ CmpiCpp::CmpiInstance QLN_VDArrayControllerPhysicalPackage::getInstance() const 
     instance.addProperty("Version", "N/A");
     instance.addProperty("Description", "Veldra Array Controller Physical Package");
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDArrayControllerPhysicalPackage::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -1,7 +1,7 @@
 #pragma once
 // The controller's own hardware: the card, module or board component that
 // realizes the array controller. A part of the array system's package.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,25 +9,14 @@
 
 namespace QLN {
 
-class QLN_VDArrayControllerPhysicalPackage : public CmpiManagedInstance {
+class QLN_VDArrayControllerPhysicalPackage : public ControllerManagedInstance {
 public:
     QLN_VDArrayControllerPhysicalPackage(Logger& logger, std::string const& nameSpace,
                                          unsigned int controllerIndex,
                                          VeldraController* controller);
-    ~QLN_VDArrayControllerPhysicalPackage() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
-
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
-
-private:
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

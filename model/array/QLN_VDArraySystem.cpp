@@ -64,17 +64,8 @@ namespace QLN {
 
 QLN_VDArraySystem::QLN_VDArraySystem(Logger& logger, std::string const& nameSpace,
                                      unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
-      _status(statusOk), _statusText(textOk) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDArraySystem::~QLN_VDArraySystem() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _status(statusOk), _statusText(textOk) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystem::getPath() const {
     VeldraControllerData data;
@@ -124,10 +115,6 @@ CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
     dedicated.setElementAt(1, static_cast<unsigned short>(15));
     instance.addProperty("Dedicated", dedicated);
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDArraySystem::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 void QLN_VDArraySystem::manageDynamic(bool indicationsEnabled, CmpiCpp::CmpiContext const&) {

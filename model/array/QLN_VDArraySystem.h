@@ -5,7 +5,7 @@
 // on each pass from the stored snapshots, and `Identify` lights every disk.
 #include "CmpiArgs.h"
 #include "CmpiContext.h"
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -13,15 +13,13 @@
 
 namespace QLN {
 
-class QLN_VDArraySystem : public CmpiManagedInstance {
+class QLN_VDArraySystem : public ControllerManagedInstance {
 public:
     QLN_VDArraySystem(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                       VeldraController* controller);
-    ~QLN_VDArraySystem() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // Status consolidation of one worker pass. The context is not used; the
     // flag only adds a log line.
@@ -32,16 +30,10 @@ public:
     unsigned int invokeMethod(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in);
     using CmpiManagedInstance::invokeMethod;
 
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
     int getStatus() const { return _status; }
     std::string const& getStatusText() const { return _statusText; }
 
 private:
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
     int _status;
     std::string _statusText;
 };

@@ -17,16 +17,7 @@ namespace QLN {
 QLN_VDArraySystemLocation::QLN_VDArraySystemLocation(Logger& logger, std::string const& nameSpace,
                                                      unsigned int controllerIndex,
                                                      VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDArraySystemLocation::~QLN_VDArraySystemLocation() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystemLocation::getPath() const {
     VeldraControllerData data;
@@ -73,10 +64,6 @@ CmpiCpp::CmpiInstance QLN_VDArraySystemLocation::getInstance() const {
         instance.addProperty("LocationInfoDesc", texts);
     }
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDArraySystemLocation::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

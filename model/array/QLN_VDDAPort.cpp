@@ -47,16 +47,7 @@ namespace QLN {
 
 QLN_VDDAPort::QLN_VDDAPort(Logger& logger, std::string const& nameSpace,
                            unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDDAPort::~QLN_VDDAPort() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDDAPort::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
@@ -92,10 +83,6 @@ CmpiCpp::CmpiInstance QLN_VDDAPort::getInstance() const {
     // Front-end port: it faces the host, not the disks.
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(2));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDDAPort::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -15,16 +15,7 @@ namespace QLN {
 
 QLN_VDFirmware::QLN_VDFirmware(Logger& logger, std::string const& nameSpace,
                                unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDFirmware::~QLN_VDFirmware() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDFirmware::_instanceId() const {
     return std::string("MWQ:") + className + "-" + std::to_string(_controllerIndex);
@@ -83,10 +74,6 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
                              VDArrayValues::strings({"MWQ:" + model, "Storage Controller"}));
     }
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDFirmware::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

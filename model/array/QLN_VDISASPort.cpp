@@ -16,17 +16,8 @@ namespace QLN {
 QLN_VDISASPort::QLN_VDISASPort(Logger& logger, std::string const& nameSpace,
                                unsigned int controllerIndex, VeldraController* controller,
                                std::string const& port)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDISASPort::~QLN_VDISASPort() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _port(port) {}
 
 std::string QLN_VDISASPort::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + ":" +
@@ -65,10 +56,6 @@ CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
     // Back-end port: it reaches the disks, not the host.
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDISASPort::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

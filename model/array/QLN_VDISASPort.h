@@ -1,7 +1,7 @@
 #pragma once
 // One SAS port of the controller, the initiator side of the paths to the
 // disks: one instance for each port the controller reports.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,29 +9,21 @@
 
 namespace QLN {
 
-class QLN_VDISASPort : public CmpiManagedInstance {
+class QLN_VDISASPort : public ControllerManagedInstance {
 public:
     QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                    VeldraController* controller, std::string const& port);
-    ~QLN_VDISASPort() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // The graph matches disks' paths to initiators by port and controller number.
     std::string const& getPort() const { return _port; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 private:
     std::string _keyValue(VeldraControllerData const& data) const;
 
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
     std::string _port;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

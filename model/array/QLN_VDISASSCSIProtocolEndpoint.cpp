@@ -17,17 +17,8 @@ QLN_VDISASSCSIProtocolEndpoint::QLN_VDISASSCSIProtocolEndpoint(Logger& logger,
                                                                unsigned int controllerIndex,
                                                                VeldraController* controller,
                                                                std::string const& port)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _port(port),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDISASSCSIProtocolEndpoint::~QLN_VDISASSCSIProtocolEndpoint() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _port(port) {}
 
 std::string QLN_VDISASSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + ":" +
@@ -66,10 +57,6 @@ CmpiCpp::CmpiInstance QLN_VDISASSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDISASSCSIProtocolEndpoint::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -31,16 +31,7 @@ namespace QLN {
 QLN_VDPhysicalPackage::QLN_VDPhysicalPackage(Logger& logger, std::string const& nameSpace,
                                              unsigned int controllerIndex,
                                              VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDPhysicalPackage::~QLN_VDPhysicalPackage() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDPhysicalPackage::getPath() const {
     VeldraControllerData data;
@@ -94,10 +85,6 @@ CmpiCpp::CmpiInstance QLN_VDPhysicalPackage::getInstance() const {
     instance.addProperty("Version", "N/A");
     instance.addProperty("Description", "Veldra Array System Physical Package");
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDPhysicalPackage::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -45,16 +45,7 @@ namespace QLN {
 QLN_VDPortController::QLN_VDPortController(Logger& logger, std::string const& nameSpace,
                                            unsigned int controllerIndex,
                                            VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDPortController::~QLN_VDPortController() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDPortController::_deviceId(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
@@ -92,10 +83,6 @@ CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
     if (data.getControllerType(type) == 0)
         instance.addProperty("OtherControllerType", controllerTypeText(type));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDPortController::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -25,16 +25,7 @@ namespace QLN {
 
 QLN_VDProduct::QLN_VDProduct(Logger& logger, std::string const& nameSpace,
                              unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDProduct::~QLN_VDProduct() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDProduct::getPath() const {
     VeldraControllerData data;
@@ -67,10 +58,6 @@ CmpiCpp::CmpiInstance QLN_VDProduct::getInstance() const {
     instance.addProperty("Caption", "Veldra Array Controller");
     instance.addProperty("Description", "Veldra Array Controller Product");
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDProduct::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -19,16 +19,7 @@ QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger,
                                                            std::string const& nameSpace,
                                                            unsigned int controllerIndex,
                                                            VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDSCSIProtocolController::~QLN_VDSCSIProtocolController() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDSCSIProtocolController::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
@@ -63,10 +54,6 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDSCSIProtocolController::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

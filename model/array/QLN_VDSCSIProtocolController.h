@@ -1,7 +1,7 @@
 #pragma once
 // The controller as the SCSI protocol controller that exposes the volumes
 // to the host: one per controller, always reported healthy.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,26 +9,16 @@
 
 namespace QLN {
 
-class QLN_VDSCSIProtocolController : public CmpiManagedInstance {
+class QLN_VDSCSIProtocolController : public ControllerManagedInstance {
 public:
     QLN_VDSCSIProtocolController(Logger& logger, std::string const& nameSpace,
                                  unsigned int controllerIndex, VeldraController* controller);
-    ~QLN_VDSCSIProtocolController() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
-
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 private:
     std::string _keyValue(VeldraControllerData const& data) const;
-
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -16,16 +16,7 @@ namespace QLN {
 QLN_VDSCSIProtocolEndpoint::QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
                                                        unsigned int controllerIndex,
                                                        VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDSCSIProtocolEndpoint::~QLN_VDSCSIProtocolEndpoint() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
@@ -63,10 +54,6 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDSCSIProtocolEndpoint::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

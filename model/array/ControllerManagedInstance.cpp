@@ -1,0 +1,31 @@
+#include "ControllerManagedInstance.h"
+
+namespace QLN {
+
+ControllerManagedInstance::ControllerManagedInstance(Logger& logger, char const* className,
+                                                     std::string const& nameSpace,
+                                                     unsigned int controllerIndex,
+                                                     VeldraController* controller)
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
+      _className(className) {
+    _logger = logger;
+    _logger.appendLogSource(":");
+    _logger.appendLogSource(className);
+    _logger.info("cxtor()");
+}
+
+ControllerManagedInstance::~ControllerManagedInstance() {
+    _logger.info("dxtor()");
+}
+
+CmpiCpp::CmpiName ControllerManagedInstance::getClassName() const {
+    return CmpiCpp::CmpiName(_className);
+}
+
+VeldraControllerData ControllerManagedInstance::_lastData() const {
+    VeldraControllerData data;
+    _controller->getLastVDData(data);
+    return data;
+}
+
+} // namespace QLN

@@ -1,0 +1,40 @@
+#pragma once
+// What every class that speaks for one whole controller shares: the
+// controller it reads, its index among the controllers, the namespace its
+// paths live in, and a logger named after the class, which logs the
+// instance's birth and end.
+#include "CmpiManagedInstance.h"
+#include "Logger.h"
+#include "VeldraController.h"
+
+#include <string>
+
+namespace QLN {
+
+class ControllerManagedInstance : public CmpiManagedInstance {
+public:
+    ~ControllerManagedInstance() override;
+
+    CmpiCpp::CmpiName getClassName() const override;
+
+    unsigned int getControllerIndex() const { return _controllerIndex; }
+    VeldraController* getController() const { return _controller; }
+
+protected:
+    // className must outlive the instance (the classes pass a literal).
+    ControllerManagedInstance(Logger& logger, char const* className, std::string const& nameSpace,
+                              unsigned int controllerIndex, VeldraController* controller);
+
+    // The controller's data as the last read left it.
+    VeldraControllerData _lastData() const;
+
+    std::string const _namespace;
+    Logger _logger;
+    unsigned int const _controllerIndex;
+    VeldraController* const _controller;
+
+private:
+    char const* _className;
+};
+
+} // namespace QLN
