@@ -27,6 +27,7 @@ protected:
 
     // The controller's data as the last read left it.
     VeldraControllerData _lastData() const;
+    char const* _cimClassName() const { return _className; }
 
     std::string const _namespace;
     Logger _logger;

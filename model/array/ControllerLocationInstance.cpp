@@ -1,0 +1,64 @@
+#include "ControllerLocationInstance.h"
+
+#include "CmpiArray.h"
+#include "CmpiBroker.h"
+#include "IdentityHelpers.h"
+#include "QLNPhysloc.h"
+#include "QLNUtil.h"
+
+namespace QLN {
+
+ControllerLocationInstance::ControllerLocationInstance(Logger& logger, char const* className,
+                                                       std::string const& nameSpace,
+                                                       unsigned int controllerIndex,
+                                                       VeldraController* controller,
+                                                       DisplayText displayText)
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _displayText(displayText) {}
+
+CmpiCpp::CmpiObjectPath ControllerLocationInstance::getPath() const {
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
+    path.setHost(QLNUtil::getHostName());
+    // Name is the only key of a location: the tag keeps controllers apart,
+    // external ones included (their tag carries the controller's number).
+    path.addKey("Name", std::string(_cimClassName()) + "-" +
+                            getControllerTag(data, static_cast<int>(_controllerIndex)));
+    return path;
+}
+
+CmpiCpp::CmpiInstance ControllerLocationInstance::getInstance() const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = getPath();
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, path);
+    VeldraControllerData data = _lastData();
+
+    instance.addProperty("Name", path.getKey("Name"));
+    physloc_t location = BMC_physloc_NULL;
+    bool located = data.getPhysloc(location) == 0;
+    instance.addProperty("PhysicalPosition", QLNPhysloc::physlocToHWLocation(location));
+    std::string display = _displayText(data);
+    instance.addProperty("Caption", display);
+    instance.addProperty("Description", display);
+    instance.addProperty("ElementName", display);
+    // The parts of the location, outermost first; only when the location is known.
+    if (located) {
+        std::vector<std::string> names;
+        std::vector<unsigned short> numbers;
+        QLNPhysloc::createLocationInfoVectors(location, names, numbers);
+        CmpiCpp::CmpiArray codes =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
+        CmpiCpp::CmpiArray texts =
+            CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
+        for (unsigned int i = 0; i < numbers.size(); ++i)
+            codes.setElementAt(i, numbers[i]);
+        for (unsigned int i = 0; i < names.size(); ++i)
+            texts.setElementAt(i, names[i]);
+        instance.addProperty("LocationInformation", codes);
+        instance.addProperty("LocationInfoDesc", texts);
+    }
+    return instance;
+}
+
+} // namespace QLN
