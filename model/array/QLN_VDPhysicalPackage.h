@@ -3,21 +3,14 @@
 // controller and its storage (the card for a controller in a slot, the system
 // board's storage for an embedded one, the chassis for an external array).
 // Enclosures, the controller's own package and the product hang from it.
-#include "ControllerManagedInstance.h"
-#include "Logger.h"
-#include "VeldraController.h"
-
-#include <string>
+#include "ControllerPackageInstance.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackage : public ControllerManagedInstance {
+class QLN_VDPhysicalPackage : public ControllerPackageInstance {
 public:
     QLN_VDPhysicalPackage(Logger& logger, std::string const& nameSpace,
                           unsigned int controllerIndex, VeldraController* controller);
-
-    CmpiCpp::CmpiObjectPath getPath() const override;
-    CmpiCpp::CmpiInstance getInstance() const override;
 };
 
 } // namespace QLN
