@@ -4,17 +4,10 @@
 
 #include <cstring>
 
-namespace {
-std::shared_ptr<VeldraControllerInfo const> const& emptyInfo() {
-    static auto const info = std::make_shared<VeldraControllerInfo const>();
-    return info;
-}
-} // namespace
-
-VeldraControllerData::VeldraControllerData() : _info(emptyInfo()) {}
+VeldraControllerData::VeldraControllerData() = default;
 
 VeldraControllerData::VeldraControllerData(std::shared_ptr<VeldraControllerInfo const> info)
-    : _info(info ? std::move(info) : emptyInfo()) {}
+    : _info(std::move(info)) {}
 
 VeldraControllerData::~VeldraControllerData() = default;
 
@@ -110,7 +103,7 @@ bool VeldraControllerData::checkSplitCacheSupported() const { return _info->spli
 u32 VeldraControllerData::compare(VeldraControllerData const& previous) const {
     VeldraControllerInfo const& now = *_info;
     VeldraControllerInfo const& was = *previous._info;
-    if (_info == previous._info || now == was) return 0;
+    if (_info.shares(previous._info) || now == was) return 0;
 
     // Each named item compares what its getter would say, failure included,
     // and is then taken out of the remainder; whatever still differs

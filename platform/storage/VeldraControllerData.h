@@ -4,6 +4,7 @@
 //
 // Every `int getX(T&)` returns 0 and fills its argument, or returns non-zero
 // and leaves the argument as it was when the hardware could not answer.
+#include "SharedFacts.h"
 #include "VeldraTypes.h"
 #include "physloc.h"
 
@@ -116,5 +117,5 @@ public:
 
 private:
     bool _failing(char const* operation) const;
-    std::shared_ptr<VeldraControllerInfo const> _info;
+    SharedFacts<VeldraControllerInfo> _info;
 };

@@ -3,21 +3,13 @@
 #include "VeldraRecordData.h"
 
 namespace {
-std::shared_ptr<VeldraEnclosureInfo const> const& emptyInfo() {
-    static auto const info = std::make_shared<VeldraEnclosureInfo const>();
-    return info;
-}
-std::shared_ptr<std::vector<VeldraPhysicalPath> const> const& noPaths() {
-    static auto const paths = std::make_shared<std::vector<VeldraPhysicalPath> const>();
-    return paths;
-}
 char const* const unknownText = "Unknown value";
 } // namespace
 
-VeldraEnclosure::VeldraEnclosure() : _info(emptyInfo()), _lastPaths(noPaths()) {}
+VeldraEnclosure::VeldraEnclosure() = default;
 
 VeldraEnclosure::VeldraEnclosure(std::shared_ptr<VeldraEnclosureInfo const> info)
-    : _info(info ? std::move(info) : emptyInfo()), _lastPaths(noPaths()) {}
+    : _info(std::move(info)) {}
 
 VeldraEnclosure::~VeldraEnclosure() = default;
 
@@ -34,7 +26,7 @@ std::vector<VeldraPhysicalPath> VeldraEnclosure::getPaths() const { return _info
 std::vector<VeldraPhysicalPath> VeldraEnclosure::getLastAllPhysicalPaths() const { return *_lastPaths; }
 
 void VeldraEnclosure::setLastAllPhysicalPaths(std::vector<VeldraPhysicalPath>& paths) {
-    _lastPaths = std::make_shared<std::vector<VeldraPhysicalPath> const>(paths);
+    _lastPaths.set(paths);
 }
 
 EnclosureStatusTypeEnum VeldraEnclosure::getOverallStatus() const {

@@ -2,6 +2,7 @@
 // A disk enclosure (box) behind a controller, plus the routes that the caller
 // stored on this copy. Identity: the serial number where both records have
 // one, else the enclosure box number.
+#include "SharedFacts.h"
 #include "VeldraPhysicalPath.h"
 #include "VeldraTypes.h"
 
@@ -57,6 +58,6 @@ public:
     bool isSameEnclosure(VeldraEnclosure const& other) const;
 
 private:
-    std::shared_ptr<VeldraEnclosureInfo const> _info;
-    std::shared_ptr<std::vector<VeldraPhysicalPath> const> _lastPaths;
+    SharedFacts<VeldraEnclosureInfo> _info;
+    SharedFacts<std::vector<VeldraPhysicalPath>> _lastPaths;
 };

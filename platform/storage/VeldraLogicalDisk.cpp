@@ -5,21 +5,13 @@
 #include <algorithm>
 
 namespace {
-std::shared_ptr<VeldraLogicalDiskInfo const> const& emptyInfo() {
-    static auto const info = std::make_shared<VeldraLogicalDiskInfo const>();
-    return info;
-}
-std::shared_ptr<std::vector<VeldraPhysicalDisk> const> const& noDisks() {
-    static auto const disks = std::make_shared<std::vector<VeldraPhysicalDisk> const>();
-    return disks;
-}
 char const* const unknownText = "Unknown value";
 } // namespace
 
-VeldraLogicalDisk::VeldraLogicalDisk() : _info(emptyInfo()), _lastPhysicals(noDisks()) {}
+VeldraLogicalDisk::VeldraLogicalDisk() = default;
 
 VeldraLogicalDisk::VeldraLogicalDisk(std::shared_ptr<VeldraLogicalDiskInfo const> info)
-    : _info(info ? std::move(info) : emptyInfo()), _lastPhysicals(noDisks()) {
+    : _info(std::move(info)) {
     dataDiskIDs = _info->dataDisks;
     spareDiskIDs = _info->spareDisks;
 }
@@ -79,7 +71,7 @@ std::vector<VeldraPhysicalDisk> VeldraLogicalDisk::logicalToAllPhysicals(std::ve
 std::vector<VeldraPhysicalDisk> VeldraLogicalDisk::getLastAllPhysicalDisks() const { return *_lastPhysicals; }
 
 void VeldraLogicalDisk::setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& disks) {
-    _lastPhysicals = std::make_shared<std::vector<VeldraPhysicalDisk> const>(disks);
+    _lastPhysicals.set(disks);
 }
 
 u32 VeldraLogicalDisk::compare(std::vector<VeldraLogicalDisk>& previous, u32& index) const {

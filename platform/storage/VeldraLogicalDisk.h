@@ -1,6 +1,7 @@
 #pragma once
 // A logical disk (volume) as its controller reports it, plus the member disks
 // that the caller stored on this copy. Its serial number is its identity.
+#include "SharedFacts.h"
 #include "VeldraPhysicalDisk.h"
 #include "VeldraTypes.h"
 
@@ -66,6 +67,6 @@ public:
     static constexpr u32 changeStatus = 0x10;
 
 private:
-    std::shared_ptr<VeldraLogicalDiskInfo const> _info;
-    std::shared_ptr<std::vector<VeldraPhysicalDisk> const> _lastPhysicals;
+    SharedFacts<VeldraLogicalDiskInfo> _info;
+    SharedFacts<std::vector<VeldraPhysicalDisk>> _lastPhysicals;
 };

@@ -3,21 +3,13 @@
 #include "VeldraRecordData.h"
 
 namespace {
-std::shared_ptr<VeldraPhysicalDiskInfo const> const& emptyInfo() {
-    static auto const info = std::make_shared<VeldraPhysicalDiskInfo const>();
-    return info;
-}
-std::shared_ptr<std::vector<VeldraPhysicalPath> const> const& noPaths() {
-    static auto const paths = std::make_shared<std::vector<VeldraPhysicalPath> const>();
-    return paths;
-}
 char const* const unknownText = "Unknown value";
 } // namespace
 
-VeldraPhysicalDisk::VeldraPhysicalDisk() : _info(emptyInfo()), _lastPaths(noPaths()) {}
+VeldraPhysicalDisk::VeldraPhysicalDisk() = default;
 
 VeldraPhysicalDisk::VeldraPhysicalDisk(std::shared_ptr<VeldraPhysicalDiskInfo const> info)
-    : _info(info ? std::move(info) : emptyInfo()), _lastPaths(noPaths()) {}
+    : _info(std::move(info)) {}
 
 VeldraPhysicalDisk::~VeldraPhysicalDisk() = default;
 
@@ -34,7 +26,7 @@ std::vector<VeldraPhysicalPath> VeldraPhysicalDisk::getPaths() const { return _i
 std::vector<VeldraPhysicalPath> VeldraPhysicalDisk::getLastAllPhysicalPaths() const { return *_lastPaths; }
 
 void VeldraPhysicalDisk::setLastAllPhysicalPaths(std::vector<VeldraPhysicalPath>& paths) {
-    _lastPaths = std::make_shared<std::vector<VeldraPhysicalPath> const>(paths);
+    _lastPaths.set(paths);
 }
 
 VeldraPhysicalDiskConfigEnum VeldraPhysicalDisk::getConfiguration() const {

@@ -2,6 +2,7 @@
 // A physical disk as its controller reports it, plus the routes that the
 // caller stored on this copy ("last paths"). Copies are cheap: the facts are
 // shared and immutable, the stored routes are replaced, never edited.
+#include "SharedFacts.h"
 #include "VeldraPhysicalPath.h"
 #include "VeldraTypes.h"
 
@@ -91,6 +92,6 @@ public:
     bool isSameDisk(VeldraPhysicalDisk const& other) const;
 
 private:
-    std::shared_ptr<VeldraPhysicalDiskInfo const> _info;
-    std::shared_ptr<std::vector<VeldraPhysicalPath> const> _lastPaths;
+    SharedFacts<VeldraPhysicalDiskInfo> _info;
+    SharedFacts<std::vector<VeldraPhysicalPath>> _lastPaths;
 };
