@@ -1,0 +1,120 @@
+#include "ModelServer.h"
+
+#include <gtest/gtest.h>
+#include <yaml-cpp/yaml.h>
+
+#include <algorithm>
+#include <set>
+
+// The whole instance graph of the demo scenario as wbemcli sees it: how many
+// instances each class has and the identities of the top-level objects.
+namespace {
+
+const std::string demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
+using Expect = ScenarioExpectation;
+
+class ModelCounts : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() { server = std::make_unique<ModelServer>(demo); }
+    static void TearDownTestSuite() { server.reset(); }
+    static inline std::unique_ptr<ModelServer> server;
+};
+
+std::set<std::string> paths(const std::vector<std::string>& lines) {
+    std::set<std::string> out;
+    for (const auto& line : lines) out.insert(WbemcliClient::localPath(line));
+    return out;
+}
+
+std::string systemKeys(const std::string& className, const std::string& systemName) {
+    return className + ".CreationClassName=\"" + className + "\",Name=\"" + systemName + "\"";
+}
+
+}  // namespace
+
+// Catches a graph step that is skipped, doubled or not registered: every
+// class, association or not, against what the scenario implies.
+TEST_F(ModelCounts, EveryClassHasWhatTheScenarioImplies) {
+    const auto& c = server->client();
+    std::set<std::string> served;
+    for (const auto& line : c.run("ecn", "")) served.insert(WbemcliClient::className(line));
+    for (const auto& [className, count] : server->expected().counts()) {
+        SCOPED_TRACE(className);
+        EXPECT_TRUE(served.count(className)) << "class not served";
+        EXPECT_EQ(static_cast<int>(c.run("ein", className).size()), count);
+    }
+    // The demo is meant to exercise the carried-over lists; guard that intent
+    // against a scenario edit that would make the checks above trivial.
+    EXPECT_GE(server->expected().controllers().size(), 2u);
+    EXPECT_GT(server->expected().counts().at("QLN_VDSpareExtentStorageExtent"), 0);
+    EXPECT_GT(server->expected().counts().at("QLN_VDCacheVolumeStorageVolume"), 0);
+}
+
+// Catches identity drift: systems, controllers, disks and enclosures keyed
+// exactly as the identity rules give them for the scenario's hardware.
+TEST_F(ModelCounts, KeysFollowTheIdentityRules) {
+    const auto& c = server->client();
+    std::set<std::string> systems, controllers, disks, enclosures, processors;
+    for (const auto& ctl : server->expected().controllers()) {
+        ASSERT_FALSE(ctl.serial.empty()) << "the demo's controllers have serial numbers";
+        systems.insert(systemKeys("QLN_VDArraySystem", Expect::systemName(ctl)));
+        controllers.insert(systemKeys("QLN_VDArrayController", Expect::systemName(ctl)));
+        for (const auto& d : ctl.disks)
+            disks.insert("QLN_VDDiskDrive.SystemCreationClassName=\"QLN_VDArraySystem\",CreationClassName="
+                         "\"QLN_VDDiskDrive\",SystemName=\"" + Expect::systemName(ctl) + "\",DeviceID=\"" +
+                         Expect::diskDeviceId(ctl, d) + "\"");
+        for (const auto& e : ctl.enclosures) {
+            enclosures.insert("QLN_VDStorageEnclosure.CreationClassName=\"QLN_VDStorageEnclosure\",Tag=\"" +
+                              Expect::enclosureTag(ctl, e) + "\"");
+            processors.insert(
+                "QLN_VDStorageEnclosureProcessor.CreationClassName=\"QLN_VDStorageEnclosureProcessor\",Name=\"" +
+                Expect::enclosureTag(ctl, e) + "\"");
+        }
+    }
+    EXPECT_EQ(paths(c.run("ein", "QLN_VDArraySystem")), systems);
+    EXPECT_EQ(paths(c.run("ein", "QLN_VDArrayController")), controllers);
+    EXPECT_EQ(paths(c.run("ein", "QLN_VDDiskDrive")), disks);
+    EXPECT_EQ(paths(c.run("ein", "QLN_VDStorageEnclosure")), enclosures);
+    EXPECT_EQ(paths(c.run("ein", "QLN_VDStorageEnclosureProcessor")), processors);
+    // A serial-less disk must be among them, or the location-based rule went untested.
+    bool locationKeyed = false;
+    for (const auto& ctl : server->expected().controllers())
+        for (const auto& d : ctl.disks) locationKeyed |= d.serial.empty();
+    EXPECT_TRUE(locationKeyed);
+}
+
+// Catches the fallback name not being used, or used in one class and not in
+// another: without serial numbers, a controller is named by its location
+// (PCI slot for the first, system board for the second), and the array
+// system, the controller and every disk agree on that name.
+TEST(ModelKeysWithoutSerial, ControllersAreNamedByLocation) {
+    YAML::Node scenario = YAML::LoadFile(demo);
+    for (auto c : scenario["controllers"]) c.remove("serialNumber");
+    YAML::Emitter out;
+    out << scenario;
+    ModelServer server(demo, out.c_str());
+    const auto& c = server.client();
+
+    auto keyValue = [](const std::string& line, const std::string& key) {
+        std::string path = WbemcliClient::localPath(line);
+        size_t at = path.find("," + key + "=\"");
+        if (at == std::string::npos) at = path.find("." + key + "=\"");
+        if (at == std::string::npos) return std::string();
+        at += key.size() + 3;
+        return path.substr(at, path.find('"', at) - at);
+    };
+    std::set<std::string> names;
+    for (const auto& line : c.run("ein", "QLN_VDArraySystem")) names.insert(keyValue(line, "Name"));
+    ASSERT_EQ(names.size(), 2u);
+    for (const char* prefix : {"PCISLOT-", "EMBEDDED-"}) {
+        auto found = std::find_if(names.begin(), names.end(), [&](const std::string& n) {
+            return n.rfind(prefix, 0) == 0 && n.size() > std::string(prefix).size();
+        });
+        EXPECT_NE(found, names.end()) << prefix << " missing";
+    }
+    std::set<std::string> controllerNames, diskSystems;
+    for (const auto& line : c.run("ein", "QLN_VDArrayController")) controllerNames.insert(keyValue(line, "Name"));
+    for (const auto& line : c.run("ein", "QLN_VDDiskDrive")) diskSystems.insert(keyValue(line, "SystemName"));
+    EXPECT_EQ(controllerNames, names);
+    EXPECT_EQ(diskSystems, names);
+}

@@ -1,0 +1,266 @@
+#include "ScenarioExpectation.h"
+
+#include <yaml-cpp/yaml.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+std::string text(const YAML::Node& node, const char* key) {
+    return node[key] ? node[key].as<std::string>() : std::string();
+}
+
+template <typename T>
+T number(const YAML::Node& node, const char* key, T fallback) {
+    return node[key] ? node[key].as<T>() : fallback;
+}
+
+std::vector<unsigned> ids(const YAML::Node& node) {
+    std::vector<unsigned> out;
+    if (node)
+        for (const auto& id : node) out.push_back(id.as<unsigned>());
+    return out;
+}
+
+std::string withoutWhitespace(const std::string& in) {
+    std::string out;
+    std::copy_if(in.begin(), in.end(), std::back_inserter(out), [](unsigned char c) { return !std::isspace(c); });
+    return out;
+}
+
+// The back end tells disks apart by serial number; only a disk without one
+// is known by its box and bay.
+bool sameDisk(const ScenarioExpectation::Disk& member, const ScenarioExpectation::Disk& entry) {
+    if (!entry.serial.empty()) return entry.serial == member.serial;
+    return member.serial.empty() && member.enclosureBox == entry.enclosureBox && member.bay == entry.bay;
+}
+
+// Classes made exactly once for every controller, whatever hangs behind it.
+const char* const perController[] = {
+    "QLN_VDArraySystem", "QLN_VDComputerSystemArraySystem", "QLN_VDSoftwareIdentityDriver",
+    "QLN_VDInstalledSoftwareIdentityDriver", "QLN_VDElementSoftwareIdentityDriver", "QLN_VDPhysicalPackage",
+    "QLN_VDPhysicalPackageArraySystem", "QLN_VDFirmware", "QLN_VDFirmwareArraySystem", "QLN_VDArraySystemFirmware",
+    "QLN_VDPortController", "QLN_VDPortControllerPCIDevice", "QLN_VDArraySystemPortController",
+    "QLN_VDPhysicalPackagePortController", "QLN_VDComputerSystemPortController", "QLN_VDProduct",
+    "QLN_VDProductPhysicalPackage", "QLN_VDArraySystemLocation", "QLN_VDPhysicalPackageArraySystemLocation",
+    "QLN_VDArrayController", "QLN_VDArraySystemArrayController", "QLN_VDArrayControllerPhysicalPackage",
+    "QLN_VDArrayControllerPhysicalPackageArrayController", "QLN_VDPhysicalPackageArrayControllerPhysicalPackage",
+    "QLN_VDArrayControllerLocation", "QLN_VDArrayControllerPhysicalPackageArrayControllerLocation", "QLN_VDDAPort",
+    "QLN_VDArraySystemDAPort", "QLN_VDSCSIProtocolEndpoint", "QLN_VDArraySystemSCSIProtocolEndpoint",
+    "QLN_VDDAPortSCSIProtocolEndpoint", "QLN_VDSCSIProtocolController", "QLN_VDArraySystemSCSIProtocolController",
+    "QLN_VDSCSIProtocolEndpointSCSIProtocolController", "QLN_VDPrimordialPool", "QLN_VDPrimordialPoolStorageCapabilities",
+    "QLN_VDArraySystemPrimordialPool",
+    // the one concrete pool
+    "QLN_VDStoragePool", "QLN_VDStoragePoolStorageCapabilities", "QLN_VDArraySystemStoragePool",
+    "QLN_VDPrimordialPoolStoragePool",
+    // the controller's PCI function, served by the host provider
+    "QLN_PCIDevice"};
+
+const char* const perInitiatorPort[] = {"QLN_VDISASPort", "QLN_VDArraySystemISASPort", "QLN_VDISASSCSIProtocolEndpoint",
+                                        "QLN_VDArraySystemISASSCSIProtocolEndpoint",
+                                        "QLN_VDISASPortISASSCSIProtocolEndpoint", "QLN_VDPortControllerISASPort"};
+
+const char* const perEnclosure[] = {"QLN_VDStorageEnclosure", "QLN_VDPhysicalPackageStorageEnclosure",
+                                    "QLN_VDStorageEnclosureLocation", "QLN_VDStorageEnclosureEnclosureLocation",
+                                    "QLN_VDStorageEnclosureProcessor", "QLN_VDStorageEnclosureStorageEnclosureProcessor",
+                                    "QLN_VDArraySystemStorageEnclosureProcessor", "QLN_VDDriveCage",
+                                    "QLN_VDDriveCageLocation", "QLN_VDDriveCageDriveCageLocation",
+                                    "QLN_VDStorageEnclosureDriveCage"};
+const char* const perEnclosureFirmware[] = {"QLN_VDEnclosureFirmware", "QLN_VDStorageEnclosureProcessorEnclosureFirmware"};
+
+const char* const perDisk[] = {"QLN_VDDiskDrive", "QLN_VDArraySystemDiskDrive", "QLN_VDStorageExtent",
+                               "QLN_VDArraySystemStorageExtent", "QLN_VDDiskDriveStorageExtent",
+                               "QLN_VDDiskPhysicalPackage", "QLN_VDDiskPhysicalPackageDiskDrive",
+                               "QLN_VDDiskDriveLocation", "QLN_VDDiskPhysicalPackageDiskDriveLocation"};
+const char* const perDiskPath[] = {"QLN_VDTSASPort", "QLN_VDArraySystemTSASPort", "QLN_VDTSASSCSIProtocolEndpoint",
+                                   "QLN_VDArraySystemTSASSCSIProtocolEndpoint", "QLN_VDTSASPortTSASSCSIProtocolEndpoint",
+                                   "QLN_VDDiskDriveTSASSCSIProtocolEndpoint"};
+const char* const perDiskFirmware[] = {"QLN_VDDiskDriveFirmware", "QLN_VDDiskDriveDiskDriveFirmware"};
+const char* const perCarrier[] = {"QLN_VDLumenDriveCarrierAppFirmware", "QLN_VDLumenDrvCarrierAppElementFirmwareIdentity",
+                                  "QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity",
+                                  "QLN_VDLumenDriveCarrierBootldrFirmware",
+                                  "QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity",
+                                  "QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity"};
+const char* const perStatistics[] = {"QLN_VDMediaAccessStatData", "QLN_VDDiskDriveMediaAccessStatData"};
+
+const char* const perVolume[] = {"QLN_VDStorageVolume", "QLN_VDArraySystemStorageVolume",
+                                 "QLN_VDSCSIProtocolControllerStorageVolume", "QLN_VDStorageSetting",
+                                 "QLN_VDStorageVolumeStorageSetting"};
+
+}  // namespace
+
+ScenarioExpectation::ScenarioExpectation(const std::string& scenarioFile) {
+    _load(scenarioFile);
+    _count();
+}
+
+void ScenarioExpectation::_load(const std::string& scenarioFile) {
+    YAML::Node root = YAML::LoadFile(scenarioFile);
+    int index = 0;
+    for (const auto& c : root["controllers"]) {
+        Controller controller;
+        controller.index = ++index;
+        controller.serial = text(c, "serialNumber");
+        if (c["ports"])
+            for (const auto& p : c["ports"]) controller.ports.push_back(p.as<std::string>());
+        for (const auto& e : c["enclosures"]) {
+            Enclosure enclosure;
+            enclosure.enclosureBox = number(e, "enclosureBoxNumber", 0);
+            enclosure.box = number(e, "boxNumber", 0);
+            enclosure.fwVersion = text(e, "fwVersion");
+            controller.enclosures.push_back(enclosure);
+        }
+        for (const auto& d : c["physicalDisks"]) {
+            Disk disk;
+            disk.id = number(d, "id", 0u);
+            disk.serial = text(d, "serialNumber");
+            disk.model = text(d, "model");
+            disk.box = number(d, "box", 0);
+            disk.enclosureBox = number(d, "enclosureBoxNumber", 0);
+            disk.bay = number(d, "bay", 0);
+            disk.configuration = number(d, "configuration", 1u);
+            disk.mnpData = number(d, "mnpData", false);
+            disk.carrierAuthStatus = number(d, "carrierAuthStatus", 0u);
+            if (d["paths"])
+                for (const auto& p : d["paths"]) disk.paths.push_back({text(p, "port")});
+            controller.disks.push_back(disk);
+        }
+        for (const auto& v : c["logicalDisks"]) {
+            Volume volume;
+            volume.number = number(v, "number", 0u);
+            volume.serial = text(v, "serialNumber");
+            volume.type = number(v, "volumeType", 0u);
+            volume.relatedLun = number(v, "relatedLUN", 0u);
+            volume.dataDisks = ids(v["dataDisks"]);
+            volume.spareDisks = ids(v["spareDisks"]);
+            if (v["replaced"])
+                for (const auto& r : v["replaced"]) volume.replaced[r.first.as<unsigned>()] = r.second.as<unsigned>();
+            controller.volumes.push_back(volume);
+        }
+        _controllers.push_back(controller);
+    }
+    if (_controllers.empty()) throw std::runtime_error(scenarioFile + ": no controllers");
+}
+
+void ScenarioExpectation::_add(const std::string& className, int n) { _counts[className] += n; }
+
+// The graph builder carries its pool, cage, initiator, extent and cache
+// volume lists from one controller to the next; the counts follow it.
+void ScenarioExpectation::_count() {
+    // Every class appears in the table, with 0 where the scenario gives none.
+    auto zero = [this](auto& names) {
+        for (const char* name : names) _counts[name] += 0;
+    };
+    zero(perController), zero(perInitiatorPort), zero(perEnclosure), zero(perEnclosureFirmware), zero(perDisk);
+    zero(perDiskPath), zero(perDiskFirmware), zero(perCarrier), zero(perStatistics), zero(perVolume);
+    for (const char* name :
+         {"QLN_VDStorageCapabilities", "QLN_VDSCSIInitiatorTargetLogicalUnitPath", "QLN_VDStoragePoolStorageExtent",
+          "QLN_VDDriveCageDiskPhysicalPackage", "QLN_VDStoragePoolStorageVolume", "QLN_VDStorageExtentStorageVolume",
+          "QLN_VDStorageRedundancySet", "QLN_VDSpareExtentStorageRedundancySet", "QLN_VDSpareExtentStorageExtent",
+          "QLN_VDStorageRedundancySetStorageExtent", "QLN_VDCacheVolumeStorageVolume"})
+        _counts[name] += 0;
+
+    int pools = 0;
+    std::vector<int> cageBoxes;
+    std::vector<Disk> spares, nonSpares;
+    std::vector<Volume> cached, caches;
+    for (const Controller& c : _controllers) {
+        for (const char* name : perController) _add(name);
+        _add("QLN_VDStorageCapabilities", 2);  // the primordial pool's and the concrete pool's
+        ++pools;
+        for (const char* name : perInitiatorPort) _add(name, static_cast<int>(c.ports.size()));
+
+        for (const Enclosure& e : c.enclosures) {
+            for (const char* name : perEnclosure) _add(name);
+            if (!e.fwVersion.empty())
+                for (const char* name : perEnclosureFirmware) _add(name);
+            cageBoxes.push_back(e.box);
+        }
+
+        for (const Disk& d : c.disks) {
+            for (const char* name : perDisk) _add(name);
+            for (const Path& p : d.paths) {
+                for (const char* name : perDiskPath) _add(name);
+                _add("QLN_VDSCSIInitiatorTargetLogicalUnitPath",
+                     static_cast<int>(std::count(c.ports.begin(), c.ports.end(), p.port)));
+            }
+            if (d.configuration == 2) {
+                _add("QLN_VDStoragePoolStorageExtent", pools);
+                nonSpares.push_back(d);
+            } else if (d.configuration == 3) {
+                spares.push_back(d);
+            }
+            if (!d.serial.empty()) {
+                for (const char* name : perDiskFirmware) _add(name);
+                if (d.carrierAuthStatus == 2)
+                    for (const char* name : perCarrier) _add(name);
+            }
+            _add("QLN_VDDriveCageDiskPhysicalPackage",
+                 static_cast<int>(std::count(cageBoxes.begin(), cageBoxes.end(), d.box)));
+            if (d.mnpData)
+                for (const char* name : perStatistics) _add(name);
+        }
+
+        for (const Volume& v : c.volumes) {
+            for (const char* name : perVolume) _add(name);
+            _add("QLN_VDStoragePoolStorageVolume", pools);
+            std::vector<const Disk*> m = members(c, v);
+            int extents = 0;
+            for (const Disk& e : nonSpares)
+                for (const Disk* d : m) extents += sameDisk(*d, e);
+            _add("QLN_VDStorageExtentStorageVolume", extents);
+            int spareLinks = 0;
+            for (const Disk& s : spares)
+                for (const Disk* d : m) {
+                    if (!sameDisk(*d, s)) continue;
+                    ++spareLinks;
+                    auto replaced = v.replaced.find(d->id);
+                    if (replaced == v.replaced.end()) continue;
+                    for (const Disk* stoodFor : m)
+                        if (stoodFor->id == replaced->second &&
+                            std::any_of(nonSpares.begin(), nonSpares.end(),
+                                        [&](const Disk& n) { return sameDisk(*stoodFor, n); }))
+                            _add("QLN_VDSpareExtentStorageExtent");
+                }
+            if (spareLinks > 0) {
+                _add("QLN_VDStorageRedundancySet");
+                _add("QLN_VDSpareExtentStorageRedundancySet", spareLinks);
+                _add("QLN_VDStorageRedundancySetStorageExtent", extents);
+            }
+            if (v.type == 2) cached.push_back(v);
+            if (v.type == 3) caches.push_back(v);
+        }
+        for (const Volume& a : cached)
+            for (const Volume& b : caches)
+                if ((a.relatedLun & 0xffff) == b.number) _add("QLN_VDCacheVolumeStorageVolume");
+    }
+    _add("QLN_VDStorageSpecificCollection");
+    _add("QLN_VDStorageGroupHostedCollection");
+    _add("QLN_VDStorageSpecificCollectionArraySystem", static_cast<int>(_controllers.size()));
+    _add("QLN_ComputerSystem");
+    _add("QLN_Chassis");
+    _add("QLN_AutoStartVeldra");
+}
+
+std::string ScenarioExpectation::systemName(const Controller& c) { return c.serial; }
+
+std::string ScenarioExpectation::diskDeviceId(const Controller& c, const Disk& d) {
+    std::string serial = withoutWhitespace(d.serial);
+    if (serial.empty())
+        return std::to_string(c.index) + "-" + std::to_string(d.enclosureBox) + ":" + std::to_string(d.bay);
+    return withoutWhitespace(d.model) + "-" + serial;
+}
+
+std::string ScenarioExpectation::enclosureTag(const Controller& c, const Enclosure& e) {
+    return std::to_string(c.index) + "-" + std::to_string(e.enclosureBox);
+}
+
+std::vector<const ScenarioExpectation::Disk*> ScenarioExpectation::members(const Controller& c, const Volume& v) {
+    std::vector<const Disk*> out;
+    for (const auto* list : {&v.dataDisks, &v.spareDisks})
+        for (unsigned id : *list)
+            for (const Disk& d : c.disks)
+                if (d.id == id) out.push_back(&d);
+    return out;
+}
