@@ -1,14 +1,11 @@
 #include "QLN_VDDAPort.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDDAPort";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 
 struct StatusView {
     unsigned short operational;
@@ -47,28 +44,17 @@ namespace QLN {
 
 QLN_VDDAPort::QLN_VDDAPort(Logger& logger, std::string const& nameSpace,
                            unsigned int controllerIndex, VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller,
+                               "DeviceID") {}
 
 std::string QLN_VDDAPort::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
                                                    std::to_string(_controllerIndex));
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDDAPort::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDDAPort::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("DeviceID", _keyValue(data));
     instance.addProperty("ElementName", ControllerLocationText::withExternal(data));
     instance.addProperty("PortType", portTypeOf(data));

@@ -1,7 +1,7 @@
 #pragma once
 // The controller's port towards the host bus: one per controller, carrying
 // the controller's own status and how the card is attached.
-#include "ControllerManagedInstance.h"
+#include "ControllerDeviceInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,16 +9,15 @@
 
 namespace QLN {
 
-class QLN_VDDAPort : public ControllerManagedInstance {
+class QLN_VDDAPort : public ControllerDeviceInstance {
 public:
     QLN_VDDAPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                  VeldraController* controller);
 
-    CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
 private:
-    std::string _keyValue(VeldraControllerData const& data) const;
+    std::string _keyValue(VeldraControllerData const& data) const override;
 };
 
 } // namespace QLN

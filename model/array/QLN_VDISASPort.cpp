@@ -1,13 +1,10 @@
 #include "QLN_VDISASPort.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDISASPort";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 unsigned short const sasPortType = 94;
 } // namespace
 
@@ -16,7 +13,8 @@ namespace QLN {
 QLN_VDISASPort::QLN_VDISASPort(Logger& logger, std::string const& nameSpace,
                                unsigned int controllerIndex, VeldraController* controller,
                                std::string const& port)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller,
+                               "DeviceID"),
       _port(port) {}
 
 std::string QLN_VDISASPort::_keyValue(VeldraControllerData const& data) const {
@@ -25,21 +23,9 @@ std::string QLN_VDISASPort::_keyValue(VeldraControllerData const& data) const {
            ":" + _port;
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDISASPort::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("DeviceID", _keyValue(data));
     instance.addProperty("PortType", sasPortType);
     std::string const name = "Port:" + _port;

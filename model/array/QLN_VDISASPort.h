@@ -1,7 +1,7 @@
 #pragma once
 // One SAS port of the controller, the initiator side of the paths to the
 // disks: one instance for each port the controller reports.
-#include "ControllerManagedInstance.h"
+#include "ControllerDeviceInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,19 +9,18 @@
 
 namespace QLN {
 
-class QLN_VDISASPort : public ControllerManagedInstance {
+class QLN_VDISASPort : public ControllerDeviceInstance {
 public:
     QLN_VDISASPort(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                    VeldraController* controller, std::string const& port);
 
-    CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
     // The graph matches disks' paths to initiators by port and controller number.
     std::string const& getPort() const { return _port; }
 
 private:
-    std::string _keyValue(VeldraControllerData const& data) const;
+    std::string _keyValue(VeldraControllerData const& data) const override;
 
     std::string _port;
 };

@@ -1,13 +1,10 @@
 #include "QLN_VDISASSCSIProtocolEndpoint.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDISASSCSIProtocolEndpoint";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 } // namespace
 
 namespace QLN {
@@ -17,7 +14,7 @@ QLN_VDISASSCSIProtocolEndpoint::QLN_VDISASSCSIProtocolEndpoint(Logger& logger,
                                                                unsigned int controllerIndex,
                                                                VeldraController* controller,
                                                                std::string const& port)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller, "Name"),
       _port(port) {}
 
 std::string QLN_VDISASSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
@@ -26,21 +23,9 @@ std::string QLN_VDISASSCSIProtocolEndpoint::_keyValue(VeldraControllerData const
            ":" + _port;
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDISASSCSIProtocolEndpoint::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDISASSCSIProtocolEndpoint::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("Name", _keyValue(data));
     std::string const name = "Protocol Endpoint for Port:" + _port;
     instance.addProperty("ElementName", name);

@@ -1,7 +1,7 @@
 #pragma once
 // The SCSI initiator endpoint on one SAS port of the controller; the disks'
 // paths start here.
-#include "ControllerManagedInstance.h"
+#include "ControllerDeviceInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,20 +9,19 @@
 
 namespace QLN {
 
-class QLN_VDISASSCSIProtocolEndpoint : public ControllerManagedInstance {
+class QLN_VDISASSCSIProtocolEndpoint : public ControllerDeviceInstance {
 public:
     QLN_VDISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
                                    unsigned int controllerIndex, VeldraController* controller,
                                    std::string const& port);
 
-    CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
     // The graph matches disks' paths to initiators by port and controller number.
     std::string const& getPort() const { return _port; }
 
 private:
-    std::string _keyValue(VeldraControllerData const& data) const;
+    std::string _keyValue(VeldraControllerData const& data) const override;
 
     std::string _port;
 };

@@ -1,14 +1,11 @@
 #include "QLN_VDPortController.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDPortController";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 
 struct StatusView {
     unsigned short operational;
@@ -45,30 +42,19 @@ namespace QLN {
 QLN_VDPortController::QLN_VDPortController(Logger& logger, std::string const& nameSpace,
                                            unsigned int controllerIndex,
                                            VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller,
+                               "DeviceID") {}
 
-std::string QLN_VDPortController::_deviceId(VeldraControllerData const& data) const {
+std::string QLN_VDPortController::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
                                                    std::to_string(_controllerIndex));
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDPortController::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _deviceId(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("ElementName", ControllerLocationText::withoutExternal(data));
-    instance.addProperty("DeviceID", _deviceId(data));
+    instance.addProperty("DeviceID", _keyValue(data));
 
     StatusView const status = statusOf(data);
     instance.addProperty("HealthState", status.health);

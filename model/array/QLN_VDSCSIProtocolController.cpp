@@ -1,14 +1,11 @@
 #include "QLN_VDSCSIProtocolController.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDSCSIProtocolController";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 // Logical units one controller presents to the host.
 unsigned int const maxUnitsControlled = 32;
 } // namespace
@@ -19,28 +16,17 @@ QLN_VDSCSIProtocolController::QLN_VDSCSIProtocolController(Logger& logger,
                                                            std::string const& nameSpace,
                                                            unsigned int controllerIndex,
                                                            VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller,
+                               "DeviceID") {}
 
 std::string QLN_VDSCSIProtocolController::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
                                                    std::to_string(_controllerIndex));
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolController::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "DeviceID", _keyValue(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("DeviceID", _keyValue(data));
     instance.addProperty("ElementName", ControllerLocationText::withExternal(data));
     instance.addProperty("MaxUnitsControlled", maxUnitsControlled);

@@ -1,14 +1,11 @@
 #include "QLN_VDSCSIProtocolEndpoint.h"
 
-#include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "QLNUtil.h"
 #include "VDArrayValues.h"
 
 namespace {
 char const* const className = "QLN_VDSCSIProtocolEndpoint";
-char const* const arraySystemClass = "QLN_VDArraySystem";
 } // namespace
 
 namespace QLN {
@@ -16,28 +13,16 @@ namespace QLN {
 QLN_VDSCSIProtocolEndpoint::QLN_VDSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
                                                        unsigned int controllerIndex,
                                                        VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
+    : ControllerDeviceInstance(logger, className, nameSpace, controllerIndex, controller, "Name") {}
 
 std::string QLN_VDSCSIProtocolEndpoint::_keyValue(VeldraControllerData const& data) const {
     return ControllerDeviceKey::serialOr(data, std::string(className) + "-" +
                                                    std::to_string(_controllerIndex));
 }
 
-CmpiCpp::CmpiObjectPath QLN_VDSCSIProtocolEndpoint::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    return ControllerDeviceKey::path(_namespace, className, "Name", _keyValue(data), data,
-                                     _controllerIndex);
-}
-
 CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    VeldraControllerData data = _lastData();
+    CmpiCpp::CmpiInstance instance = _newInstance(data);
     instance.addProperty("Name", _keyValue(data));
     instance.addProperty("ElementName", ControllerLocationText::withoutExternal(data));
     instance.addProperty("ProtocolIFType", static_cast<unsigned short>(1));
