@@ -1,4 +1,4 @@
-# veldra_add_test(NAME SOURCES a.cpp ... LIBS lib ... [LABELS l ...] [CONCURRENCY])
+# veldra_add_test(NAME SOURCES a.cpp ... LIBS lib ... [LABELS label] [CONCURRENCY])
 # A GoogleTest executable registered with CTest. CONCURRENCY marks it for the
 # second run under the thread sanitizer that scripts/test does.
 include(GoogleTest)
@@ -9,13 +9,15 @@ function(veldra_add_test name)
   target_compile_definitions(${name} PRIVATE
     VELDRA_SOURCE_DIR="${VELDRA_SOURCE_DIR}" VELDRA_DATA_DIR="${VELDRA_DATA_DIR}"
     VELDRA_BIN_DIR="${CMAKE_BINARY_DIR}/bin" VELDRA_LIB_DIR="${CMAKE_BINARY_DIR}/lib")
-  set(labels ${T_LABELS})
-  if(NOT labels)
-    set(labels unit)
+  # One label per test: gtest_discover_tests writes the value unquoted, so a
+  # list would turn into stray properties.
+  set(label unit)
+  if(T_LABELS)
+    set(label ${T_LABELS})
   endif()
   if(T_CONCURRENCY)
-    list(APPEND labels concurrency)
+    set(label concurrency)
     set_property(GLOBAL APPEND PROPERTY VELDRA_TSAN_TARGETS ${name})
   endif()
-  gtest_discover_tests(${name} PROPERTIES LABELS "${labels}" DISCOVERY_TIMEOUT 120)
+  gtest_discover_tests(${name} PROPERTIES LABELS ${label} DISCOVERY_TIMEOUT 120)
 endfunction()
