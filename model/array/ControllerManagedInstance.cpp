@@ -1,5 +1,8 @@
 #include "ControllerManagedInstance.h"
 
+#include "CmpiBroker.h"
+#include "QLNUtil.h"
+
 namespace QLN {
 
 ControllerManagedInstance::ControllerManagedInstance(Logger& logger, char const* className,
@@ -26,6 +29,16 @@ VeldraControllerData ControllerManagedInstance::_lastData() const {
     VeldraControllerData data;
     _controller->getLastVDData(data);
     return data;
+}
+
+CmpiCpp::CmpiObjectPath ControllerManagedInstance::_keyedPath(char const* keyName,
+                                                              std::string const& keyValue) const {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
+    path.setHost(QLNUtil::getHostName());
+    path.addKey("CreationClassName", _className);
+    path.addKey(keyName, keyValue);
+    return path;
 }
 
 } // namespace QLN

@@ -28,6 +28,8 @@ protected:
     // The controller's data as the last read left it.
     VeldraControllerData _lastData() const;
     char const* _cimClassName() const { return _className; }
+    // A path on this host keyed by CreationClassName and one key of the class's own.
+    CmpiCpp::CmpiObjectPath _keyedPath(char const* keyName, std::string const& keyValue) const;
 
     std::string const _namespace;
     Logger _logger;

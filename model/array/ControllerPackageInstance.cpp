@@ -29,15 +29,10 @@ ControllerPackageInstance::ControllerPackageInstance(Logger& logger, char const*
 
 CmpiCpp::CmpiObjectPath ControllerPackageInstance::getPath() const {
     VeldraControllerData data = _lastData();
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", _cimClassName());
     // The controller's name scoped by the class, so the two packages of one
     // controller keep apart.
-    path.addKey("Tag", std::string(_cimClassName()) + "-" +
-                           getControllerName(data, static_cast<int>(_controllerIndex)));
-    return path;
+    return _keyedPath("Tag", std::string(_cimClassName()) + "-" +
+                                 getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance ControllerPackageInstance::getInstance() const {

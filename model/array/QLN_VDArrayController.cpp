@@ -5,6 +5,7 @@
 #include "IdentityHelpers.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
+#include "VDArrayValues.h"
 
 namespace {
 
@@ -129,14 +130,8 @@ QLN_VDArrayController::QLN_VDArrayController(Logger& logger, std::string const& 
       _firstStatus(true) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayController::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
-    return path;
+    VeldraControllerData data = _lastData();
+    return _keyedPath("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
@@ -153,27 +148,18 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     instance.addProperty("ElementName", element);
     instance.addProperty("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
     instance.addProperty("NameFormat", "Other");
-    CmpiCpp::CmpiArray otherInfo = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    otherInfo.setElementAt(0, element);
-    instance.addProperty("OtherIdentifyingInfo", otherInfo);
-    CmpiCpp::CmpiArray descriptions = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    descriptions.setElementAt(0, "Other Vendor Specific Name");
-    instance.addProperty("IdentifyingDescriptions", descriptions);
+    instance.addProperty("OtherIdentifyingInfo", VDArrayValues::strings({element}));
+    instance.addProperty("IdentifyingDescriptions",
+                         VDArrayValues::strings({"Other Vendor Specific Name"}));
 
     instance.addProperty("HealthState", view.health);
-    CmpiCpp::CmpiArray operational = CmpiCpp::makeCmpiArray(broker, 1, CMPI_uint16);
-    operational.setElementAt(0, view.operational);
-    instance.addProperty("OperationalStatus", operational);
-    CmpiCpp::CmpiArray statusText = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    statusText.setElementAt(0, view.text);
-    instance.addProperty("StatusDescriptions", statusText);
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({view.operational}));
+    instance.addProperty("StatusDescriptions", VDArrayValues::strings({view.text}));
 
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
-    CmpiCpp::CmpiArray dedicated = CmpiCpp::makeCmpiArray(broker, 1, CMPI_uint16);
-    dedicated.setElementAt(0, static_cast<unsigned short>(0));
-    instance.addProperty("Dedicated", dedicated);
+    instance.addProperty("Dedicated", VDArrayValues::uint16s({0}));
 
     addEnumIfRead<DPGSupportedTypeEnum>(instance, "DPGSupported", data, &D::getDPGSupportedType);
     addEnumIfRead<rebuildPriorityEnum>(instance, "RebuildPriority", data, &D::getRebuildPriority);

@@ -5,6 +5,7 @@
 #include "CmpiStatus.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
+#include "VDArrayValues.h"
 
 namespace {
 
@@ -68,14 +69,8 @@ QLN_VDArraySystem::QLN_VDArraySystem(Logger& logger, std::string const& nameSpac
       _status(statusOk), _statusText(textOk) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystem::getPath() const {
-    VeldraControllerData data;
-    _controller->getLastVDData(data);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
-    return path;
+    VeldraControllerData data = _lastData();
+    return _keyedPath("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
@@ -92,28 +87,18 @@ CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
     instance.addProperty("Name", name);
     instance.addProperty("NameFormat", "Other");
 
-    CmpiCpp::CmpiArray otherInfo = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    otherInfo.setElementAt(0, name);
-    instance.addProperty("OtherIdentifyingInfo", otherInfo);
-    CmpiCpp::CmpiArray descriptions = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    descriptions.setElementAt(0, "Other Vendor Specific Name");
-    instance.addProperty("IdentifyingDescriptions", descriptions);
+    instance.addProperty("OtherIdentifyingInfo", VDArrayValues::strings({name}));
+    instance.addProperty("IdentifyingDescriptions",
+                         VDArrayValues::strings({"Other Vendor Specific Name"}));
 
     instance.addProperty("HealthState", health.health);
-    CmpiCpp::CmpiArray operational = CmpiCpp::makeCmpiArray(broker, 1, CMPI_uint16);
-    operational.setElementAt(0, health.operational);
-    instance.addProperty("OperationalStatus", operational);
-    CmpiCpp::CmpiArray statusText = CmpiCpp::makeCmpiArray(broker, 1, CMPI_string);
-    statusText.setElementAt(0, _statusText);
-    instance.addProperty("StatusDescriptions", statusText);
+    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({health.operational}));
+    instance.addProperty("StatusDescriptions", VDArrayValues::strings({_statusText}));
 
     instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
     instance.addProperty("EnabledState", static_cast<unsigned short>(5));
     instance.addProperty("RequestedState", static_cast<unsigned short>(12));
-    CmpiCpp::CmpiArray dedicated = CmpiCpp::makeCmpiArray(broker, 2, CMPI_uint16);
-    dedicated.setElementAt(0, static_cast<unsigned short>(3));
-    dedicated.setElementAt(1, static_cast<unsigned short>(15));
-    instance.addProperty("Dedicated", dedicated);
+    instance.addProperty("Dedicated", VDArrayValues::uint16s({3, 15}));
     return instance;
 }
 
