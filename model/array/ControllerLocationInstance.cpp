@@ -1,8 +1,8 @@
 #include "ControllerLocationInstance.h"
 
-#include "CmpiArray.h"
 #include "CmpiBroker.h"
 #include "IdentityHelpers.h"
+#include "LocationInfoProperties.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
 
@@ -43,21 +43,8 @@ CmpiCpp::CmpiInstance ControllerLocationInstance::getInstance() const {
     instance.addProperty("Description", display);
     instance.addProperty("ElementName", display);
     // The parts of the location, outermost first; only when the location is known.
-    if (located) {
-        std::vector<std::string> names;
-        std::vector<unsigned short> numbers;
-        QLNPhysloc::createLocationInfoVectors(location, names, numbers);
-        CmpiCpp::CmpiArray codes =
-            CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
-        CmpiCpp::CmpiArray texts =
-            CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
-        for (unsigned int i = 0; i < numbers.size(); ++i)
-            codes.setElementAt(i, numbers[i]);
-        for (unsigned int i = 0; i < names.size(); ++i)
-            texts.setElementAt(i, names[i]);
-        instance.addProperty("LocationInformation", codes);
-        instance.addProperty("LocationInfoDesc", texts);
-    }
+    if (located)
+        LocationInfoProperties::add(instance, location);
     return instance;
 }
 

@@ -1,11 +1,7 @@
 #include "EnclosureLocationInfo.h"
 
-#include "CmpiArray.h"
-#include "CmpiBroker.h"
+#include "LocationInfoProperties.h"
 #include "QLNPhysloc.h"
-#include "QLNUtil.h"
-
-#include <vector>
 
 namespace QLN {
 
@@ -24,20 +20,7 @@ std::string EnclosureLocationInfo::text(VeldraController* controller, int boxNum
 
 void EnclosureLocationInfo::add(CmpiCpp::CmpiInstance& instance, VeldraController* controller,
                                 int boxNumber) {
-    std::vector<std::string> names;
-    std::vector<unsigned short> numbers;
-    QLNPhysloc::createLocationInfoVectors(text(controller, boxNumber), names, numbers);
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiArray codes =
-        CmpiCpp::makeCmpiArray(broker, static_cast<int>(numbers.size()), CMPI_uint16);
-    CmpiCpp::CmpiArray texts =
-        CmpiCpp::makeCmpiArray(broker, static_cast<int>(names.size()), CMPI_string);
-    for (unsigned int i = 0; i < numbers.size(); ++i)
-        codes.setElementAt(i, numbers[i]);
-    for (unsigned int i = 0; i < names.size(); ++i)
-        texts.setElementAt(i, names[i]);
-    instance.addProperty("LocationInformation", codes);
-    instance.addProperty("LocationInfoDesc", texts);
+    LocationInfoProperties::add(instance, text(controller, boxNumber));
 }
 
 } // namespace QLN
