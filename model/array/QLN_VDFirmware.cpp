@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
+#include "VersionProperties.h"
 
 namespace {
 char const* const className = "QLN_VDFirmware";
@@ -51,17 +52,7 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
 
     std::string version;
     if (data.getFWVersion(version) == 0) {
-        instance.addProperty("VersionString", version);
-        // A version the parser does not accept still shows as text; the
-        // numbers appear only when they are trustworthy.
-        if (QLNUtil::validateVersion(version)) {
-            unsigned short major = 0;
-            unsigned short minor = 0;
-            if (QLNUtil::stringVersionToMajor(version, major))
-                instance.addProperty("MajorVersion", major);
-            if (QLNUtil::stringVersionToMinor(version, minor))
-                instance.addProperty("MinorVersion", minor);
-        }
+        VersionProperties::add(instance, version);
     }
 
     std::string model;

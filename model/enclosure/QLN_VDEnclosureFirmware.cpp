@@ -4,6 +4,7 @@
 #include "EnclosureSnapshot.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
+#include "VersionProperties.h"
 
 namespace {
 char const* const className = "QLN_VDEnclosureFirmware";
@@ -67,17 +68,7 @@ CmpiCpp::CmpiInstance QLN_VDEnclosureFirmware::getInstance() const {
 
     std::string const version = enclosure.getFWVersion();
     if (!version.empty()) {
-        instance.addProperty("VersionString", version);
-        // A version the parser does not accept still shows as text; the
-        // numbers appear only when they are trustworthy.
-        if (QLNUtil::validateVersion(version)) {
-            unsigned short major = 0;
-            unsigned short minor = 0;
-            if (QLNUtil::stringVersionToMajor(version, major))
-                instance.addProperty("MajorVersion", major);
-            if (QLNUtil::stringVersionToMinor(version, minor))
-                instance.addProperty("MinorVersion", minor);
-        }
+        VersionProperties::add(instance, version);
     }
 
     std::string const model = enclosure.getModel();

@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
+#include "VersionProperties.h"
 
 namespace {
 char const* const notFound =
@@ -50,16 +51,7 @@ CmpiCpp::CmpiInstance DiskFirmwareIdentity::getInstance() const {
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
 
     std::string const version = _version(disk);
-    instance.addProperty("VersionString", version);
-    // The numbers appear only when the text parses; the text shows either way.
-    if (QLNUtil::validateVersion(version)) {
-        unsigned short major = 0;
-        unsigned short minor = 0;
-        if (QLNUtil::stringVersionToMajor(version, major))
-            instance.addProperty("MajorVersion", major);
-        if (QLNUtil::stringVersionToMinor(version, minor))
-            instance.addProperty("MinorVersion", minor);
-    }
+    VersionProperties::add(instance, version);
 
     std::string const model = disk.getModel();
     instance.addProperty("ElementName", _title);
