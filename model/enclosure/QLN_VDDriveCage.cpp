@@ -16,20 +16,11 @@ namespace QLN {
 QLN_VDDriveCage::QLN_VDDriveCage(Logger& logger, std::string const& nameSpace,
                                  unsigned int controllerIndex, VeldraEnclosure const& enclosure,
                                  VeldraController* controller)
-    : _namespace(nameSpace), _boxNumber(enclosure.getBoxNumber()),
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _boxNumber(enclosure.getBoxNumber()),
       _enclosureBoxNumber(static_cast<int>(enclosure.getEnclosureBoxNumber())),
-      _controllerIndex(controllerIndex), _serialNumber(enclosure.getSerialNumber()),
-      _paths(enclosure.getLastAllPhysicalPaths()), _portString(pathsToPortStr(_paths)),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDDriveCage::~QLN_VDDriveCage() {
-    _logger.info("dxtor()");
-}
+      _serialNumber(enclosure.getSerialNumber()), _paths(enclosure.getLastAllPhysicalPaths()),
+      _portString(pathsToPortStr(_paths)) {}
 
 std::string QLN_VDDriveCage::getTag() const {
     // The enclosure box number, not the box number shown to people: only the
@@ -70,14 +61,12 @@ CmpiCpp::CmpiInstance QLN_VDDriveCage::getInstance() const {
     instance.addProperty("Version", notAvailable);
     instance.addProperty("Description", "Veldra Drive Cage");
     instance.addProperty("RemovalConditions", static_cast<unsigned short>(2));
-    instance.addProperty("BackplaneSpeed", static_cast<unsigned short>(enclosure.getBackplaneSpeed()));
+    instance.addProperty("BackplaneSpeed",
+                         static_cast<unsigned short>(enclosure.getBackplaneSpeed()));
     instance.addProperty("DriveBays", static_cast<unsigned int>(enclosure.getDriveBays()));
-    instance.addProperty("DuplexLocation", static_cast<unsigned short>(enclosure.getDuplexLocation()));
+    instance.addProperty("DuplexLocation",
+                         static_cast<unsigned short>(enclosure.getDuplexLocation()));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDDriveCage::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

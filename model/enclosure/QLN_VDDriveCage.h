@@ -2,7 +2,7 @@
 // The backplane of an enclosure with the bays that hold its disks, as a
 // physical package. Disk packages are tied to the cage of their box, which
 // is why the graph keeps each cage's box number and routes beside it.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraEnclosure.h"
@@ -13,17 +13,15 @@
 
 namespace QLN {
 
-class QLN_VDDriveCage : public CmpiManagedInstance {
+class QLN_VDDriveCage : public ControllerManagedInstance {
 public:
     QLN_VDDriveCage(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                     VeldraEnclosure const& enclosure, VeldraController* controller);
-    ~QLN_VDDriveCage() override;
 
     // Built from the identity alone: usable after the enclosure has gone.
     CmpiCpp::CmpiObjectPath getPath() const override;
     // Throws CmpiStatus with code 100 when the enclosure left the snapshot.
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // "QLN_VDDriveCage-<controller>-<enclosure box number>".
     std::string getTag() const;
@@ -32,18 +30,13 @@ public:
     std::vector<VeldraPhysicalPath> getPaths() const { return _paths; }
     std::string const& getPortString() const { return _portString; }
     std::string const& getSerialNumber() const { return _serialNumber; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
 
 private:
-    std::string _namespace;
-    Logger _logger;
     int _boxNumber;
     int _enclosureBoxNumber;
-    unsigned int _controllerIndex;
     std::string _serialNumber;
     std::vector<VeldraPhysicalPath> _paths;
     std::string _portString;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -20,18 +20,9 @@ QLN_VDDriveCageLocation::QLN_VDDriveCageLocation(Logger& logger, std::string con
                                                  unsigned int controllerIndex,
                                                  VeldraEnclosure const& enclosure,
                                                  VeldraController* controller)
-    : _namespace(nameSpace), _boxNumber(enclosure.getBoxNumber()),
-      _enclosureBoxNumber(static_cast<int>(enclosure.getEnclosureBoxNumber())),
-      _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDDriveCageLocation::~QLN_VDDriveCageLocation() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _boxNumber(enclosure.getBoxNumber()),
+      _enclosureBoxNumber(static_cast<int>(enclosure.getEnclosureBoxNumber())) {}
 
 std::optional<std::string> QLN_VDDriveCageLocation::duplexTagOf(int duplexLocation) {
     switch (duplexLocation) {
@@ -77,10 +68,6 @@ CmpiCpp::CmpiInstance QLN_VDDriveCageLocation::getInstance() const {
     instance.addProperty("ElementLocationTagDesc", tagDescription);
     EnclosureLocationInfo::add(instance, _controller, enclosure.getBoxNumber());
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDDriveCageLocation::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

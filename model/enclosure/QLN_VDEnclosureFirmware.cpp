@@ -20,17 +20,8 @@ QLN_VDEnclosureFirmware::QLN_VDEnclosureFirmware(Logger& logger, std::string con
                                                  unsigned int controllerIndex,
                                                  VeldraEnclosure const& enclosure,
                                                  VeldraController* controller)
-    : _namespace(nameSpace), _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()),
-      _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDEnclosureFirmware::~QLN_VDEnclosureFirmware() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {}
 
 std::string QLN_VDEnclosureFirmware::_instanceId() const {
     return std::string("MWQ:") + className + "-" +
@@ -81,10 +72,6 @@ CmpiCpp::CmpiInstance QLN_VDEnclosureFirmware::getInstance() const {
                              VDArrayValues::strings({"MWQ:" + model, "Storage Device"}));
     }
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDEnclosureFirmware::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

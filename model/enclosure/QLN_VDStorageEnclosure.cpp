@@ -17,21 +17,12 @@ QLN_VDStorageEnclosure::QLN_VDStorageEnclosure(Logger& logger, std::string const
                                                unsigned int controllerIndex,
                                                VeldraEnclosure const& enclosure,
                                                VeldraController* controller)
-    : _namespace(nameSpace), _serialNumber(enclosure.getSerialNumber()),
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _serialNumber(enclosure.getSerialNumber()),
       _boxNumber(static_cast<unsigned int>(enclosure.getBoxNumber())),
       _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()),
       _portString(pathsToPortStr(enclosure.getLastAllPhysicalPaths())),
-      _paths(enclosure.getLastAllPhysicalPaths()),
-      _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageEnclosure::~QLN_VDStorageEnclosure() {
-    _logger.info("dxtor()");
-}
+      _paths(enclosure.getLastAllPhysicalPaths()) {}
 
 unsigned short QLN_VDStorageEnclosure::locationOf(std::string const& userText) {
     // A deliberately crude test over the whole text: any capital I (as in a
@@ -61,7 +52,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {
     std::string const userText = pathsToUserStr(enclosure.getPaths(), -1);
     instance.addProperty("CreationClassName", className);
     instance.addProperty("Tag", EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
-    instance.addProperty("SerialNumber", EnclosureSnapshot::orNotAvailable(enclosure.getSerialNumber()));
+    instance.addProperty("SerialNumber",
+                         EnclosureSnapshot::orNotAvailable(enclosure.getSerialNumber()));
     instance.addProperty("ElementName", userText);
     instance.addProperty("Name", userText);
     instance.addProperty("Manufacturer",
@@ -73,10 +65,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {
     instance.addProperty("RemovalConditions", static_cast<unsigned short>(2));
     instance.addProperty("Location", locationOf(userText));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageEnclosure::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -23,17 +23,8 @@ QLN_VDStorageEnclosureLocation::QLN_VDStorageEnclosureLocation(Logger& logger,
                                                                unsigned int controllerIndex,
                                                                VeldraEnclosure const& enclosure,
                                                                VeldraController* controller)
-    : _namespace(nameSpace), _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()),
-      _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageEnclosureLocation::~QLN_VDStorageEnclosureLocation() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {}
 
 std::string QLN_VDStorageEnclosureLocation::locationTagOf(std::string const& portText) {
     // Port names carry I for internal and E or X for external connectors.
@@ -78,10 +69,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {
     instance.addProperty("ElementLocationTagDesc", tagDescription);
     EnclosureLocationInfo::add(instance, _controller, enclosure.getBoxNumber());
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageEnclosureLocation::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -1,7 +1,7 @@
 #pragma once
 // Where an enclosure stands as seen from its controller: the routes to it
 // for people, internal or external by its ports, and the location parts.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraEnclosure.h"
@@ -10,32 +10,25 @@
 
 namespace QLN {
 
-class QLN_VDStorageEnclosureLocation : public CmpiManagedInstance {
+class QLN_VDStorageEnclosureLocation : public ControllerManagedInstance {
 public:
     QLN_VDStorageEnclosureLocation(Logger& logger, std::string const& nameSpace,
                                    unsigned int controllerIndex, VeldraEnclosure const& enclosure,
                                    VeldraController* controller);
-    ~QLN_VDStorageEnclosureLocation() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     // Throws CmpiStatus with code 100 when the enclosure left the snapshot.
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // "Internal", "External" or "Unknown" from the letters of the port text.
     static std::string locationTagOf(std::string const& portText);
 
     unsigned int getEnclosureBoxNumber() const { return _enclosureBoxNumber; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
 
 private:
     std::string _name() const;
 
-    std::string _namespace;
-    Logger _logger;
     unsigned int _enclosureBoxNumber;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

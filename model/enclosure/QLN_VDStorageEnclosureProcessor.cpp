@@ -34,23 +34,16 @@ ProcessorHealth healthOf(u32 overall) {
 
 namespace QLN {
 
-QLN_VDStorageEnclosureProcessor::QLN_VDStorageEnclosureProcessor(
-    Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-    VeldraEnclosure const& enclosure, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
+QLN_VDStorageEnclosureProcessor::QLN_VDStorageEnclosureProcessor(Logger& logger,
+                                                                 std::string const& nameSpace,
+                                                                 unsigned int controllerIndex,
+                                                                 VeldraEnclosure const& enclosure,
+                                                                 VeldraController* controller)
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
       _serialNumber(enclosure.getSerialNumber()), _paths(enclosure.getLastAllPhysicalPaths()),
       _portString(pathsToPortStr(_paths)),
       _boxNumber(static_cast<unsigned int>(enclosure.getBoxNumber())),
-      _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageEnclosureProcessor::~QLN_VDStorageEnclosureProcessor() {
-    _logger.info("dxtor()");
-}
+      _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureProcessor::getPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
@@ -69,7 +62,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
     std::vector<VeldraPhysicalPath> const paths = enclosure.getPaths();
 
     instance.addProperty("CreationClassName", className);
-    instance.addProperty("Name", EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+    instance.addProperty("Name",
+                         EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
     instance.addProperty("NameFormat", "Other");
     instance.addProperty("ElementName", pathsToUserStr(paths, -1));
     instance.addProperty("IdentifyingDescriptions",
@@ -93,10 +87,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
     instance.addProperty("Dedicated", VDArrayValues::uint16s({2}));
     instance.addProperty("OtherDedicatedDescriptions", VDArrayValues::strings({"SDE"}));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageEnclosureProcessor::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -14,16 +14,7 @@ namespace QLN {
 QLN_VDPrimordialPool::QLN_VDPrimordialPool(Logger& logger, std::string const& nameSpace,
                                            unsigned int controllerIndex,
                                            VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDPrimordialPool::~QLN_VDPrimordialPool() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::string QLN_VDPrimordialPool::_instanceId() const {
     return std::string(className) + "-" + std::to_string(_controllerIndex);
@@ -52,10 +43,6 @@ CmpiCpp::CmpiInstance QLN_VDPrimordialPool::getInstance() const {
     instance.addProperty("TotalManagedSpace", VDPoolSpace::totalManagedSpace(_controller));
     instance.addProperty("RemainingManagedSpace", VDPoolSpace::remainingManagedSpace(_controller));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDPrimordialPool::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

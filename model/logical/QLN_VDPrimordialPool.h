@@ -1,7 +1,7 @@
 #pragma once
 // All raw capacity of one controller, before any array takes from it: one per
 // controller, the source pool of the concrete pool.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -9,26 +9,16 @@
 
 namespace QLN {
 
-class QLN_VDPrimordialPool : public CmpiManagedInstance {
+class QLN_VDPrimordialPool : public ControllerManagedInstance {
 public:
     QLN_VDPrimordialPool(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                          VeldraController* controller);
-    ~QLN_VDPrimordialPool() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
-
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 private:
     std::string _instanceId() const;
-
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -15,17 +15,8 @@ QLN_VDStorageCapabilities::QLN_VDStorageCapabilities(Logger& logger, std::string
                                                      unsigned int controllerIndex,
                                                      VeldraCFUArray const& array,
                                                      VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _arrayId(array.getArrayID()),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageCapabilities::~QLN_VDStorageCapabilities() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _arrayId(array.getArrayID()) {}
 
 std::string QLN_VDStorageCapabilities::_instanceId() const {
     std::string id = std::string(className) + "-" + std::to_string(_controllerIndex);
@@ -97,10 +88,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageCapabilities::getInstance() const {
     instance.addProperty("PackageRedundancyMax", packageRedundancy);
     instance.addProperty("PackageRedundancyMin", static_cast<unsigned short>(0));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageCapabilities::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

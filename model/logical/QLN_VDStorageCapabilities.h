@@ -2,7 +2,7 @@
 // What protection a controller's pools can offer. One for the primordial pool
 // (empty array identifier) and one for each concrete pool; the values follow
 // from the number of data disks alone, so both report the same.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraCFUArray.h"
 #include "VeldraController.h"
@@ -11,29 +11,22 @@
 
 namespace QLN {
 
-class QLN_VDStorageCapabilities : public CmpiManagedInstance {
+class QLN_VDStorageCapabilities : public ControllerManagedInstance {
 public:
     QLN_VDStorageCapabilities(Logger& logger, std::string const& nameSpace,
                               unsigned int controllerIndex, VeldraCFUArray const& array,
                               VeldraController* controller);
-    ~QLN_VDStorageCapabilities() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     std::string const& getArrayId() const { return _arrayId; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
 
 private:
     std::string _instanceId() const;
     std::string _elementName(VeldraControllerData const& data) const;
 
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
     std::string _arrayId;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -14,17 +14,8 @@ namespace QLN {
 QLN_VDStoragePool::QLN_VDStoragePool(Logger& logger, std::string const& nameSpace,
                                      unsigned int controllerIndex, VeldraCFUArray const& array,
                                      VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _arrayId(array.getArrayID()),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStoragePool::~QLN_VDStoragePool() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _arrayId(array.getArrayID()) {}
 
 std::string QLN_VDStoragePool::_instanceId() const {
     return std::string(className) + "-" + std::to_string(_controllerIndex) + "-" + _arrayId;
@@ -55,10 +46,6 @@ CmpiCpp::CmpiInstance QLN_VDStoragePool::getInstance() const {
     instance.addProperty("TotalManagedSpace", VDPoolSpace::totalManagedSpace(_controller));
     instance.addProperty("RemainingManagedSpace", VDPoolSpace::remainingManagedSpace(_controller));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStoragePool::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

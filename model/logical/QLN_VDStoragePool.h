@@ -1,7 +1,7 @@
 #pragma once
 // The concrete pool of one array of a controller. Each controller has one
 // array record today, with the identifier "1".
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraCFUArray.h"
 #include "VeldraController.h"
@@ -10,29 +10,21 @@
 
 namespace QLN {
 
-class QLN_VDStoragePool : public CmpiManagedInstance {
+class QLN_VDStoragePool : public ControllerManagedInstance {
 public:
     QLN_VDStoragePool(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                       VeldraCFUArray const& array, VeldraController* controller);
-    ~QLN_VDStoragePool() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // The worker rebuilds its list of pools from these two.
     std::string const& getArrayId() const { return _arrayId; }
-    VeldraController* getController() const { return _controller; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
 
 private:
     std::string _instanceId() const;
 
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
     std::string _arrayId;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -53,17 +53,8 @@ QLN_VDStorageSetting::QLN_VDStorageSetting(Logger& logger, std::string const& na
                                            unsigned int controllerIndex,
                                            VeldraLogicalDisk const& logicalDisk,
                                            VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex),
-      _serialNumber(logicalDisk.getSerialNumber()), _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageSetting::~QLN_VDStorageSetting() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _serialNumber(logicalDisk.getSerialNumber()) {}
 
 std::string QLN_VDStorageSetting::_instanceId() const {
     return std::string(className) + "-" + _serialNumber;
@@ -108,10 +99,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageSetting::getInstance() const {
         instance.addProperty("PackageRedundancyMin", *spares);
     }
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageSetting::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -2,7 +2,7 @@
 // The protection that one logical disk was set up with, as CIM setting data.
 // It keeps only the disk's serial number and finds the disk in the last
 // snapshot at each request.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraLogicalDisk.h"
@@ -11,28 +11,21 @@
 
 namespace QLN {
 
-class QLN_VDStorageSetting : public CmpiManagedInstance {
+class QLN_VDStorageSetting : public ControllerManagedInstance {
 public:
     QLN_VDStorageSetting(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                          VeldraLogicalDisk const& logicalDisk, VeldraController* controller);
-    ~QLN_VDStorageSetting() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     // Throws CmpiStatus with code 100 when the disk is no longer in the snapshot.
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     std::string const& getSerialNumber() const { return _serialNumber; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
 
 private:
     std::string _instanceId() const;
 
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
     std::string _serialNumber;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -29,7 +29,7 @@ u32 const durationScale = 10;
 // What the CIM model says about one status of the library.
 struct VolumeHealth {
     unsigned short operational;
-    bool withRawStatus;  // the raw value rides as a second element
+    bool withRawStatus; // the raw value rides as a second element
     unsigned short health;
     char const* description;
     bool withExtendedText;
@@ -91,18 +91,9 @@ QLN_VDStorageVolume::QLN_VDStorageVolume(Logger& logger, std::string const& name
                                          unsigned int controllerIndex,
                                          VeldraLogicalDisk const& logicalDisk,
                                          VeldraController* controller)
-    : _namespace(nameSpace), _serialNumber(logicalDisk.getSerialNumber()),
-      _controllerIndex(controllerIndex), _acceleratorStatus(logicalDisk.getAcceleratorStatus()),
-      _controller(controller) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageVolume::~QLN_VDStorageVolume() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _serialNumber(logicalDisk.getSerialNumber()),
+      _acceleratorStatus(logicalDisk.getAcceleratorStatus()) {}
 
 std::string QLN_VDStorageVolume::_systemName() const {
     VeldraControllerData data;
@@ -147,7 +138,8 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     instance.addProperty("ConsumableBlocks", static_cast<unsigned long long>(0));
     instance.addProperty("BlockSize", static_cast<unsigned long long>(logical.getBlockSize()));
     instance.addProperty("DeltaReservation", static_cast<unsigned char>(0));
-    instance.addProperty("NumberOfBlocks", static_cast<unsigned long long>(logical.getTotalBlocks()));
+    instance.addProperty("NumberOfBlocks",
+                         static_cast<unsigned long long>(logical.getTotalBlocks()));
     instance.addProperty("IsBasedOnUnderlyingRedundancy", false);
 
     VeldraLogicalToleranceEnum const tolerance = logical.getTolerance();
@@ -164,17 +156,17 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     VeldraLogicalDiskStatusEnum const status = logical.getStatus();
     VolumeHealth const health = healthOf(status);
     if (health.withRawStatus) {
-        instance.addProperty("OperationalStatus",
-                             VDArrayValues::uint16s({health.operational,
-                                                     static_cast<unsigned short>(status)}));
+        instance.addProperty(
+            "OperationalStatus",
+            VDArrayValues::uint16s({health.operational, static_cast<unsigned short>(status)}));
     } else {
         instance.addProperty("OperationalStatus", VDArrayValues::uint16s({health.operational}));
     }
     if (health.withExtendedText) {
         instance.addProperty("StatusDescriptions",
-                             VDArrayValues::strings({health.description,
-                                                     extendedStatusText +
-                                                         std::string(logical.statusToStr(status))}));
+                             VDArrayValues::strings(
+                                 {health.description,
+                                  extendedStatusText + std::string(logical.statusToStr(status))}));
     } else {
         instance.addProperty("StatusDescriptions", VDArrayValues::strings({health.description}));
     }
@@ -215,10 +207,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     _logger.info("logical volume instance %ld last physicals %d", static_cast<long>(at),
                  static_cast<int>(logical.getLastAllPhysicalDisks().size()));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageVolume::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 unsigned int QLN_VDStorageVolume::invokeMethod(CmpiCpp::CmpiName const& method,

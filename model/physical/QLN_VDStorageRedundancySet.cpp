@@ -23,18 +23,8 @@ QLN_VDStorageRedundancySet::QLN_VDStorageRedundancySet(Logger& logger, std::stri
                                                        unsigned int controllerIndex,
                                                        VeldraLogicalDisk const& logicalDisk,
                                                        VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex),
-      _logicalDiskSerial(logicalDisk.getSerialNumber()), _controller(controller),
-      _redundancyStatus(fullyRedundant) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageRedundancySet::~QLN_VDStorageRedundancySet() {
-    _logger.info("dxtor()");
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _logicalDiskSerial(logicalDisk.getSerialNumber()), _redundancyStatus(fullyRedundant) {}
 
 std::string QLN_VDStorageRedundancySet::_instanceId() const {
     return std::string(className) + "-" + _logicalDiskSerial;
@@ -81,10 +71,6 @@ void QLN_VDStorageRedundancySet::manageDynamic(bool indicationsEnabled,
     if (indicationsEnabled)
         _logger.info("Send Redundancy State change, Old: %d New: %d", _redundancyStatus, status);
     _redundancyStatus = status;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageRedundancySet::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN
