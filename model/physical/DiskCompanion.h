@@ -3,7 +3,7 @@
 // location, firmware, statistics): the disk's identity frozen at
 // construction, and the look-up of the disk in the last snapshot each time an
 // instance is asked for.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -12,18 +12,12 @@
 
 namespace QLN {
 
-class DiskCompanion : public CmpiManagedInstance {
+class DiskCompanion : public ControllerManagedInstance {
 public:
-    ~DiskCompanion() override;
-
-    CmpiCpp::CmpiName getClassName() const override;
-
     // Identity as frozen at construction, for the worker's matching.
     std::string const& getSerialNumber() const { return _serialNumber; }
     int getBoxNumber() const { return _boxNumber; }
     int getBay() const { return _bay; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 protected:
     DiskCompanion(Logger& logger, std::string const& nameSpace, char const* className,
@@ -35,15 +29,10 @@ protected:
     // The disk in the last snapshot; logs and throws status 100 when it is gone.
     VeldraPhysicalDisk _findDisk(char const* failure) const;
 
-    std::string _namespace;
-    char const* _className;
-    Logger _logger;
     std::string _serialNumber;
     std::string _model;
     int _boxNumber;
     int _bay;
-    unsigned int _controllerIndex;
-    VeldraController* _controller;
 };
 
 } // namespace QLN

@@ -23,12 +23,12 @@ DiskFirmwareIdentity::DiskFirmwareIdentity(Logger& logger, std::string const& na
       _statusText(statusText) {}
 
 std::string DiskFirmwareIdentity::_instanceId() const {
-    return std::string("MWQ:") + _className + "-" + _identityTail();
+    return std::string("MWQ:") + _cimClassName() + "-" + _identityTail();
 }
 
 CmpiCpp::CmpiObjectPath DiskFirmwareIdentity::getPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
     path.setHost(QLNUtil::getHostName());
     path.addKey("InstanceID", _instanceId());
     return path;

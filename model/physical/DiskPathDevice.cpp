@@ -14,23 +14,9 @@ DiskPathDevice::DiskPathDevice(Logger& logger, std::string const& nameSpace, cha
                                unsigned int controllerIndex, VeldraPhysicalDisk const& disk,
                                VeldraPhysicalPath const& path, int pathIndex,
                                VeldraController* controller)
-    : _namespace(nameSpace), _className(className), _controllerIndex(controllerIndex),
-      _pathIndex(pathIndex), _controller(controller), _serialNumber(disk.getSerialNumber()),
-      _port(path.getPort()), _model(disk.getModel()), _boxNumber(disk.getEnclosureBoxNumber()),
-      _bay(disk.getBay()) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-DiskPathDevice::~DiskPathDevice() {
-    _logger.info("dxtor()");
-}
-
-CmpiCpp::CmpiName DiskPathDevice::getClassName() const {
-    return CmpiCpp::CmpiName(_className);
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
+      _pathIndex(pathIndex), _serialNumber(disk.getSerialNumber()), _port(path.getPort()),
+      _model(disk.getModel()), _boxNumber(disk.getEnclosureBoxNumber()), _bay(disk.getBay()) {}
 
 std::string DiskPathDevice::_keyValue() const {
     return PhysicalDiskKey::name(_serialNumber, _model, _port + ":", _boxNumber, _bay) + ":" +
@@ -39,9 +25,9 @@ std::string DiskPathDevice::_keyValue() const {
 
 CmpiCpp::CmpiObjectPath DiskPathDevice::_path(char const* lastKeyName) const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
     path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", _className);
+    path.addKey("CreationClassName", _cimClassName());
     path.addKey("SystemCreationClassName", arraySystemClass);
     path.addKey("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
     path.addKey(lastKeyName, _keyValue());
@@ -50,7 +36,7 @@ CmpiCpp::CmpiObjectPath DiskPathDevice::_path(char const* lastKeyName) const {
 
 void DiskPathDevice::_addKeyProperties(CmpiCpp::CmpiInstance& instance,
                                        char const* lastKeyName) const {
-    instance.addProperty("CreationClassName", _className);
+    instance.addProperty("CreationClassName", _cimClassName());
     instance.addProperty("SystemCreationClassName", arraySystemClass);
     instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
     instance.addProperty(lastKeyName, _keyValue());

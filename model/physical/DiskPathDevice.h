@@ -2,7 +2,7 @@
 // Common ground of the target side of one route to a disk: the port and the
 // SCSI endpoint of one path of one disk. The key names the disk and the
 // path's place in the disk's list of paths.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -12,20 +12,14 @@
 
 namespace QLN {
 
-class DiskPathDevice : public CmpiManagedInstance {
+class DiskPathDevice : public ControllerManagedInstance {
 public:
-    ~DiskPathDevice() override;
-
-    CmpiCpp::CmpiName getClassName() const override;
-
     // For the graph's matching of initiators to targets and the worker's port match.
     std::string const& getPort() const { return _port; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
     int getPathIndex() const { return _pathIndex; }
     std::string const& getSerialNumber() const { return _serialNumber; }
     int getBoxNumber() const { return _boxNumber; }
     int getBay() const { return _bay; }
-    VeldraController* getController() const { return _controller; }
 
 protected:
     DiskPathDevice(Logger& logger, std::string const& nameSpace, char const* className,
@@ -40,12 +34,7 @@ protected:
     // CreationClassName, SystemCreationClassName, SystemName and the key, in this order.
     void _addKeyProperties(CmpiCpp::CmpiInstance& instance, char const* lastKeyName) const;
 
-    std::string _namespace;
-    char const* _className;
-    Logger _logger;
-    unsigned int _controllerIndex;
     int _pathIndex;
-    VeldraController* _controller;
     std::string _serialNumber;
     std::string _port;
     std::string _model;

@@ -26,23 +26,13 @@ namespace QLN {
 QLN_VDDiskDrive::QLN_VDDiskDrive(Logger& logger, std::string const& nameSpace,
                                  unsigned int controllerIndex, VeldraPhysicalDisk const& disk,
                                  VeldraController* controller)
-    : _namespace(nameSpace) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-    _controllerIndex = controllerIndex;
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {
     _serialNumber = disk.getSerialNumber();
     _paths = disk.getLastAllPhysicalPaths();
     _portString = pathsToPortStr(_paths);
     _boxNumber = disk.getEnclosureBoxNumber();
     _bay = disk.getBay();
     _model = disk.getModel();
-    _controller = controller;
-}
-
-QLN_VDDiskDrive::~QLN_VDDiskDrive() {
-    _logger.info("dxtor()");
 }
 
 std::string QLN_VDDiskDrive::_deviceId() const {
@@ -155,10 +145,6 @@ void QLN_VDDiskDrive::manageDynamic(bool indicationsEnabled) {
     _logger.info("manageDynamic()");
     if (indicationsEnabled)
         _logger.info("indications enabled");
-}
-
-CmpiCpp::CmpiName QLN_VDDiskDrive::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -4,7 +4,7 @@
 // without one); every value is read from the controller's last snapshot when
 // asked, so a client always sees what the last worker pass accepted.
 #include "CmpiArgs.h"
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -15,15 +15,13 @@
 
 namespace QLN {
 
-class QLN_VDDiskDrive : public CmpiManagedInstance {
+class QLN_VDDiskDrive : public ControllerManagedInstance {
 public:
     QLN_VDDiskDrive(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                     VeldraPhysicalDisk const& disk, VeldraController* controller);
-    ~QLN_VDDiskDrive() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // Identify: lights the disk's locator for Duration (uint32) seconds.
     // 0 on success, 2 when the controller refuses, 17 for anything else.
@@ -38,22 +36,16 @@ public:
     std::string const& getPortString() const { return _portString; }
     int getBoxNumber() const { return _boxNumber; }
     int getBay() const { return _bay; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 private:
     std::string _deviceId() const;
 
-    std::string _namespace;
-    Logger _logger;
     std::string _serialNumber;
     std::string _portString;
     int _boxNumber;
     int _bay;
     std::string _model;
-    unsigned int _controllerIndex;
     std::vector<VeldraPhysicalPath> _paths;
-    VeldraController* _controller;
 };
 
 } // namespace QLN
