@@ -1,0 +1,128 @@
+#!/usr/bin/env bash
+# The storage model under load from a second process: generates the large
+# scenario (16 controllers x 256 disks by default), starts veldra-cimd on a
+# free port, and reports
+#   - the graph build: wall time from launch until the first answer, and the
+#     resident memory before the provider loads and after;
+#   - the instances of every class (EnumerateInstanceNames through wbemcli);
+#   - EnumerateInstances of QLN_VDDiskDrive with wrk, in instances per second;
+#   - the latency of Associators of one disk and of one array system (wrk,
+#     one connection, so the percentiles are those of single requests).
+#
+#   bench/model/run.sh [--build DIR] [--controllers N] [--disks M]
+#                      [--duration 10s] [--connections 4] [--threads 2] [--class-limit 60]
+set -euo pipefail
+root="$(cd "$(dirname "$0")/../.." && pwd)"
+build="$root/build"
+controllers=16
+disks=256
+duration=10s
+connections=4
+threads=2
+class_limit=60
+while [ $# -gt 0 ]; do
+  case "$1" in
+    --build) build="$2"; shift 2;;
+    --controllers) controllers="$2"; shift 2;;
+    --disks) disks="$2"; shift 2;;
+    --duration) duration="$2"; shift 2;;
+    --connections) connections="$2"; shift 2;;
+    --threads) threads="$2"; shift 2;;
+    --class-limit) class_limit="$2"; shift 2;;
+    *) echo "run.sh: unknown option $1" >&2; exit 2;;
+  esac
+done
+for tool in wrk wbemcli curl python3; do
+  command -v "$tool" >/dev/null || { echo "run.sh: $tool missing (scripts/bootstrap installs it)" >&2; exit 1; }
+done
+for bin in veldra-cimd veldra-sim; do
+  [ -x "$build/bin/$bin" ] || { echo "run.sh: $build/bin/$bin not built" >&2; exit 1; }
+done
+
+work="$(mktemp -d /tmp/veldra-model-bench.XXXXXX)"
+cimd_pid=""
+cleanup() { [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null && wait "$cimd_pid" 2>/dev/null; rm -rf "$work"; }
+trap cleanup EXIT
+
+scenario="$work/large.yaml"
+"$build/bin/veldra-sim" generate --controllers "$controllers" --disks-per-controller "$disks" --output "$scenario" >/dev/null
+echo "scenario: $controllers controllers x $disks disks ($(wc -c <"$scenario") bytes)"
+
+rss_kb() { awk '/^VmRSS/ {print $2}' "/proc/$1/status"; }
+now_ms() { date +%s%3N; }
+
+started=$(now_ms)
+"$build/bin/veldra-cimd" --port 0 --port-file "$work/port" --log-level info --threads 8 --scenario "$scenario" \
+  --registration "$root/data/registration/veldra-cimd.yaml" --mof-dir "$root/data/mof" \
+  --provider-dir "$build/lib" >"$work/stdout" 2>"$work/stderr" &
+cimd_pid=$!
+for _ in $(seq 1 600); do [ -s "$work/port" ] && break; sleep 0.05; done
+[ -s "$work/port" ] || { echo "veldra-cimd did not start:"; cat "$work/stderr"; exit 1; }
+listening=$(now_ms)
+rss_listening=$(rss_kb "$cimd_pid")
+port="$(cat "$work/port")"
+url="http://127.0.0.1:$port/root/mwq"
+# The first request into the provider's classes waits for a graph build
+# that has not finished yet (or triggers a lazy one).
+wbemcli ein "$url:QLN_VDArraySystem" >"$work/systems"
+answered=$(now_ms)
+rss_built=$(rss_kb "$cimd_pid")
+echo "graph build: listening after $((listening - started)) ms, first answer after $((answered - started)) ms"
+echo "resident memory: $((rss_listening / 1024)) MiB when listening, $((rss_built / 1024)) MiB after the first answer"
+grep -m1 -E "_cmpiManagedInstanceFactory" "$work/stderr" | sed 's/^/  first factory log line: /' || true
+grep -E "return _createAllLogicalDiskInstances" "$work/stderr" | tail -1 | sed 's/^/  last graph log line:    /' || true
+
+envelope() {
+  printf '<?xml version="1.0" encoding="utf-8" ?><CIM CIMVERSION="2.0" DTDVERSION="2.0"><MESSAGE ID="1" PROTOCOLVERSION="1.0"><SIMPLEREQ><IMETHODCALL NAME="%s"><LOCALNAMESPACEPATH><NAMESPACE NAME="root"/><NAMESPACE NAME="mwq"/></LOCALNAMESPACEPATH>%s</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>' "$1" "$2"
+}
+cim_post() {
+  curl -s -X POST "http://127.0.0.1:$port/cimom" -H 'Content-Type: application/xml; charset="utf-8"' \
+    -H "CIMOperation: MethodCall" -H "CIMMethod: $1" -H "CIMObject: root%2Fmwq" --data-binary "@$2"
+}
+first_instance_name() {
+  envelope EnumerateInstanceNames "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$1\"/></IPARAMVALUE>" >"$work/names.xml"
+  cim_post EnumerateInstanceNames "$work/names.xml" | python3 -c '
+import sys, xml.etree.ElementTree as ET
+name = ET.fromstring(sys.stdin.read()).find(".//INSTANCENAME")
+print(ET.tostring(name, encoding="unicode").replace(" />", "/>"))'
+}
+
+# Runs wrk on one request; prints its summary lines. $1 method, $2 body file,
+# $3 connections.
+load() {
+  local t=$threads
+  [ "$3" -lt "$t" ] && t=$3
+  # A long timeout: a slow answer is measured, not counted as a socket error.
+  BODY_FILE="$2" CIM_METHOD="$1" wrk -t"$t" -c"$3" -d"$duration" --timeout 120s --latency \
+    -s "$root/bench/cimom/post.lua" "http://127.0.0.1:$port"
+}
+
+envelope EnumerateInstances '<IPARAMVALUE NAME="ClassName"><CLASSNAME NAME="QLN_VDDiskDrive"/></IPARAMVALUE>' >"$work/ei.xml"
+if cim_post EnumerateInstances "$work/ei.xml" | grep -q "<ERROR "; then echo "EnumerateInstances answers an error"; exit 1; fi
+disk_count=$(wbemcli ein "$url:QLN_VDDiskDrive" | grep -c .)
+echo "== EnumerateInstances QLN_VDDiskDrive ($disk_count instances), $duration, $connections connections"
+load EnumerateInstances "$work/ei.xml" "$connections" | tee "$work/ei.out" | grep -E "Requests/sec|Latency|requests:|50%|99%"
+rate=$(awk '/Requests\/sec/ {print $2}' "$work/ei.out")
+python3 -c "print('instances per second: %.0f (target 50000)' % ($rate * $disk_count))"
+
+for cls in QLN_VDDiskDrive QLN_VDArraySystem; do
+  envelope Associators "<IPARAMVALUE NAME=\"ObjectName\">$(first_instance_name "$cls")</IPARAMVALUE>" >"$work/assoc.xml"
+  if cim_post Associators "$work/assoc.xml" | grep -q "<ERROR "; then echo "Associators of $cls answers an error"; exit 1; fi
+  found=$(cim_post Associators "$work/assoc.xml" | grep -o "<VALUE.OBJECTWITHPATH>" | wc -l)
+  echo "== Associators of one $cls ($found instances), $duration, 1 connection"
+  load Associators "$work/assoc.xml" 1 | grep -E "Requests/sec|Latency|requests:|50%|90%|99%"
+done
+total=0
+incomplete=""
+echo "instances per class (EnumerateInstanceNames through wbemcli, time per class):"
+for cls in $(wbemcli -nl ecn "$url" | sed 's/.*://'); do
+  began=$(now_ms)
+  # A class whose enumeration outlasts the limit is reported, not waited for.
+  if timeout "$class_limit" wbemcli ein "$url:$cls" >"$work/names" 2>&1; then note=""
+  else note="  NOT ANSWERED within ${class_limit}s"; incomplete="$incomplete $cls"; fi
+  n=$(grep -c "$cls\." "$work/names" || true)
+  total=$((total + n))
+  printf '  %-62s %7d %7d ms%s\n' "$cls" "$n" "$(( $(now_ms) - began ))" "$note"
+done
+echo "instances of all classes: $total${incomplete:+ (incomplete:$incomplete)}"
+echo "resident memory at the end: $(( $(rss_kb "$cimd_pid") / 1024 )) MiB"
