@@ -41,7 +41,16 @@ done
 
 work="$(mktemp -d /tmp/veldra-model-bench.XXXXXX)"
 cimd_pid=""
-cleanup() { [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null && wait "$cimd_pid" 2>/dev/null; rm -rf "$work"; }
+# veldra-cimd drains its requests on SIGTERM; one abandoned after the class
+# limit may run for minutes, so it gets ten seconds before SIGKILL.
+cleanup() {
+  if [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null; then
+    for _ in $(seq 1 100); do kill -0 "$cimd_pid" 2>/dev/null || break; sleep 0.1; done
+    kill -9 "$cimd_pid" 2>/dev/null || true
+    wait "$cimd_pid" 2>/dev/null || true
+  fi
+  rm -rf "$work"
+}
 trap cleanup EXIT
 
 scenario="$work/large.yaml"
