@@ -18,14 +18,10 @@ ControllerLocationInstance::ControllerLocationInstance(Logger& logger, char cons
 
 CmpiCpp::CmpiObjectPath ControllerLocationInstance::getPath() const {
     VeldraControllerData data = _lastData();
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
-    path.setHost(QLNUtil::getHostName());
     // Name is the only key of a location: the tag keeps controllers apart,
     // external ones included (their tag carries the controller's number).
-    path.addKey("Name", std::string(_cimClassName()) + "-" +
-                            getControllerTag(data, static_cast<int>(_controllerIndex)));
-    return path;
+    return _pathByKey("Name", std::string(_cimClassName()) + "-" +
+                                  getControllerTag(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance ControllerLocationInstance::getInstance() const {

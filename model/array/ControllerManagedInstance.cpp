@@ -31,11 +31,24 @@ VeldraControllerData ControllerManagedInstance::_lastData() const {
     return data;
 }
 
-CmpiCpp::CmpiObjectPath ControllerManagedInstance::_keyedPath(char const* keyName,
-                                                              std::string const& keyValue) const {
+CmpiCpp::CmpiObjectPath ControllerManagedInstance::_hostPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
     path.setHost(QLNUtil::getHostName());
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath ControllerManagedInstance::_pathByKey(char const* keyName,
+                                                              std::string const& keyValue) const {
+    CmpiCpp::CmpiObjectPath path = _hostPath();
+    path.addKey(keyName, keyValue);
+    return path;
+}
+
+CmpiCpp::CmpiObjectPath
+ControllerManagedInstance::_pathByClassAndKey(char const* keyName,
+                                              std::string const& keyValue) const {
+    CmpiCpp::CmpiObjectPath path = _hostPath();
     path.addKey("CreationClassName", _className);
     path.addKey(keyName, keyValue);
     return path;

@@ -28,8 +28,11 @@ protected:
     // The controller's data as the last read left it.
     VeldraControllerData _lastData() const;
     char const* _cimClassName() const { return _className; }
-    // A path on this host keyed by CreationClassName and one key of the class's own.
-    CmpiCpp::CmpiObjectPath _keyedPath(char const* keyName, std::string const& keyValue) const;
+    // A path to this class on this host with one key only.
+    CmpiCpp::CmpiObjectPath _pathByKey(char const* keyName, std::string const& keyValue) const;
+    // The same keyed by CreationClassName first, then the class's own key.
+    CmpiCpp::CmpiObjectPath _pathByClassAndKey(char const* keyName,
+                                               std::string const& keyValue) const;
 
     std::string const _namespace;
     Logger _logger;
@@ -37,6 +40,8 @@ protected:
     VeldraController* const _controller;
 
 private:
+    CmpiCpp::CmpiObjectPath _hostPath() const;
+
     char const* _className;
 };
 

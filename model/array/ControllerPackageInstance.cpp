@@ -31,8 +31,9 @@ CmpiCpp::CmpiObjectPath ControllerPackageInstance::getPath() const {
     VeldraControllerData data = _lastData();
     // The controller's name scoped by the class, so the two packages of one
     // controller keep apart.
-    return _keyedPath("Tag", std::string(_cimClassName()) + "-" +
-                                 getControllerName(data, static_cast<int>(_controllerIndex)));
+    return _pathByClassAndKey("Tag",
+                              std::string(_cimClassName()) + "-" +
+                                  getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance ControllerPackageInstance::getInstance() const {

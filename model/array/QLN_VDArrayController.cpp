@@ -131,7 +131,7 @@ QLN_VDArrayController::QLN_VDArrayController(Logger& logger, std::string const& 
 
 CmpiCpp::CmpiObjectPath QLN_VDArrayController::getPath() const {
     VeldraControllerData data = _lastData();
-    return _keyedPath("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
+    return _pathByClassAndKey("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {

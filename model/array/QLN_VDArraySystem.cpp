@@ -70,7 +70,7 @@ QLN_VDArraySystem::QLN_VDArraySystem(Logger& logger, std::string const& nameSpac
 
 CmpiCpp::CmpiObjectPath QLN_VDArraySystem::getPath() const {
     VeldraControllerData data = _lastData();
-    return _keyedPath("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
+    return _pathByClassAndKey("Name", getControllerName(data, static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {

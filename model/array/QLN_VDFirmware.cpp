@@ -23,11 +23,7 @@ std::string QLN_VDFirmware::_instanceId() const {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDFirmware::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("InstanceID", _instanceId());
-    return path;
+    return _pathByKey("InstanceID", _instanceId());
 }
 
 CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {

@@ -30,12 +30,7 @@ std::string QLN_VDDriveCage::getTag() const {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDDriveCage::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Tag", getTag());
-    return path;
+    return _pathByClassAndKey("Tag", getTag());
 }
 
 CmpiCpp::CmpiInstance QLN_VDDriveCage::getInstance() const {

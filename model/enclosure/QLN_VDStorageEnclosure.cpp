@@ -35,12 +35,8 @@ unsigned short QLN_VDStorageEnclosure::locationOf(std::string const& userText) {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosure::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Tag", EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
-    return path;
+    return _pathByClassAndKey("Tag",
+                              EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {

@@ -45,11 +45,7 @@ std::string QLN_VDStorageEnclosureLocation::_name() const {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureLocation::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("Name", _name());
-    return path;
+    return _pathByKey("Name", _name());
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {

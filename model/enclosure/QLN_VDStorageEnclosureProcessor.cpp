@@ -46,12 +46,8 @@ QLN_VDStorageEnclosureProcessor::QLN_VDStorageEnclosureProcessor(Logger& logger,
       _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureProcessor::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Name", EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
-    return path;
+    return _pathByClassAndKey("Name",
+                              EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {

@@ -44,11 +44,7 @@ std::string QLN_VDStorageCapabilities::_elementName(VeldraControllerData const& 
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageCapabilities::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("InstanceID", _instanceId());
-    return path;
+    return _pathByKey("InstanceID", _instanceId());
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageCapabilities::getInstance() const {

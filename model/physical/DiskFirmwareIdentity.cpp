@@ -27,11 +27,7 @@ std::string DiskFirmwareIdentity::_instanceId() const {
 }
 
 CmpiCpp::CmpiObjectPath DiskFirmwareIdentity::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("InstanceID", _instanceId());
-    return path;
+    return _pathByKey("InstanceID", _instanceId());
 }
 
 CmpiCpp::CmpiInstance DiskFirmwareIdentity::getInstance() const {

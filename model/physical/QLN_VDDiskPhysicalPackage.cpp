@@ -26,12 +26,7 @@ std::string QLN_VDDiskPhysicalPackage::_tag() const {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDDiskPhysicalPackage::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", className);
-    path.addKey("Tag", _tag());
-    return path;
+    return _pathByClassAndKey("Tag", _tag());
 }
 
 CmpiCpp::CmpiInstance QLN_VDDiskPhysicalPackage::getInstance() const {
