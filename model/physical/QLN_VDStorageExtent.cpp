@@ -24,19 +24,10 @@ QLN_VDStorageExtent::QLN_VDStorageExtent(Logger& logger, std::string const& name
                                          unsigned int controllerIndex,
                                          VeldraPhysicalDisk const& disk,
                                          VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex),
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
       _serialNumber(disk.getSerialNumber()), _boxNumber(disk.getEnclosureBoxNumber()),
-      _bay(disk.getBay()), _model(disk.getModel()), _paths(disk.getLastAllPhysicalPaths()),
-      _controller(controller) {
+      _bay(disk.getBay()), _model(disk.getModel()), _paths(disk.getLastAllPhysicalPaths()) {
     _portString = pathsToPortStr(_paths);
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-QLN_VDStorageExtent::~QLN_VDStorageExtent() {
-    _logger.info("dxtor()");
 }
 
 std::string QLN_VDStorageExtent::_deviceId() const {
@@ -78,10 +69,6 @@ CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
     if (u64 const hours = disk.getTotalPowerOnHours(); hours != 0)
         instance.addProperty("TotalPowerOnHours", static_cast<unsigned long long>(hours));
     return instance;
-}
-
-CmpiCpp::CmpiName QLN_VDStorageExtent::getClassName() const {
-    return CmpiCpp::CmpiName(className);
 }
 
 } // namespace QLN

@@ -2,7 +2,7 @@
 // The capacity view of one physical disk: the primordial extent that pools
 // and volumes are made of. It repeats the disk's status in a reduced form
 // and adds the block counts.
-#include "CmpiManagedInstance.h"
+#include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -13,15 +13,13 @@
 
 namespace QLN {
 
-class QLN_VDStorageExtent : public CmpiManagedInstance {
+class QLN_VDStorageExtent : public ControllerManagedInstance {
 public:
     QLN_VDStorageExtent(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                         VeldraPhysicalDisk const& disk, VeldraController* controller);
-    ~QLN_VDStorageExtent() override;
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
-    CmpiCpp::CmpiName getClassName() const override;
 
     // Identity as frozen at construction, for the worker's matching.
     std::string const& getSerialNumber() const { return _serialNumber; }
@@ -29,22 +27,16 @@ public:
     std::string const& getPortString() const { return _portString; }
     int getBoxNumber() const { return _boxNumber; }
     int getBay() const { return _bay; }
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
 
 private:
     std::string _deviceId() const;
 
-    std::string _namespace;
-    Logger _logger;
-    unsigned int _controllerIndex;
     std::string _serialNumber;
     std::string _portString;
     int _boxNumber;
     int _bay;
     std::string _model;
     std::vector<VeldraPhysicalPath> _paths;
-    VeldraController* _controller;
 };
 
 } // namespace QLN
