@@ -2,6 +2,7 @@
 
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
+#include "EnabledProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
@@ -156,9 +157,7 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({view.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({view.text}));
 
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({0}));
 
     addEnumIfRead<DPGSupportedTypeEnum>(instance, "DPGSupported", data, &D::getDPGSupportedType);

@@ -3,6 +3,7 @@
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
+#include "EnabledProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -95,9 +96,7 @@ CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({health.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({_statusText}));
 
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({3, 15}));
     return instance;
 }

@@ -1,6 +1,7 @@
 #include "QLN_VDISASPort.h"
 
 #include "ControllerDeviceKey.h"
+#include "EnabledProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -36,9 +37,7 @@ CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
     instance.addProperty("StatusDescriptions",
                          VDArrayValues::strings({"Controller port is operating properly"}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     // Back-end port: it reaches the disks, not the host.
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
     return instance;

@@ -2,6 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
+#include "EnabledProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -60,9 +61,7 @@ CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
     instance.addProperty("HealthState", status.health);
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({status.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({status.text}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     // Always "Other": the bus family goes into OtherControllerType.
     instance.addProperty("ControllerType", static_cast<unsigned short>(1));
     controllerTypeEnum type = CONTROLLER_TYPE_UNKNOWN;

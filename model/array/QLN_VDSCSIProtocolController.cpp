@@ -2,6 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
+#include "EnabledProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -36,9 +37,7 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
     instance.addProperty(
         "StatusDescriptions",
         VDArrayValues::strings({"Array protocol controller is operating properly"}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     return instance;
 }
 

@@ -1,6 +1,7 @@
 #include "QLN_VDStorageEnclosureProcessor.h"
 
 #include "CmpiBroker.h"
+#include "EnabledProperties.h"
 #include "EnclosureSnapshot.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -77,9 +78,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
                                 static_cast<unsigned short>(enclosure.getFanStatus()),
                                 static_cast<unsigned short>(enclosure.getPowerSupplyStatus()),
                                 static_cast<unsigned short>(enclosure.getTempSensorStatus())}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({2}));
     instance.addProperty("OtherDedicatedDescriptions", VDArrayValues::strings({"SDE"}));
     return instance;

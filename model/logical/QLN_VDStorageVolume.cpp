@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
+#include "EnabledProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -172,9 +173,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     }
     instance.addProperty("HealthState", health.health);
 
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     // 11 (not ready) while a member is missing or the volume waits to come up.
     bool const notReady = status == 0x8004 || status == 0x8008 || status == 0x8009;
     instance.addProperty("ExtentStatus",

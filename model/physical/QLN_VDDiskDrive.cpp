@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
 #include "DiskStatusRow.h"
+#include "EnabledProperties.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
@@ -77,9 +78,7 @@ CmpiCpp::CmpiInstance QLN_VDDiskDrive::getInstance() const {
 
     DiskStatusRow::of(disk.getStatus(), disk.getSupportsGasGauge(), carrierAuthentication)
         .addTo(instance);
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
 
     if (disk.getSupportsGasGauge()) {
         instance.addProperty("SSDTotalPowerOnHours",

@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "DiskStatusRow.h"
+#include "EnabledProperties.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -58,9 +59,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
     instance.addProperty(
         "ExtentStatus",
         VDArrayValues::uint16s({status == PD_STATUS_REBUILDING ? extentRebuild : extentNone}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("BlockSize", static_cast<unsigned long long>(disk.getBlockSize()));
     auto const blocks = static_cast<unsigned long long>(disk.getTotalBlocks());
     instance.addProperty("ConsumableBlocks", blocks);

@@ -1,6 +1,7 @@
 #include "QLN_VDTSASPort.h"
 
 #include "CmpiBroker.h"
+#include "EnabledProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 
@@ -36,9 +37,7 @@ CmpiCpp::CmpiInstance QLN_VDTSASPort::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
     instance.addProperty("StatusDescriptions",
                          VDArrayValues::strings({"Target port is operating properly"}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
     return instance;
 }

@@ -1,6 +1,7 @@
 #include "QLN_VDTSASSCSIProtocolEndpoint.h"
 
 #include "CmpiBroker.h"
+#include "EnabledProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 
@@ -40,9 +41,7 @@ CmpiCpp::CmpiInstance QLN_VDTSASSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
     instance.addProperty("StatusDescriptions",
                          VDArrayValues::strings({"Endpoint is operating properly"}));
-    instance.addProperty("EnabledDefault", static_cast<unsigned short>(2));
-    instance.addProperty("EnabledState", static_cast<unsigned short>(5));
-    instance.addProperty("RequestedState", static_cast<unsigned short>(12));
+    EnabledProperties::add(instance);
     instance.addProperty("Path", static_cast<unsigned short>(_pathStatus & 0xFFFF));
     return instance;
 }
