@@ -1,6 +1,8 @@
 #include "CimObjectPath.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
 
 #include "CimError.h"
 #include "CimName.h"
@@ -64,18 +66,38 @@ bool CimObjectPath::operator==(const CimObjectPath& other) const {
     return true;
 }
 
+namespace {
+// Agrees with CimValue::sameKeyValue: integers by value whatever their
+// width, references as paths, texts as they stand; other kinds add nothing.
+std::size_t keyValueHash(const CimValue& v) {
+    if (v.isNull()) {
+        return 0;
+    }
+    if (v.isInteger()) {
+        if (v.isSigned() && v.asSigned() < 0) {
+            return std::hash<std::int64_t>()(v.asSigned());
+        }
+        return std::hash<std::uint64_t>()(v.asUnsigned());
+    }
+    if (v.type() == CMPI_ref) {
+        return v.asReference().hash();
+    }
+    if (v.type() == CMPI_string || v.type() == CMPI_dateTime || v.type() == CMPI_char16) {
+        return std::hash<std::string>()(v.toText());
+    }
+    return 0;
+}
+} // namespace
+
+// Key values take part, or every instance of a class would share one bucket
+// and a set of paths would compare each new path with all the others.
 std::size_t CimObjectPath::hash() const {
-    std::vector<std::string> names;
-    names.reserve(_keys.size());
+    std::size_t keys = 0;
     for (const Key& k : _keys) {
-        names.push_back(CimName::lower(k.name));
+        // A sum does not depend on the order the keys came in.
+        keys += CimName::hash(CimName::lower(k.name)) * 31 + keyValueHash(k.value);
     }
-    std::sort(names.begin(), names.end());
-    std::size_t h = CimName::hash(_className);
-    for (const std::string& n : names) {
-        h = h * 31 + CimName::hash(n);
-    }
-    return h;
+    return CimName::hash(_className) * 1000003u + keys;
 }
 
 std::string CimObjectPath::toString() const {
