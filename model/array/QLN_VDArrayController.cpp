@@ -2,7 +2,7 @@
 
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
@@ -157,7 +157,7 @@ CmpiCpp::CmpiInstance QLN_VDArrayController::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({view.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({view.text}));
 
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({0}));
 
     addEnumIfRead<DPGSupportedTypeEnum>(instance, "DPGSupported", data, &D::getDPGSupportedType);

@@ -3,7 +3,7 @@
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -96,7 +96,7 @@ CmpiCpp::CmpiInstance QLN_VDArraySystem::getInstance() const {
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({health.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({_statusText}));
 
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({3, 15}));
     return instance;
 }

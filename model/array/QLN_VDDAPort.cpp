@@ -2,7 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -64,7 +64,7 @@ CmpiCpp::CmpiInstance QLN_VDDAPort::getInstance() const {
     instance.addProperty("HealthState", status.health);
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({status.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({status.text}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     // Front-end port: it faces the host, not the disks.
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(2));
     return instance;

@@ -1,7 +1,7 @@
 #include "QLN_VDISASPort.h"
 
 #include "ControllerDeviceKey.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -37,7 +37,7 @@ CmpiCpp::CmpiInstance QLN_VDISASPort::getInstance() const {
     instance.addProperty("HealthState", static_cast<unsigned short>(5));
     instance.addProperty("StatusDescriptions",
                          VDArrayValues::strings({"Controller port is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     // Back-end port: it reaches the disks, not the host.
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
     return instance;

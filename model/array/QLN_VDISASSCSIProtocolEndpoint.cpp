@@ -1,7 +1,7 @@
 #include "QLN_VDISASSCSIProtocolEndpoint.h"
 
 #include "ControllerDeviceKey.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -35,11 +35,8 @@ CmpiCpp::CmpiInstance QLN_VDISASSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("OtherTypeDescription", "SCSI");
     // Initiator: the controller starts the conversations with the disks.
     instance.addProperty("Role", static_cast<unsigned short>(2));
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions",
-                         VDArrayValues::strings({"Endpoint is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::healthy(instance, "Endpoint is operating properly");
+    FixedStateProperties::enabled(instance);
     return instance;
 }
 

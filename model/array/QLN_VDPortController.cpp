@@ -2,7 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -61,7 +61,7 @@ CmpiCpp::CmpiInstance QLN_VDPortController::getInstance() const {
     instance.addProperty("HealthState", status.health);
     instance.addProperty("OperationalStatus", VDArrayValues::uint16s({status.operational}));
     instance.addProperty("StatusDescriptions", VDArrayValues::strings({status.text}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     // Always "Other": the bus family goes into OtherControllerType.
     instance.addProperty("ControllerType", static_cast<unsigned short>(1));
     controllerTypeEnum type = CONTROLLER_TYPE_UNKNOWN;

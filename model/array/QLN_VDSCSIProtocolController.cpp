@@ -2,7 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -32,12 +32,8 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolController::getInstance() const {
     instance.addProperty("ElementName", ControllerLocationText::withExternal(data));
     instance.addProperty("MaxUnitsControlled", maxUnitsControlled);
     // The controller's health shows on the array controller; this face of it is healthy by design.
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty(
-        "StatusDescriptions",
-        VDArrayValues::strings({"Array protocol controller is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::healthy(instance, "Array protocol controller is operating properly");
+    FixedStateProperties::enabled(instance);
     return instance;
 }
 

@@ -2,7 +2,7 @@
 
 #include "ControllerDeviceKey.h"
 #include "ControllerLocationText.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "VDArrayValues.h"
 
 namespace {
@@ -32,11 +32,8 @@ CmpiCpp::CmpiInstance QLN_VDSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("OtherConnectionType", "PCI");
     instance.addProperty("Role", static_cast<unsigned short>(3));
     // The endpoint has no state of its own to report; it is healthy by design.
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions",
-                         VDArrayValues::strings({"Endpoint is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::healthy(instance, "Endpoint is operating properly");
+    FixedStateProperties::enabled(instance);
     return instance;
 }
 

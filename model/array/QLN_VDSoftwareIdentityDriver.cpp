@@ -1,6 +1,7 @@
 #include "QLN_VDSoftwareIdentityDriver.h"
 
 #include "CmpiBroker.h"
+#include "FixedStateProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 
@@ -64,9 +65,7 @@ CmpiCpp::CmpiInstance QLN_VDSoftwareIdentityDriver::getInstance() const {
     instance.addProperty("Manufacturer", driverMaker);
     instance.addProperty("Status", "OK");
     instance.addProperty("Description", installedText);
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions", VDArrayValues::strings({installedText}));
+    FixedStateProperties::healthy(instance, installedText);
     instance.addProperty("Classifications", VDArrayValues::uint16s({driverClassification}));
     instance.addProperty("ClassificationDescriptions", VDArrayValues::strings({"Driver"}));
     instance.addProperty("Name", display);

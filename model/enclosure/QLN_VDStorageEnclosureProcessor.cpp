@@ -1,8 +1,8 @@
 #include "QLN_VDStorageEnclosureProcessor.h"
 
 #include "CmpiBroker.h"
-#include "EnabledProperties.h"
 #include "EnclosureSnapshot.h"
+#include "FixedStateProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 #include "VeldraStorageFunctions.h"
@@ -78,7 +78,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
                                 static_cast<unsigned short>(enclosure.getFanStatus()),
                                 static_cast<unsigned short>(enclosure.getPowerSupplyStatus()),
                                 static_cast<unsigned short>(enclosure.getTempSensorStatus())}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     instance.addProperty("Dedicated", VDArrayValues::uint16s({2}));
     instance.addProperty("OtherDedicatedDescriptions", VDArrayValues::strings({"SDE"}));
     return instance;

@@ -2,7 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -173,7 +173,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     }
     instance.addProperty("HealthState", health.health);
 
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     // 11 (not ready) while a member is missing or the volume waits to come up.
     bool const notReady = status == 0x8004 || status == 0x8008 || status == 0x8009;
     instance.addProperty("ExtentStatus",

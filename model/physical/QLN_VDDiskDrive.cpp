@@ -3,7 +3,7 @@
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
 #include "DiskStatusRow.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
@@ -78,7 +78,7 @@ CmpiCpp::CmpiInstance QLN_VDDiskDrive::getInstance() const {
 
     DiskStatusRow::of(disk.getStatus(), disk.getSupportsGasGauge(), carrierAuthentication)
         .addTo(instance);
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
 
     if (disk.getSupportsGasGauge()) {
         instance.addProperty("SSDTotalPowerOnHours",

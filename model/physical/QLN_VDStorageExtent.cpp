@@ -2,7 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "DiskStatusRow.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -59,7 +59,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
     instance.addProperty(
         "ExtentStatus",
         VDArrayValues::uint16s({status == PD_STATUS_REBUILDING ? extentRebuild : extentNone}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::enabled(instance);
     instance.addProperty("BlockSize", static_cast<unsigned long long>(disk.getBlockSize()));
     auto const blocks = static_cast<unsigned long long>(disk.getTotalBlocks());
     instance.addProperty("ConsumableBlocks", blocks);

@@ -1,7 +1,7 @@
 #include "QLN_VDTSASPort.h"
 
 #include "CmpiBroker.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 
@@ -33,11 +33,8 @@ CmpiCpp::CmpiInstance QLN_VDTSASPort::getInstance() const {
     instance.addProperty("Caption", name);
     // A broken path shows on the disk's status and the path's State; the
     // port itself is always reported as working.
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions",
-                         VDArrayValues::strings({"Target port is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::healthy(instance, "Target port is operating properly");
+    FixedStateProperties::enabled(instance);
     instance.addProperty("UsageRestriction", static_cast<unsigned short>(4));
     return instance;
 }

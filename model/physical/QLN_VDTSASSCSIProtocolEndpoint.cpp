@@ -1,7 +1,7 @@
 #include "QLN_VDTSASSCSIProtocolEndpoint.h"
 
 #include "CmpiBroker.h"
-#include "EnabledProperties.h"
+#include "FixedStateProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 
@@ -37,11 +37,8 @@ CmpiCpp::CmpiInstance QLN_VDTSASSCSIProtocolEndpoint::getInstance() const {
     instance.addProperty("ProtocolIFType", protocolOther);
     instance.addProperty("OtherTypeDescription", "SCSI");
     instance.addProperty("Role", roleTarget);
-    instance.addProperty("HealthState", static_cast<unsigned short>(5));
-    instance.addProperty("OperationalStatus", VDArrayValues::uint16s({2}));
-    instance.addProperty("StatusDescriptions",
-                         VDArrayValues::strings({"Endpoint is operating properly"}));
-    EnabledProperties::add(instance);
+    FixedStateProperties::healthy(instance, "Endpoint is operating properly");
+    FixedStateProperties::enabled(instance);
     instance.addProperty("Path", static_cast<unsigned short>(_pathStatus & 0xFFFF));
     return instance;
 }
