@@ -482,24 +482,28 @@ MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std:
 
 void ProviderManager::activateFilter(const std::string& nameSpace, const std::string& className,
                                      bool firstActivation) {
-    CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Indication, nameSpace, className);
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
-                       "no indication provider for " + className + " in " + nameSpace);
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    CMPIObjectPath* op =
-        _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
-    BrokerContext* ctx = _broker->newContext(nameSpace, 0);
-    _check(required(p->indicationMI()->ft->activateFilter, *p,
-                    "activateFilter")(p->indicationMI(), ctx->cmpi(), nullptr, className.c_str(),
-                                      op, firstActivation ? 1 : 0),
-           *p, "activateFilter");
+    _filterCall(&CMPIIndicationMIFT::activateFilter, "activateFilter", nameSpace, className,
+                firstActivation);
 }
 
 void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::string& className,
                                        bool lastActivation) {
+    _filterCall(&CMPIIndicationMIFT::deActivateFilter, "deActivateFilter", nameSpace, className,
+                lastActivation);
+}
+
+void ProviderManager::enableIndications() {
+    _switchCall(&CMPIIndicationMIFT::enableIndications, "enableIndications");
+}
+
+void ProviderManager::disableIndications() {
+    _switchCall(&CMPIIndicationMIFT::disableIndications, "disableIndications");
+}
+
+// Activation and deactivation differ only in the table entry they call.
+void ProviderManager::_filterCall(FilterEntry entry, const char* operation,
+                                  const std::string& nameSpace, const std::string& className,
+                                  bool edge) {
     CallGuard guard(*this);
     LoadedProvider* p = _providerFor(Role::Indication, nameSpace, className);
     if (p == nullptr) {
@@ -510,32 +514,20 @@ void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::
     CMPIObjectPath* op =
         _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
     BrokerContext* ctx = _broker->newContext(nameSpace, 0);
-    _check(required(p->indicationMI()->ft->deActivateFilter, *p,
-                    "deActivateFilter")(p->indicationMI(), ctx->cmpi(), nullptr, className.c_str(),
-                                        op, lastActivation ? 1 : 0),
-           *p, "deActivateFilter");
+    CMPIIndicationMI* mi = p->indicationMI();
+    _check(required(mi->ft->*entry, *p, operation)(mi, ctx->cmpi(), nullptr, className.c_str(), op,
+                                                   edge ? 1 : 0),
+           *p, operation);
 }
 
-void ProviderManager::enableIndications() {
+// The indication switch goes to every indication provider, in its first namespace.
+void ProviderManager::_switchCall(SwitchEntry entry, const char* operation) {
     CallGuard guard(*this);
     for (const auto& p : _providers) {
         if (CMPIIndicationMI* mi = p->indicationMI()) {
             ObjectRegistry::Scope scope(_broker->registry());
             BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
-            _check(required(mi->ft->enableIndications, *p, "enableIndications")(mi, ctx->cmpi()),
-                   *p, "enableIndications");
-        }
-    }
-}
-
-void ProviderManager::disableIndications() {
-    CallGuard guard(*this);
-    for (const auto& p : _providers) {
-        if (CMPIIndicationMI* mi = p->indicationMI()) {
-            ObjectRegistry::Scope scope(_broker->registry());
-            BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);
-            _check(required(mi->ft->disableIndications, *p, "disableIndications")(mi, ctx->cmpi()),
-                   *p, "disableIndications");
+            _check(required(mi->ft->*entry, *p, operation)(mi, ctx->cmpi()), *p, operation);
         }
     }
 }

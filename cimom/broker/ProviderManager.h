@@ -112,6 +112,13 @@ private:
     std::string _findLibrary(const std::string& library,
                              const std::vector<std::string>& dirs) const;
     void _check(CMPIStatus status, const LoadedProvider& provider, const char* operation) const;
+    using FilterEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, const CMPIContext*,
+                                                           const CMPISelectExp*, const char*,
+                                                           const CMPIObjectPath*, CMPIBoolean);
+    using SwitchEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, const CMPIContext*);
+    void _filterCall(FilterEntry entry, const char* operation, const std::string& nameSpace,
+                     const std::string& className, bool edge);
+    void _switchCall(SwitchEntry entry, const char* operation);
     static void _complete(const CimObjectPath& request, CimObjectPath& path);
     static std::vector<CimInstance> _finish(const CimObjectPath& request,
                                             std::vector<CimInstance> found,
