@@ -121,11 +121,7 @@ void BrokerInstance::setProperty(const std::string& name, CimValue value) {
             return;
         }
     }
-    if (isKey) {
-        CimObjectPath path = _instance.path();
-        path.addKey(name, value);
-        _instance.setPath(std::move(path));
-    }
+    if (isKey) _instance.setKey(name, value);
     _instance.setProperty(name, std::move(value));
 }
 

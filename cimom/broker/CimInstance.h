@@ -22,6 +22,8 @@ public:
 
     const CimObjectPath& path() const { return _path; }
     void setPath(CimObjectPath path) { _path = std::move(path); }
+    // Sets one key of the path in place.
+    void setKey(std::string name, CimValue value) { _path.addKey(std::move(name), std::move(value)); }
     const std::string& className() const { return _path.className(); }
 
     const std::vector<Property>& properties() const { return _properties; }

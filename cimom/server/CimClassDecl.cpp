@@ -3,7 +3,11 @@
 #include <strings.h>
 
 namespace {
-bool sameName(const std::string& a, const std::string& b) { return strcasecmp(a.c_str(), b.c_str()) == 0; }
+// Every property of every instance written is looked up here; names of
+// another length are told apart without reading them.
+bool sameName(const std::string& a, const std::string& b) {
+    return a.size() == b.size() && strcasecmp(a.c_str(), b.c_str()) == 0;
+}
 }  // namespace
 
 // CIM names are case-insensitive everywhere, so every lookup ignores case.

@@ -123,9 +123,12 @@ void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& r
     if (!exchange.cimError.empty()) response.set_header("CIMError", exchange.cimError);
     if (exchange.status == 200) {
         response.set_header("CIMOperation", "MethodResponse");
-        response.set_content(exchange.responseBody, "application/xml; charset=\"utf-8\"");
+        // Answers run to megabytes: the body moves rather than being copied.
+        response.body = std::move(exchange.responseBody);
+        response.set_header("Content-Type", "application/xml; charset=\"utf-8\"");
     } else if (!exchange.responseBody.empty()) {
-        response.set_content(exchange.responseBody, "text/plain");
+        response.body = std::move(exchange.responseBody);
+        response.set_header("Content-Type", "text/plain");
     }
 }
 

@@ -153,19 +153,20 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
         openEnvelope(out, request.messageId());
         const char* responseTag = request.intrinsic() ? "IMETHODRESPONSE" : "METHODRESPONSE";
         out.open(responseTag, {{"NAME", request.methodName()}});
+        // The answer is written in place; a failure takes back what the
+        // operation wrote and puts the error there instead.
+        const CimXmlWriter::Mark start = out.mark();
         try {
-            CimXmlWriter body;
-            _dispatch(request, body);
-            // The writer starts with the XML declaration; the body is spliced in after it.
-            std::string text = body.str();
-            exchange.responseBody = out.str() + text.substr(text.find('\n') + 1);
+            _dispatch(request, out);
         } catch (const CimOperationError& e) {
             ServerLog::debug(request.methodName() + " in " + request.nameSpace() + ": " +
                              CimOperationError::codeName(e.code()) + ": " + e.what());
-            out.empty("ERROR", {{"CODE", std::to_string(e.code())}, {"DESCRIPTION", e.what()}});
-            exchange.responseBody = out.str();
+            out.rollback(start);
+            const std::string code = std::to_string(e.code());
+            out.empty("ERROR", {{"CODE", code}, {"DESCRIPTION", e.what()}});
         }
-        exchange.responseBody += "</" + std::string(responseTag) + "></SIMPLERSP></MESSAGE></CIM>";
+        out.close().close().close().close();
+        exchange.responseBody = out.take();
     } catch (const CimProtocolError& e) {
         ServerLog::warn(std::string("refused request: ") + e.what());
         exchange.status = e.httpStatus();

@@ -1,39 +1,70 @@
 #include "CimXmlWriter.h"
 
 #include <stdexcept>
+#include <utility>
 
-CimXmlWriter::CimXmlWriter() { _out = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"; }
+CimXmlWriter::Attributes::Attributes(std::initializer_list<Attribute> items) : _size(0) {
+    for (const Attribute& a : items) add(a.name, a.value);
+}
+
+void CimXmlWriter::Attributes::add(std::string_view name, std::string_view value) {
+    if (_size == _items.size()) throw std::logic_error("CimXmlWriter: too many attributes");
+    _items[_size++] = Attribute{name, value};
+}
+
+CimXmlWriter::CimXmlWriter(bool declaration) {
+    if (declaration) _out = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
+}
+
+namespace {
+
+// What a character becomes in XML text, or null when it stands as it is.
+const char* replacement(char c) {
+    switch (c) {
+        case '&': return "&amp;";
+        case '<': return "&lt;";
+        case '>': return "&gt;";
+        case '"': return "&quot;";
+        case '\'': return "&apos;";
+        case '\t':
+        case '\n':
+        case '\r': return nullptr;
+        default:
+            // XML 1.0 cannot carry other control characters, and the client
+            // reads no numeric references; a space keeps the text readable.
+            return static_cast<unsigned char>(c) < 0x20 ? " " : nullptr;
+    }
+}
+
+}  // namespace
+
+void CimXmlWriter::_escapeInto(std::string_view content) {
+    // Plain runs are copied whole; most values need no escaping at all.
+    std::size_t run = 0;
+    for (std::size_t i = 0; i < content.size(); ++i) {
+        const char* r = replacement(content[i]);
+        if (!r) continue;
+        _out.append(content.data() + run, i - run);
+        _out += r;
+        run = i + 1;
+    }
+    _out.append(content.data() + run, content.size() - run);
+}
 
 std::string CimXmlWriter::escape(std::string_view content) {
-    std::string out;
-    out.reserve(content.size());
-    for (char c : content) {
-        switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            case '\'': out += "&apos;"; break;
-            default:
-                // XML 1.0 cannot carry other control characters, and the client
-                // reads no numeric references; a space keeps the text readable.
-                if (static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r')
-                    out += ' ';
-                else
-                    out += c;
-        }
-    }
-    return out;
+    CimXmlWriter w(false);
+    w._escapeInto(content);
+    return w.take();
 }
 
 void CimXmlWriter::_startTag(std::string_view tag, const Attributes& attributes) {
     _out += '<';
     _out += tag;
-    for (const auto& [name, value] : attributes) {
+    for (const Attribute& a : attributes) {
         _out += ' ';
-        _out += name;
+        _out += a.name;
         _out += "=\"";
-        _out += escape(value);
+        _escapeInto(a.value);
         _out += '"';
     }
 }
@@ -41,7 +72,7 @@ void CimXmlWriter::_startTag(std::string_view tag, const Attributes& attributes)
 CimXmlWriter& CimXmlWriter::open(std::string_view tag, const Attributes& attributes) {
     _startTag(tag, attributes);
     _out += '>';
-    _open.emplace_back(tag);
+    _open.push_back(tag);
     return *this;
 }
 
@@ -67,7 +98,7 @@ CimXmlWriter& CimXmlWriter::empty(std::string_view tag, const Attributes& attrib
 }
 
 CimXmlWriter& CimXmlWriter::text(std::string_view content) {
-    _out += escape(content);
+    _escapeInto(content);
     return *this;
 }
 
@@ -75,4 +106,18 @@ CimXmlWriter& CimXmlWriter::element(std::string_view tag, std::string_view conte
     open(tag, attributes);
     text(content);
     return close();
+}
+
+void CimXmlWriter::rollback(const Mark& mark) {
+    if (mark.length > _out.size() || mark.depth > _open.size())
+        throw std::logic_error("CimXmlWriter: rollback past what was written");
+    _out.resize(mark.length);
+    _open.resize(mark.depth);
+}
+
+std::string CimXmlWriter::take() {
+    std::string out = std::move(_out);
+    _out.clear();
+    _open.clear();
+    return out;
 }

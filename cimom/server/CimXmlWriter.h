@@ -1,18 +1,50 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 // Builds CIM-XML text the way wbemcli reads it: every element gets an end tag
 // except NAMESPACE, CLASSNAME and ERROR when empty, and only the five named
 // entities are used for escaping.
+//
+// Answers run to megabytes, so nothing here allocates per element: tags are
+// kept as views (callers pass literals), attributes as views on the caller's
+// strings, and text is escaped straight into the output.
 class CimXmlWriter {
 public:
-    using Attributes = std::vector<std::pair<std::string, std::string>>;
+    struct Attribute {
+        std::string_view name;
+        std::string_view value;
+    };
+    // A handful of attributes held in place; the values must outlive the
+    // call that writes them.
+    class Attributes {
+    public:
+        Attributes() : _size(0) {}
+        Attributes(std::initializer_list<Attribute> items);
+        void add(std::string_view name, std::string_view value);
+        const Attribute* begin() const { return _items.data(); }
+        const Attribute* end() const { return _items.data() + _size; }
 
-    CimXmlWriter();
+    private:
+        // No member initializers: they would keep `= {}` arguments below
+        // from compiling inside the enclosing class.
+        std::array<Attribute, 8> _items;
+        std::size_t _size;
+    };
+
+    // A place to return to when a part of the answer has to be taken back.
+    struct Mark {
+        std::size_t length;
+        std::size_t depth;
+    };
+
+    // Without the declaration, the writer makes a fragment to embed elsewhere.
+    explicit CimXmlWriter(bool declaration = true);
 
     CimXmlWriter& open(std::string_view tag, const Attributes& attributes = {});
     CimXmlWriter& close();
@@ -22,14 +54,21 @@ public:
     // <tag>content</tag> in one call.
     CimXmlWriter& element(std::string_view tag, std::string_view content, const Attributes& attributes = {});
 
+    Mark mark() const { return {_out.size(), _open.size()}; }
+    // Drops everything written since the mark.
+    void rollback(const Mark& mark);
+
     const std::string& str() const { return _out; }
+    // Hands the text over; the writer is empty afterwards.
+    std::string take();
     bool balanced() const { return _open.empty(); }
 
     static std::string escape(std::string_view content);
 
 private:
     void _startTag(std::string_view tag, const Attributes& attributes);
+    void _escapeInto(std::string_view content);
 
     std::string _out;
-    std::vector<std::string> _open;
+    std::vector<std::string_view> _open;
 };

@@ -46,19 +46,20 @@ void ClassXml::writeQualifier(CimXmlWriter& out, const CimClassDecl::Qualifier& 
 
 void ClassXml::_writeProperty(CimXmlWriter& out, const CimClassDecl::Property& p, const Options& options) {
     CimXmlWriter::Attributes attributes{{"NAME", p.name}};
-    std::string tag = "PROPERTY";
+    const char* tag = "PROPERTY";
+    const std::string arraySize = std::to_string(p.arraySize);
     if (p.type == "reference") {
         tag = "PROPERTY.REFERENCE";
-        attributes.emplace_back("REFERENCECLASS", p.refClass);
+        attributes.add("REFERENCECLASS", p.refClass);
     } else {
-        attributes.emplace_back("TYPE", p.type);
+        attributes.add("TYPE", p.type);
         if (p.isArray) {
             tag = "PROPERTY.ARRAY";
-            if (p.arraySize > 0) attributes.emplace_back("ARRAYSIZE", std::to_string(p.arraySize));
+            if (p.arraySize > 0) attributes.add("ARRAYSIZE", arraySize);
         }
     }
-    if (options.includeClassOrigin) attributes.emplace_back("CLASSORIGIN", p.classOrigin);
-    if (p.propagated) attributes.emplace_back("PROPAGATED", "true");
+    if (options.includeClassOrigin) attributes.add("CLASSORIGIN", p.classOrigin);
+    if (p.propagated) attributes.add("PROPAGATED", "true");
     out.open(tag, attributes);
     if (options.includeQualifiers)
         for (const auto& q : p.qualifiers) writeQualifier(out, q);
@@ -69,22 +70,23 @@ void ClassXml::_writeProperty(CimXmlWriter& out, const CimClassDecl::Property& p
 
 void ClassXml::_writeMethod(CimXmlWriter& out, const CimClassDecl::Method& m, const Options& options) {
     CimXmlWriter::Attributes attributes{{"NAME", m.name}, {"TYPE", m.returnType}};
-    if (options.includeClassOrigin) attributes.emplace_back("CLASSORIGIN", m.classOrigin);
-    if (m.propagated) attributes.emplace_back("PROPAGATED", "true");
+    if (options.includeClassOrigin) attributes.add("CLASSORIGIN", m.classOrigin);
+    if (m.propagated) attributes.add("PROPAGATED", "true");
     out.open("METHOD", attributes);
     if (options.includeQualifiers)
         for (const auto& q : m.qualifiers) writeQualifier(out, q);
     for (const auto& p : m.parameters) {
         CimXmlWriter::Attributes pa{{"NAME", p.name}};
-        std::string tag;
+        const char* tag;
+        const std::string arraySize = std::to_string(p.arraySize);
         if (p.type == "reference") {
             tag = p.isArray ? "PARAMETER.REFARRAY" : "PARAMETER.REFERENCE";
-            pa.emplace_back("REFERENCECLASS", p.refClass);
+            pa.add("REFERENCECLASS", p.refClass);
         } else {
             tag = p.isArray ? "PARAMETER.ARRAY" : "PARAMETER";
-            pa.emplace_back("TYPE", p.type);
+            pa.add("TYPE", p.type);
         }
-        if (p.isArray && p.arraySize > 0) pa.emplace_back("ARRAYSIZE", std::to_string(p.arraySize));
+        if (p.isArray && p.arraySize > 0) pa.add("ARRAYSIZE", arraySize);
         out.open(tag, pa);
         if (options.includeQualifiers)
             for (const auto& q : p.qualifiers) writeQualifier(out, q);
@@ -95,7 +97,7 @@ void ClassXml::_writeMethod(CimXmlWriter& out, const CimClassDecl::Method& m, co
 
 void ClassXml::writeClass(CimXmlWriter& out, const CimClassDecl& cls, const Options& options) {
     CimXmlWriter::Attributes attributes{{"NAME", cls.name}};
-    if (!cls.superClass.empty()) attributes.emplace_back("SUPERCLASS", cls.superClass);
+    if (!cls.superClass.empty()) attributes.add("SUPERCLASS", cls.superClass);
     out.open("CLASS", attributes);
     if (options.includeQualifiers)
         for (const auto& q : cls.qualifiers) writeQualifier(out, q);

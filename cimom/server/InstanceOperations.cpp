@@ -335,10 +335,8 @@ void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& o
     out.close();
     for (const auto& [name, value] : outArgs) {
         CimXmlWriter::Attributes attributes{{"NAME", name}};
-        if (value.type() != CMPI_null) {
-            std::string type = CimValue::typeName(value.elementType());
-            attributes.emplace_back("PARAMTYPE", type);
-        }
+        const std::string type = value.type() == CMPI_null ? "" : CimValue::typeName(value.elementType());
+        if (value.type() != CMPI_null) attributes.add("PARAMTYPE", type);
         out.open("PARAMVALUE", attributes);
         if (!value.isNull()) InstanceXml::writeValue(out, value, _host);
         out.close();

@@ -116,7 +116,11 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std
         out.element("VALUE", text.substr(text.find('\n') + 1));
         return;
     }
-    out.element("VALUE", value.toText());
+    // Strings are the bulk of an answer; they go out without a copy.
+    if (value.type() == CMPI_string || value.type() == CMPI_dateTime)
+        out.element("VALUE", value.asString());
+    else
+        out.element("VALUE", value.toText());
 }
 
 void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options) {
@@ -139,17 +143,18 @@ void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, 
         const CimClassDecl::Property* decl = options.cls ? options.cls->findProperty(p.name) : nullptr;
         const CimValue& v = p.value;
         CimXmlWriter::Attributes attributes{{"NAME", p.name}};
-        std::string tag;
+        const char* tag;
+        std::string type;
         if (v.elementType() == CMPI_ref || (v.type() == CMPI_null && decl && decl->type == "reference")) {
             tag = "PROPERTY.REFERENCE";
-            if (decl) attributes.emplace_back("REFERENCECLASS", decl->refClass);
+            if (decl) attributes.add("REFERENCECLASS", decl->refClass);
         } else {
-            std::string type = v.type() == CMPI_null ? (decl ? decl->type : "string") : elementTypeName(v);
+            type = v.type() == CMPI_null ? (decl ? decl->type : "string") : elementTypeName(v);
             tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY" : "PROPERTY";
-            attributes.emplace_back("TYPE", type);
-            if (v.elementType() == CMPI_instance) attributes.emplace_back("EmbeddedObject", "instance");
+            attributes.add("TYPE", type);
+            if (v.elementType() == CMPI_instance) attributes.add("EmbeddedObject", "instance");
         }
-        if (options.includeClassOrigin && decl) attributes.emplace_back("CLASSORIGIN", decl->classOrigin);
+        if (options.includeClassOrigin && decl) attributes.add("CLASSORIGIN", decl->classOrigin);
         out.open(tag, attributes);
         if (!v.isNull()) writeValue(out, v, options.host);
         out.close();

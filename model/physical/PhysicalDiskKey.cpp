@@ -24,20 +24,19 @@ std::string PhysicalDiskKey::name(std::string const& serial, std::string const& 
 VeldraPhysicalDisk PhysicalDiskKey::find(VeldraController* controller, Logger const& logger,
                                          std::string const& serial, int box, int bay,
                                          char const* failure) {
-    std::vector<VeldraPhysicalDisk> disks = controller->getLastAllPhysicalDisks();
-    int const at = findPhysicalDiskInVector(serial, box, bay, disks);
+    // Shared, not copied: this runs for every instance of every disk class.
+    auto const disks = controller->shareLastAllPhysicalDisks();
+    int const at = findPhysicalDiskInVector(serial, box, bay, *disks);
     if (at < 0) {
         logger.error("%s", failure);
         throw CmpiCpp::CmpiStatus(CMPI_RC_ERROR_SYSTEM, failure);
     }
-    return disks[static_cast<std::size_t>(at)];
+    return (*disks)[static_cast<std::size_t>(at)];
 }
 
 std::string PhysicalDiskKey::systemName(VeldraController* controller,
                                         unsigned int controllerIndex) {
-    VeldraControllerData data;
-    controller->getLastVDData(data);
-    return getControllerName(data, static_cast<int>(controllerIndex));
+    return getControllerName(*controller->shareLastVDData(), static_cast<int>(controllerIndex));
 }
 
 CmpiCpp::CmpiObjectPath

@@ -12,7 +12,9 @@ CmpiTableInstanceResult::CmpiTableInstanceResult(CmpiBroker const& broker, CMPIR
 void CmpiTableInstanceResult::returnInstance(CmpiInstance const& instance) {
     if (!_result || !_result->ft)
         throw CmpiStatus(CMPI_RC_ERR_INVALID_HANDLE, "no result to return an instance to");
-    CMPIInstance* raw = CmpiConvert::toCMPI(_broker, instance.filtered(_properties));
+    // Without a property list the instance goes as it is, without a copy.
+    CMPIInstance* raw = _properties ? CmpiConvert::toCMPI(_broker, instance.filtered(_properties))
+                                    : CmpiConvert::toCMPI(_broker, instance);
     CMPIStatus const rc = _result->ft->returnInstance(_result, raw);
     if (rc.rc != CMPI_RC_OK)
         throw CmpiStatus(rc.rc, "returnInstance failed: " + CmpiConvert::fromCMPI(rc.msg));

@@ -246,7 +246,7 @@ void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, Cm
             }
             CmpiInstance instance;
             if (_instanceOf(entry.get(), instance, "enumInstances")) {
-                found.push_back(instance.filtered(properties));
+                found.push_back(properties ? instance.filtered(properties) : std::move(instance));
             }
         }
     }

@@ -12,6 +12,7 @@
 #include "VeldraPhysicalDisk.h"
 
 #include <atomic>
+#include <memory>
 #include <mutex>
 #include <vector>
 
@@ -47,6 +48,13 @@ public:
     void getLastLogicalDisks(std::vector<VeldraLogicalDisk>& out);
     void setLastLogicalDisks(std::vector<VeldraLogicalDisk> disks);
 
+    // The stored snapshots without a copy, for readers that only look: the
+    // caller holds the version it took, whatever is stored meanwhile.
+    std::shared_ptr<VeldraControllerData const> shareLastVDData();
+    std::shared_ptr<std::vector<VeldraEnclosure> const> shareLastAllEnclosures();
+    std::shared_ptr<std::vector<VeldraPhysicalDisk> const> shareLastAllPhysicalDisks();
+    std::shared_ptr<std::vector<VeldraLogicalDisk> const> shareLastLogicalDisks();
+
     u32 getConsumedDiskVectorCount() const { return _consumedDiskVector; }
     void setConsumedDiskVectorCount(u32 value) { _consumedDiskVector = value; }
     u32 getConsumedControllerDataCount() const { return _consumedControllerData; }
@@ -56,12 +64,13 @@ public:
 
 private:
     // The worker writes snapshots under the provider's lock, but the view
-    // classes read outside it; this lock keeps each copy whole.
+    // classes read outside it; this lock guards the swap of each version.
+    // A stored version is never changed, only replaced.
     std::mutex _snapshotMutex;
-    VeldraControllerData _lastData;
-    std::vector<VeldraEnclosure> _lastEnclosures;
-    std::vector<VeldraPhysicalDisk> _lastPhysicalDisks;
-    std::vector<VeldraLogicalDisk> _lastLogicalDisks;
+    std::shared_ptr<VeldraControllerData const> _lastData;
+    std::shared_ptr<std::vector<VeldraEnclosure> const> _lastEnclosures;
+    std::shared_ptr<std::vector<VeldraPhysicalDisk> const> _lastPhysicalDisks;
+    std::shared_ptr<std::vector<VeldraLogicalDisk> const> _lastLogicalDisks;
     std::atomic<u32> _consumedDiskVector{0};
     std::atomic<u32> _consumedControllerData{0};
     std::atomic<u32> _consumedSignificant{0};

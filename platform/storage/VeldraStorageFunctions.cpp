@@ -58,7 +58,7 @@ void findNewVDPhysicalPaths(std::vector<VeldraPhysicalPath> const& previous,
 }
 
 int findPhysicalDiskInVector(std::string serial, int enclosureBoxNumber, int bay,
-                             std::vector<VeldraPhysicalDisk>& disks) {
+                             std::vector<VeldraPhysicalDisk> const& disks) {
     for (size_t i = 0; i < disks.size(); ++i) {
         VeldraPhysicalDisk const& d = disks[i];
         bool match = serial.empty() ? d.getSerialNumber().empty() && d.getEnclosureBoxNumber() == enclosureBoxNumber &&
@@ -69,13 +69,13 @@ int findPhysicalDiskInVector(std::string serial, int enclosureBoxNumber, int bay
     return -1;
 }
 
-int findLogicalDiskInVector(std::string serial, std::vector<VeldraLogicalDisk>& disks) {
+int findLogicalDiskInVector(std::string serial, std::vector<VeldraLogicalDisk> const& disks) {
     for (size_t i = 0; i < disks.size(); ++i)
         if (disks[i].getSerialNumber() == serial) return static_cast<int>(i);
     return -1;
 }
 
-int findEnclosureInVector(u32 enclosureBoxNumber, std::vector<VeldraEnclosure>& enclosures) {
+int findEnclosureInVector(u32 enclosureBoxNumber, std::vector<VeldraEnclosure> const& enclosures) {
     for (size_t i = 0; i < enclosures.size(); ++i)
         if (enclosures[i].getEnclosureBoxNumber() == enclosureBoxNumber) return static_cast<int>(i);
     return -1;

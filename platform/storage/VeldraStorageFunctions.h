@@ -28,9 +28,9 @@ void findNewVDPhysicalPaths(std::vector<VeldraPhysicalPath> const& previous,
 // Index of the disk with this serial number (or, for an empty serial, the
 // serial-less disk at this enclosure and bay); -1 when there is none.
 int findPhysicalDiskInVector(std::string serial, int enclosureBoxNumber, int bay,
-                             std::vector<VeldraPhysicalDisk>& disks);
-int findLogicalDiskInVector(std::string serial, std::vector<VeldraLogicalDisk>& disks);
-int findEnclosureInVector(u32 enclosureBoxNumber, std::vector<VeldraEnclosure>& enclosures);
+                             std::vector<VeldraPhysicalDisk> const& disks);
+int findLogicalDiskInVector(std::string serial, std::vector<VeldraLogicalDisk> const& disks);
+int findEnclosureInVector(u32 enclosureBoxNumber, std::vector<VeldraEnclosure> const& enclosures);
 
 // "1I,2I": the ports of the routes in order, comma separated; "" for none.
 std::string pathsToPortStr(std::vector<VeldraPhysicalPath> const& paths);

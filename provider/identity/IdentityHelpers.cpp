@@ -57,7 +57,7 @@ std::string removeWhitespace(std::string text) {
     return joined;
 }
 
-std::string getControllerTag(VeldraControllerData data, int index) {
+std::string getControllerTag(VeldraControllerData const& data, int index) {
     // A failed read leaves the record as it was; start from the null record so
     // that the unique ID below is still defined.
     physloc_t location = BMC_physloc_NULL;
@@ -78,7 +78,7 @@ std::string getControllerTag(VeldraControllerData data, int index) {
     return prefix + (colon == std::string::npos ? id : id.substr(colon + 1));
 }
 
-std::string getControllerName(VeldraControllerData data, int index) {
+std::string getControllerName(VeldraControllerData const& data, int index) {
     std::string serial;
     if (data.getControllerSerialNumber(serial) == 0 && !serial.empty()) {
         return serial;
@@ -104,14 +104,14 @@ std::string getControllerDisplayName(VeldraControllerData const& data) {
     return prefix + QLNPhysloc::physlocToHWLocation(location);
 }
 
-CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData data, int index) {
+CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData const& data, int index) {
     CmpiCpp::CmpiObjectPath path = makePath(arrayControllerClass);
     path.addKey("CreationClassName", arrayControllerClass);
     path.addKey("Name", getControllerName(data, index));
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data) {
+CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData const& data) {
     CmpiCpp::CmpiObjectPath path = makePath(pciDeviceClass);
     path.addKey("CreationClassName", pciDeviceClass);
     path.addKey("SystemCreationClassName", computerSystemClass);
@@ -131,8 +131,8 @@ CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data) {
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index,
-                                              VeldraLogicalDisk logicalDisk) {
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData const& data, int index,
+                                              VeldraLogicalDisk const& logicalDisk) {
     CmpiCpp::CmpiObjectPath path = makePath(storageVolumeClass);
     path.addKey("SystemCreationClassName", arraySystemClass);
     path.addKey("CreationClassName", storageVolumeClass);
@@ -141,8 +141,8 @@ CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int ind
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index,
-                                          VeldraPhysicalDisk disk) {
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData const& data, int index,
+                                          VeldraPhysicalDisk const& disk) {
     CmpiCpp::CmpiObjectPath path = makePath(diskDriveClass);
     path.addKey("SystemCreationClassName", arraySystemClass);
     path.addKey("CreationClassName", diskDriveClass);
@@ -159,14 +159,14 @@ CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index,
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure enclosure) {
+CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure const& enclosure) {
     CmpiCpp::CmpiObjectPath path = makePath(storageEnclosureClass);
     path.addKey("CreationClassName", storageEnclosureClass);
     path.addKey("Tag", enclosureTag(index, enclosure));
     return path;
 }
 
-CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure enclosure) {
+CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure const& enclosure) {
     CmpiCpp::CmpiObjectPath path = makePath(enclosureProcessorClass);
     path.addKey("CreationClassName", enclosureProcessorClass);
     path.addKey("Name", enclosureTag(index, enclosure));

@@ -24,20 +24,20 @@ bool isPhyslocNull(physloc_t const& location);
 std::string removeWhitespace(std::string text);
 
 // "PCISLOT-", "EXTERNAL-", "EMBEDDED-" or "UNKNOWN-" and the location's unique code.
-std::string getControllerTag(VeldraControllerData data, int index);
+std::string getControllerTag(VeldraControllerData const& data, int index);
 // The serial number when there is one, else the tag.
-std::string getControllerName(VeldraControllerData data, int index);
+std::string getControllerName(VeldraControllerData const& data, int index);
 // "Veldra in PCI Slot 3", "Veldra External ...": for people, not a key.
 std::string getControllerDisplayName(VeldraControllerData const& data);
 
-CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData data, int index);
-CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData data);
-CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData data, int index,
-                                              VeldraLogicalDisk logicalDisk);
-CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData data, int index,
-                                          VeldraPhysicalDisk disk);
-CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure enclosure);
-CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure enclosure);
+CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData const& data, int index);
+CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData const& data);
+CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData const& data, int index,
+                                              VeldraLogicalDisk const& logicalDisk);
+CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData const& data, int index,
+                                          VeldraPhysicalDisk const& disk);
+CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure const& enclosure);
+CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure const& enclosure);
 
 // The comparison steps of the worker's linear searches.
 bool isEnclosureBox(VeldraEnclosure enclosure, int box);

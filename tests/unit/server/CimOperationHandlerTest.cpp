@@ -1,4 +1,5 @@
 #include "ClassRepository.h"
+#include "CimOperationError.h"
 #include "CimOperationHandler.h"
 
 #include <gtest/gtest.h>
@@ -222,4 +223,29 @@ TEST(PercentDecode, DecodesWbemcliObjectHeaders) {
               "root/mwq:QLN_Disk.DeviceID=\"a b\"");
     EXPECT_EQ(CimOperationHandler::percentDecode("100%"), "100%");
     EXPECT_EQ(CimOperationHandler::percentDecode("%zz"), "%zz");
+}
+
+// Catches an operation that fails half-way leaking its partial answer, or an
+// unbalanced envelope, into the error response: the answer is written in place.
+TEST_F(HandlerTable, AFailureAfterPartialOutputAnswersOnlyTheError) {
+    CimOperationHandler handler(repo, CimOperationHandler::Settings{32});
+    handler.addOperation("HalfWay", [](const CimRequest&, CimXmlWriter& out) {
+        out.open("IRETURNVALUE").open("VALUE.NAMEDINSTANCE").element("VALUE", "partial");
+        throw CimOperationError(CimOperationError::failed, "gave up at <half> & \x01way");
+    });
+    CimHttpExchange exchange;
+    exchange.cimOperation = "MethodCall";
+    exchange.cimMethod = "HalfWay";
+    exchange.cimObject = "root%2Fmwq";
+    exchange.body = imethod("HalfWay", "");
+    handler.handle(exchange);
+    ASSERT_EQ(exchange.status, 200);
+    EXPECT_EQ(exchange.responseBody, error("HalfWay", 1, "gave up at &lt;half&gt; &amp;  way"));
+}
+
+// Catches the fixed-size attribute list overrunning silently.
+TEST(CimXmlWriterAttributes, OverflowIsRefused) {
+    CimXmlWriter::Attributes attributes;
+    for (int i = 0; i < 8; ++i) attributes.add("A", "v");
+    EXPECT_THROW(attributes.add("B", "w"), std::logic_error);
 }
