@@ -18,7 +18,9 @@ ObjectRegistry::~ObjectRegistry() {
         std::free(block);
     }
     // Objects may hold nothing of each other, so the order does not matter.
-    _objects.clear();
+    for (auto& [object, arena] : _objects) {
+        delete object;
+    }
 }
 
 ObjectRegistry::Arena* ObjectRegistry::_currentArena() const {
@@ -33,30 +35,29 @@ ObjectRegistry::Arena* ObjectRegistry::_currentArena() const {
 void ObjectRegistry::_adopt(std::unique_ptr<EncapsulatedObject> obj, bool inArena) {
     Arena* arena = inArena ? _currentArena() : nullptr;
     std::lock_guard<std::mutex> lock(_mutex);
-    EncapsulatedObject* raw = obj.get();
-    _objects.emplace(raw, std::move(obj));
-    _objectArena.emplace(raw, arena);
+    EncapsulatedObject* raw = obj.release();
+    _objects.emplace(raw, arena);
     if (arena != nullptr) {
-        arena->objects.insert(raw);
+        arena->objects.push_back(raw);
     }
 }
 
 bool ObjectRegistry::release(EncapsulatedObject* obj) {
-    std::unique_ptr<EncapsulatedObject> doomed;
     {
         std::lock_guard<std::mutex> lock(_mutex);
         auto it = _objects.find(obj);
         if (it == _objects.end()) {
             return false;
         }
-        doomed = std::move(it->second);
-        _objects.erase(it);
-        auto a = _objectArena.find(obj);
-        if (a->second != nullptr) {
-            a->second->objects.erase(obj);
+        if (Arena* arena = it->second) {
+            // Objects released early are mostly the newest ones.
+            auto& objects = arena->objects;
+            auto at = std::find(objects.rbegin(), objects.rend(), obj);
+            objects.erase(std::next(at).base());
         }
-        _objectArena.erase(a);
+        _objects.erase(it);
     }
+    delete obj;
     return true;
 }
 
@@ -71,12 +72,11 @@ ObjectRegistry::Arena* ObjectRegistry::pushArena() {
     return raw;
 }
 
-void ObjectRegistry::_closeArenaLocked(Arena* arena,
-                                       std::unordered_set<EncapsulatedObject*>& doomed,
+void ObjectRegistry::_closeArenaLocked(Arena* arena, std::vector<EncapsulatedObject*>& doomed,
                                        std::unordered_set<void*>& blocks) {
     for (EncapsulatedObject* obj : arena->objects) {
-        doomed.insert(obj);
-        _objectArena.erase(obj);
+        doomed.push_back(obj);
+        _objects.erase(obj);
     }
     for (void* block : arena->blocks) {
         blocks.insert(block);
@@ -91,22 +91,20 @@ bool ObjectRegistry::popArena(Arena* arena) {
     if (pos == openArenas.end()) {
         return false;
     }
-    std::vector<std::unique_ptr<EncapsulatedObject>> doomedObjects;
+    std::vector<EncapsulatedObject*> doomed;
     std::unordered_set<void*> blocks;
     {
         std::lock_guard<std::mutex> lock(_mutex);
-        std::unordered_set<EncapsulatedObject*> doomed;
         // Arenas of ours opened after this one on this thread close with it.
         for (auto it = pos; it != openArenas.end(); ++it) {
             if (it->first == this) {
                 _closeArenaLocked(it->second, doomed, blocks);
             }
         }
-        for (EncapsulatedObject* obj : doomed) {
-            auto o = _objects.find(obj);
-            doomedObjects.push_back(std::move(o->second));
-            _objects.erase(o);
-        }
+    }
+    // Freed outside the lock: other threads' requests need not wait for it.
+    for (EncapsulatedObject* obj : doomed) {
+        delete obj;
     }
     openArenas.erase(
         std::remove_if(pos, openArenas.end(), [this](const auto& e) { return e.first == this; }),

@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "EncapsulatedObject.h"
 
@@ -23,7 +24,9 @@ public:
     // The objects and blocks of one arena (an opaque handle to providers).
     class Arena {
     public:
-        std::unordered_set<EncapsulatedObject*> objects;
+        // In the order made; an answer makes tens of thousands, so appending
+        // must stay cheap.
+        std::vector<EncapsulatedObject*> objects;
         std::unordered_set<void*> blocks;
     };
 
@@ -78,12 +81,12 @@ public:
 private:
     void _adopt(std::unique_ptr<EncapsulatedObject> obj, bool inArena);
     Arena* _currentArena() const;
-    void _closeArenaLocked(Arena* arena, std::unordered_set<EncapsulatedObject*>& doomed,
+    void _closeArenaLocked(Arena* arena, std::vector<EncapsulatedObject*>& doomed,
                            std::unordered_set<void*>& blocks);
 
     mutable std::mutex _mutex;
-    std::unordered_map<EncapsulatedObject*, std::unique_ptr<EncapsulatedObject>> _objects;
-    std::unordered_map<EncapsulatedObject*, Arena*> _objectArena;
+    // Every live object, owned, with its arena (null for detached ones).
+    std::unordered_map<EncapsulatedObject*, Arena*> _objects;
     std::unordered_map<void*, Arena*> _blocks;
     std::unordered_map<Arena*, std::unique_ptr<Arena>> _arenas;
 };
