@@ -58,6 +58,8 @@ public:
     // Drops everything written since the mark.
     void rollback(const Mark& mark);
 
+    // Room for this many more characters, so that a long answer grows once.
+    void reserve(std::size_t more) { _out.reserve(_out.size() + more); }
     const std::string& str() const { return _out; }
     // Hands the text over; the writer is empty afterwards.
     std::string take();

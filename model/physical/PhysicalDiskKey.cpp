@@ -24,14 +24,14 @@ std::string PhysicalDiskKey::name(std::string const& serial, std::string const& 
 VeldraPhysicalDisk PhysicalDiskKey::find(VeldraController* controller, Logger const& logger,
                                          std::string const& serial, int box, int bay,
                                          char const* failure) {
-    // Shared, not copied: this runs for every instance of every disk class.
-    auto const disks = controller->shareLastAllPhysicalDisks();
-    int const at = findPhysicalDiskInVector(serial, box, bay, *disks);
-    if (at < 0) {
+    // Through the snapshot's index: this runs for every instance of every
+    // disk class, and a scan would make an enumeration quadratic.
+    std::optional<VeldraPhysicalDisk> disk = controller->findLastPhysicalDisk(serial, box, bay);
+    if (!disk) {
         logger.error("%s", failure);
         throw CmpiCpp::CmpiStatus(CMPI_RC_ERROR_SYSTEM, failure);
     }
-    return (*disks)[static_cast<std::size_t>(at)];
+    return std::move(*disk);
 }
 
 std::string PhysicalDiskKey::systemName(VeldraController* controller,

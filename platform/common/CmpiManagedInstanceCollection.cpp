@@ -217,7 +217,7 @@ void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& resu
     {
         std::shared_lock lock(_mutex);
         for (auto const& entry : _entries) {
-            if (!entry->instance->visible() || !fits(className, entry->className)) {
+            if (!fits(className, entry->className) || !entry->instance->visible()) {
                 continue;
             }
             try {
@@ -241,7 +241,7 @@ void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, Cm
     {
         std::shared_lock lock(_mutex);
         for (auto const& entry : _entries) {
-            if (!entry->instance->visible() || !fits(className, entry->className)) {
+            if (!fits(className, entry->className) || !entry->instance->visible()) {
                 continue;
             }
             CmpiInstance instance;
@@ -283,7 +283,7 @@ CmpiManagedInstanceCollection::_fittingAssociations(std::string const& sourceKey
         return fitting;
     }
     for (Entry const* entry : found->second) {
-        if (!entry->instance->visible() || !fits(assocClass, entry->className)) {
+        if (!fits(assocClass, entry->className) || !entry->instance->visible()) {
             continue;
         }
         bool named = std::any_of(

@@ -14,6 +14,9 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 class VeldraController {
@@ -54,6 +57,10 @@ public:
     std::shared_ptr<std::vector<VeldraEnclosure> const> shareLastAllEnclosures();
     std::shared_ptr<std::vector<VeldraPhysicalDisk> const> shareLastAllPhysicalDisks();
     std::shared_ptr<std::vector<VeldraLogicalDisk> const> shareLastLogicalDisks();
+    // The stored disk that findPhysicalDiskInVector would pick from the
+    // stored snapshot, through an index made when the snapshot was stored.
+    std::optional<VeldraPhysicalDisk> findLastPhysicalDisk(std::string const& serial, int enclosureBoxNumber,
+                                                           int bay);
 
     u32 getConsumedDiskVectorCount() const { return _consumedDiskVector; }
     void setConsumedDiskVectorCount(u32 value) { _consumedDiskVector = value; }
@@ -70,6 +77,8 @@ private:
     std::shared_ptr<VeldraControllerData const> _lastData;
     std::shared_ptr<std::vector<VeldraEnclosure> const> _lastEnclosures;
     std::shared_ptr<std::vector<VeldraPhysicalDisk> const> _lastPhysicalDisks;
+    // Serial number to the first position that has it, for _lastPhysicalDisks.
+    std::shared_ptr<std::unordered_map<std::string, std::size_t> const> _lastDiskBySerial;
     std::shared_ptr<std::vector<VeldraLogicalDisk> const> _lastLogicalDisks;
     std::atomic<u32> _consumedDiskVector{0};
     std::atomic<u32> _consumedControllerData{0};

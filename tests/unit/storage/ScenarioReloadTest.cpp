@@ -182,3 +182,25 @@ TEST(Factory, EmptyScenarioHasNoController) {
 }
 
 } // namespace
+
+// Catches the stored-disk index drifting from the scan it stands in for:
+// same disk for every identity, serial-less disks by place, and nothing
+// once a newer snapshot has dropped the disk.
+TEST_F(ReloadTest, StoredDiskLookupAgreesWithTheScan) {
+    std::vector<VeldraPhysicalDisk> disks = _controller->getAllPhysicalDisks();
+    _controller->setLastAllPhysicalDisks(disks);
+    for (VeldraPhysicalDisk const& d : disks) {
+        auto found = _controller->findLastPhysicalDisk(d.getSerialNumber(), d.getEnclosureBoxNumber(), d.getBay());
+        ASSERT_TRUE(found.has_value()) << d.getSerialNumber();
+        int at = findPhysicalDiskInVector(d.getSerialNumber(), d.getEnclosureBoxNumber(), d.getBay(), disks);
+        EXPECT_EQ(found->getId(), disks[static_cast<size_t>(at)].getId());
+    }
+    EXPECT_FALSE(_controller->findLastPhysicalDisk("no such serial", 0, 0).has_value());
+
+    std::vector<VeldraPhysicalDisk> fewer(disks.begin() + 2, disks.end());
+    _controller->setLastAllPhysicalDisks(fewer);
+    EXPECT_FALSE(_controller->findLastPhysicalDisk(disks[0].getSerialNumber(), 0, 0).has_value());
+    EXPECT_TRUE(_controller->findLastPhysicalDisk(disks[3].getSerialNumber(), disks[3].getEnclosureBoxNumber(),
+                                                  disks[3].getBay())
+                    .has_value());
+}
