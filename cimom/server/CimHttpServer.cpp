@@ -4,6 +4,8 @@
 #include "ServerLog.h"
 
 #include <httplib.h>
+#include <chrono>
+#include <malloc.h>
 #include <openssl/evp.h>
 
 #include <stdexcept>
@@ -110,6 +112,7 @@ void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& r
     exchange.cimProtocolVersion = headerOf(request, "CIMProtocolVersion");
     exchange.contentType = headerOf(request, "Content-Type");
     exchange.body = request.body;
+    ++_inFlight;
     try {
         _handler(exchange);
     } catch (const std::exception& e) {
@@ -119,6 +122,7 @@ void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& r
         exchange.responseBody.clear();
         exchange.cimError.clear();
     }
+    _releaseFreedMemory(exchange.responseBody.size());
     response.status = exchange.status;
     if (!exchange.cimError.empty()) response.set_header("CIMError", exchange.cimError);
     if (exchange.status == 200) {
@@ -130,6 +134,26 @@ void CimHttpServer::_serve(const httplib::Request& request, httplib::Response& r
         response.body = std::move(exchange.responseBody);
         response.set_header("Content-Type", "text/plain");
     }
+}
+
+void CimHttpServer::_releaseFreedMemory(std::size_t answerBytes) {
+    // A large answer leaves tens of megabytes freed in this thread's malloc
+    // arena, which glibc keeps for reuse; with eight request threads the
+    // process would hold several such peaks (measured: 1.4 GiB resident after
+    // every class of the 16 x 256 scenario, 0.4 GiB of it live). Handing it
+    // back costs about 20 ms, so under steady load it happens once a second,
+    // and otherwise when the last request in flight is done.
+    constexpr std::size_t largeAnswer = 1 << 20;
+    constexpr std::int64_t interval = 1000;
+    const bool last = _inFlight.fetch_sub(1) == 1;
+    if (answerBytes < largeAnswer) return;
+    const std::int64_t now = std::chrono::duration_cast<std::chrono::milliseconds>(
+                                 std::chrono::steady_clock::now().time_since_epoch())
+                                 .count();
+    std::int64_t previous = _lastTrimMs.load();
+    if (!last && now - previous < interval) return;
+    if (!_lastTrimMs.compare_exchange_strong(previous, now)) return;  // another thread is at it
+    malloc_trim(0);
 }
 
 int CimHttpServer::bind() {

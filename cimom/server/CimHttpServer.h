@@ -3,6 +3,8 @@
 #include "CimHttpExchange.h"
 
 #include <functional>
+#include <atomic>
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -46,8 +48,11 @@ public:
 private:
     bool _authorized(const httplib::Request& request) const;
     void _serve(const httplib::Request& request, httplib::Response& response);
+    void _releaseFreedMemory(std::size_t answerBytes);
 
     Settings _settings;
     Handler _handler;
     std::unique_ptr<httplib::Server> _server;
+    std::atomic<int> _inFlight{0};
+    std::atomic<std::int64_t> _lastTrimMs{0};
 };
