@@ -3,6 +3,8 @@
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDDiskDrive.h"
 #include "QLN_VDStorageVolume.h"
+#include "CmpiBroker.h"
+#include "CmpiObjectPath.h"
 #include "CmpiStatus.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
@@ -49,6 +51,13 @@ QLNVeldraProvider::QLNVeldraProvider(CmpiCpp::CmpiBroker const& broker, Logger& 
     : _managedInstances(logger), _indicationsEnabled(false), _workerEnteredWithIndications(false),
       _heartbeatEnabled(false), _internalVDControllerMRA(nullptr) {
     QLNUtil::setBroker(broker);
+    // Association filters name classes such as CIM_ManagedElement; only the
+    // object manager knows which of ours descend from them.
+    _managedInstances.setClassTest([](std::string const& nameSpace, CmpiName const& className,
+                                      CmpiName const& filter) {
+        CmpiCpp::CmpiBroker const current(QLNUtil::getBroker());
+        return current.classPathIsA(CmpiCpp::makeCmpiObjectPath(current, nameSpace, className), filter);
+    });
     _logger = logger;
     pthread_mutex_init(&_providerMutex, nullptr);
     _indicationsEnabled = false;

@@ -62,4 +62,18 @@ CmpiInstance CmpiBroker::getInstance(CmpiContext const& context, CmpiObjectPath 
     return CmpiConvert::fromCMPI(found);
 }
 
+bool CmpiBroker::classPathIsA(CmpiObjectPath const& path, CmpiName const& type) const {
+    table(_broker);
+    CMPIBrokerEncFT const* eft = _broker->eft;
+    if (!eft || !eft->classPathIsA)
+        throw CmpiStatus(CMPI_RC_ERR_NOT_SUPPORTED, "broker has no classPathIsA");
+    CmpiConvert::Made made;
+    CMPIObjectPath* op = CmpiConvert::toCMPI(*this, path, &made);
+    CMPIStatus rc{CMPI_RC_OK, nullptr};
+    CMPIBoolean const answer = eft->classPathIsA(_broker, op, type.c_str(), &rc);
+    if (rc.rc != CMPI_RC_OK)
+        throw CmpiStatus(rc.rc, "classPathIsA of " + path.str() + " failed: " + CmpiConvert::fromCMPI(rc.msg));
+    return answer != 0;
+}
+
 } // namespace CmpiCpp

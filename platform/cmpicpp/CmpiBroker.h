@@ -9,6 +9,7 @@ namespace CmpiCpp {
 
 class CmpiContext;
 class CmpiInstance;
+class CmpiName;
 class CmpiObjectPath;
 
 class CmpiBroker {
@@ -28,6 +29,10 @@ public:
     // far end of an association). Throws CmpiStatus when there is none.
     CmpiInstance getInstance(CmpiContext const& context, CmpiObjectPath const& path,
                              char const** properties) const;
+
+    // Whether the path's class is `type` or one of its subclasses, as the
+    // object manager's class repository has it.
+    bool classPathIsA(CmpiObjectPath const& path, CmpiName const& type) const;
 
 private:
     CMPIBroker const* _broker = nullptr;

@@ -24,6 +24,46 @@ bool fits(CmpiName const& filter, CmpiName const& name) {
     return filter.empty() || filter == name;
 }
 
+// A class filter for one request: the same name fits at once, any other is
+// put to the class test once and its answer kept, since one request meets
+// only a few classes but may walk thousands of instances of them.
+class ClassFilter {
+public:
+    ClassFilter(CmpiName const& filter, std::string const& nameSpace,
+                CmpiManagedInstanceCollection::ClassTest const& test, Logger const& logger)
+        : _filter(filter), _nameSpace(nameSpace), _test(test), _logger(logger) {}
+
+    bool fits(CmpiName const& className) {
+        if (_filter.empty() || _filter == className) {
+            return true;
+        }
+        if (!_test) {
+            return false;
+        }
+        for (auto const& [name, answer] : _known) {
+            if (name == className) {
+                return answer;
+            }
+        }
+        bool answer = false;
+        try {
+            answer = _test(_nameSpace, className, _filter);
+        } catch (std::exception const& e) {
+            _logger.warn("class filter %s: cannot tell whether %s is one: %s", _filter.c_str(),
+                         className.c_str(), e.what());
+        }
+        _known.emplace_back(className, answer);
+        return answer;
+    }
+
+private:
+    CmpiName const& _filter;
+    std::string const& _nameSpace;
+    CmpiManagedInstanceCollection::ClassTest const& _test;
+    Logger const& _logger;
+    std::vector<std::pair<CmpiName, bool>> _known;
+};
+
 bool isAssociation(CmpiManagedInstance const* instance) {
     return dynamic_cast<CmpiManagedInstanceAssociation const*>(instance) != nullptr ||
            dynamic_cast<CmpiManagedInstanceMultiAssociation const*>(instance) != nullptr;
@@ -273,17 +313,24 @@ bool CmpiManagedInstanceCollection::getInstance(CmpiInstanceResult& result, Cmpi
     return true;
 }
 
+void CmpiManagedInstanceCollection::setClassTest(ClassTest test) {
+    std::unique_lock lock(_mutex);
+    _classTest = std::move(test);
+}
+
 std::vector<CmpiManagedInstanceCollection::Entry const*>
-CmpiManagedInstanceCollection::_fittingAssociations(std::string const& sourceKey,
+CmpiManagedInstanceCollection::_fittingAssociations(CmpiObjectPath const& path,
                                                     CmpiName const& assocClass,
                                                     CmpiName const& role) const {
     std::vector<Entry const*> fitting;
+    std::string const sourceKey = path.canonicalKey();
     auto found = _byEnd.find(sourceKey);
     if (found == _byEnd.end()) {
         return fitting;
     }
+    ClassFilter classFilter(assocClass, path.getNameSpace().str(), _classTest, _logger);
     for (Entry const* entry : found->second) {
-        if (!fits(assocClass, entry->className) || !entry->instance->visible()) {
+        if (!classFilter.fits(entry->className) || !entry->instance->visible()) {
             continue;
         }
         bool named = std::any_of(
@@ -306,7 +353,8 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
     std::string sourceKey = path.canonicalKey();
     std::vector<FarEnd> ends;
     std::vector<std::string> seen;
-    for (Entry const* association : _fittingAssociations(sourceKey, assocClass, role)) {
+    ClassFilter classFilter(resultClass, path.getNameSpace().str(), _classTest, _logger);
+    for (Entry const* association : _fittingAssociations(path, assocClass, role)) {
         auto const& references = association->references;
         for (std::size_t source = 0; source < references.size(); ++source) {
             if (references[source].key != sourceKey || !fits(role, references[source].role)) {
@@ -315,7 +363,7 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
             for (std::size_t far = 0; far < references.size(); ++far) {
                 Reference const& end = references[far];
                 if (far == source || !fits(resultRole, end.role) ||
-                    !fits(resultClass, end.path.getClassName())) {
+                    !classFilter.fits(end.path.getClassName())) {
                     continue;
                 }
                 if (std::find(seen.begin(), seen.end(), end.key) != seen.end()) {
@@ -397,7 +445,7 @@ void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiC
     {
         std::shared_lock lock(_mutex);
         for (Entry const* association :
-             _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+             _fittingAssociations(path, resultClass, role)) {
             CmpiInstance instance;
             if (_instanceOf(association, instance, "references")) {
                 found.push_back(instance.filtered(properties));
@@ -417,7 +465,7 @@ void CmpiManagedInstanceCollection::referenceNames(CmpiObjectPathResult& result,
     {
         std::shared_lock lock(_mutex);
         for (Entry const* association :
-             _fittingAssociations(path.canonicalKey(), resultClass, role)) {
+             _fittingAssociations(path, resultClass, role)) {
             try {
                 found.push_back(association->instance->getPath());
             } catch (std::exception const& e) {

@@ -22,6 +22,7 @@
 #include "CmpiObjectPathResult.h"
 #include "Logger.h"
 
+#include <functional>
 #include <memory>
 #include <shared_mutex>
 #include <string>
@@ -59,10 +60,18 @@ public:
     bool getInstance(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
                      CmpiCpp::CmpiObjectPath const& path, char const** properties) const;
 
+    // Whether a class of this namespace is the filter's class or one of its
+    // subclasses. Only the object manager knows the hierarchy; the provider
+    // sets a test that asks it.
+    using ClassTest = std::function<bool(std::string const& nameSpace, CmpiCpp::CmpiName const& className,
+                                         CmpiCpp::CmpiName const& filter)>;
+    // Without a test, a class filter takes only its own class.
+    void setClassTest(ClassTest test);
+
     // Filters as DSP0200 defines them; an empty name is no filter. `role` is
     // the reference of the association that names the source, `resultRole`
-    // the one that names the far end. Class names compare without regard to
-    // case and without a class hierarchy.
+    // the one that names the far end. Names compare without regard to case;
+    // a class filter takes subclasses too, through the class test.
     void associators(CmpiCpp::CmpiInstanceResult& result, CmpiCpp::CmpiContext const& context,
                      CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
                      CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
@@ -101,7 +110,7 @@ private:
     void _index(Entry* entry);
     void _unindex(Entry* entry);
     std::size_t _positionOf(Entry const* entry) const;
-    std::vector<Entry const*> _fittingAssociations(std::string const& sourceKey,
+    std::vector<Entry const*> _fittingAssociations(CmpiCpp::CmpiObjectPath const& path,
                                                    CmpiCpp::CmpiName const& assocClass,
                                                    CmpiCpp::CmpiName const& role) const;
     std::vector<FarEnd> _farEnds(CmpiCpp::CmpiObjectPath const& path,
@@ -112,6 +121,7 @@ private:
     bool _instanceOf(Entry const* entry, CmpiCpp::CmpiInstance& out, char const* what) const;
 
     Logger _logger;
+    ClassTest _classTest;
     mutable std::shared_mutex _mutex;
     std::vector<std::unique_ptr<Entry>> _entries;
     std::unordered_map<std::string, Entry*> _byPath;

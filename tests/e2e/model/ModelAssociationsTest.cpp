@@ -189,6 +189,19 @@ TEST_F(ModelAssociations, DiskReachesItsCompanions) {
     }
 }
 
+// Catches class filters that take only the very class named: a client asks
+// for the CIM class and must get our subclass's instances.
+TEST_F(ModelAssociations, ClassFiltersTakeSubclasses) {
+    const auto& ctl = server->expected().controllers().front();
+    ASSERT_FALSE(ctl.disks.empty());
+    const std::string id = Expect::diskDeviceId(ctl, ctl.disks.front());
+    const std::string drive = devicePath("QLN_VDDiskDrive", ctl, id);
+    const std::vector<std::string> extent = {devicePath("QLN_VDStorageExtent", ctl, id)};
+    EXPECT_EQ(ain(drive, "-arc CIM_StorageExtent"), extent);
+    EXPECT_EQ(ain(drive, "-ac CIM_MediaPresent -arc CIM_StorageExtent"), extent);
+    EXPECT_EQ(ain(drive, "-arc QLN_VDStorageExtent"), extent);
+}
+
 // Catches a volume tied to the wrong extents or missing its setting, pool
 // or redundancy set: the members come from the scenario, the spare's extent
 // joins the set and stands in for the replaced disk's extent.

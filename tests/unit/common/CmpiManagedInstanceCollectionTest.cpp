@@ -240,6 +240,31 @@ TEST_F(Associations, ReferenceFilters) {
     EXPECT_TRUE(rows.instances[0].hasProperty("Antecedent")); // a key stays
 }
 
+// Faults: a class filter that ignores subclasses, asks the object manager
+// once per instance instead of once per class, or fails the request when
+// the object manager cannot answer.
+TEST_F(Associations, ClassFiltersTakeSubclassesThroughTheTest) {
+    CmpiObjectPath s = system->getPath();
+    EXPECT_THAT(associatorNames(s, {}, "CIM_LogicalDevice", {}, {}), IsEmpty()) << "no test, no hierarchy";
+
+    int asked = 0;
+    collection.setClassTest([&](std::string const& nameSpace, CmpiName const& className, CmpiName const& filter) {
+        ++asked;
+        EXPECT_EQ(nameSpace, "root/mwq");
+        if (className == CmpiName("QLN_ComputerSystem")) throw std::runtime_error("repository gone");
+        std::string const& c = className.str();
+        if (filter == CmpiName("CIM_LogicalDevice")) return c == "QLN_Disk" || c == "QLN_Volume";
+        if (filter == CmpiName("CIM_Component")) return c.rfind("QLN_System", 0) == 0;
+        return false;
+    });
+    EXPECT_THAT(associatorNames(s, {}, "cim_logicaldevice", {}, {}), UnorderedElementsAre("d1", "d2", "v"));
+    EXPECT_EQ(asked, 3) << "disk, volume and the host's class, each once";
+    EXPECT_THAT(associatorNames(s, "CIM_Component", {}, {}, {}), UnorderedElementsAre("d1", "d2", "v"));
+    EXPECT_THAT(referenceClasses(s, "CIM_Component", {}),
+                UnorderedElementsAre("QLN_SystemDisk", "QLN_SystemDisk", "QLN_SystemVolume"));
+    EXPECT_THAT(associatorNames(s, {}, "QLN_Volume", {}, {}), ElementsAre("v")) << "the own class needs no test";
+}
+
 // Faults: deleting an association leaves it in the end index (use after
 // free), or deleting an end shows a stale far end instance.
 TEST_F(Associations, DeletionUpdatesEndIndex) {
