@@ -311,23 +311,30 @@ CMPIType CimValue::typeFromName(std::string_view name) {
     return CMPI_null;
 }
 
-std::string CimValue::typeName(CMPIType type) {
+const char* CimValue::elementTypeName(CMPIType type) {
     const CMPIType element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
-    std::string name;
     if (element == CMPI_chars) {
-        name = "string";
-    } else if (element == CMPI_instance) {
-        name = "instance";
-    } else {
-        for (const TypeName& t : typeNames) {
-            if (t.type == element) {
-                name = t.name;
-            }
+        return "string";
+    }
+    if (element == CMPI_instance) {
+        return "instance";
+    }
+    for (const TypeName& t : typeNames) {
+        if (t.type == element) {
+            return t.name;
         }
     }
-    if (name.empty()) {
+    return nullptr;
+}
+
+std::string CimValue::typeName(CMPIType type) {
+    const char* known = elementTypeName(type);
+    std::string name;
+    if (known != nullptr) {
+        name = known;
+    } else {
         char buf[16];
-        std::snprintf(buf, sizeof buf, "0x%04x", static_cast<unsigned>(element));
+        std::snprintf(buf, sizeof buf, "0x%04x", static_cast<unsigned>(type & ~CMPI_ARRAY));
         name = std::string("type ") + buf;
     }
     return (type & CMPI_ARRAY) ? name + "[]" : name;

@@ -58,6 +58,9 @@ public:
     // "reference"). typeFromName gives CMPI_null for an unknown name.
     static CMPIType typeFromName(std::string_view name);
     static std::string typeName(CMPIType type);
+    // The MOF name of the element type without "[]", or null when it has
+    // none; a static text, for writers that must not allocate.
+    static const char* elementTypeName(CMPIType type);
 
     CMPIType type() const { return _type; }
     bool isNull() const { return std::holds_alternative<std::monostate>(_data); }

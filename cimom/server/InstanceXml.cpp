@@ -13,11 +13,11 @@ namespace {
     throw CimOperationError(CimOperationError::invalidParameter, what);
 }
 
-std::string elementTypeName(const CimValue& value) {
+std::string_view elementTypeName(const CimValue& value) {
     CMPIType element = value.elementType();
-    if (element == CMPI_chars) return "string";
-    if (element == CMPI_instance) return "string";
-    return CimValue::typeName(element);
+    if (element == CMPI_instance) return "string";  // embedded instances travel as text
+    const char* known = CimValue::elementTypeName(element);
+    return known ? std::string_view(known) : std::string_view("string");
 }
 
 const char* keyValueType(CMPIType type) {
@@ -144,12 +144,12 @@ void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, 
         const CimValue& v = p.value;
         CimXmlWriter::Attributes attributes{{"NAME", p.name}};
         const char* tag;
-        std::string type;
+        std::string_view type;
         if (v.elementType() == CMPI_ref || (v.type() == CMPI_null && decl && decl->type == "reference")) {
             tag = "PROPERTY.REFERENCE";
             if (decl) attributes.add("REFERENCECLASS", decl->refClass);
         } else {
-            type = v.type() == CMPI_null ? (decl ? decl->type : "string") : elementTypeName(v);
+            type = v.type() == CMPI_null ? (decl ? std::string_view(decl->type) : "string") : elementTypeName(v);
             tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY" : "PROPERTY";
             attributes.add("TYPE", type);
             if (v.elementType() == CMPI_instance) attributes.add("EmbeddedObject", "instance");

@@ -3,74 +3,78 @@
 #include "CmpiStatus.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace CmpiCpp {
 
 CmpiInstance::CmpiInstance(CmpiObjectPath const& path) : _path(path) {
+    // Instances are built property by property; room for a typical class
+    // spares the vector most of its regrowth.
+    _properties.reserve(32);
     for (unsigned int i = 0; i < path.getKeyCount(); ++i)
         _set(path.getKeyNameAt(i), path.getKeyAt(i));
 }
 
-void CmpiInstance::addProperty(CmpiName const& name, std::string const& value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, std::string const& value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, char const* value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, char const* value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, bool value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, bool value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned char value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, unsigned char value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned short value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, unsigned short value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned int value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, unsigned int value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, int value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, int value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned long value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, unsigned long value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, unsigned long long value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, unsigned long long value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, long value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, long value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, long long value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, long long value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, float value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, float value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, double value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, double value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, CmpiObjectPath const& value) {
-    _set(name, CmpiData(value));
+void CmpiInstance::addProperty(CmpiName name, CmpiObjectPath const& value) {
+    _set(std::move(name), CmpiData(value));
 }
-void CmpiInstance::addProperty(CmpiName const& name, CmpiArray const& value) {
-    _set(name, CmpiData(value));
+void CmpiInstance::addProperty(CmpiName name, CmpiArray const& value) {
+    _set(std::move(name), CmpiData(value));
 }
-void CmpiInstance::addProperty(CmpiName const& name, CmpiDateTime const& value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, CmpiDateTime const& value) {
+    _set(std::move(name), value);
 }
-void CmpiInstance::addProperty(CmpiName const& name, CmpiData const& value) {
-    _set(name, value);
+void CmpiInstance::addProperty(CmpiName name, CmpiData const& value) {
+    _set(std::move(name), value);
 }
 
-void CmpiInstance::_set(CmpiName const& name, CmpiData const& value) {
+void CmpiInstance::_set(CmpiName name, CmpiData value) {
     for (auto& property : _properties) {
         if (property.first == name) {
-            property.second = value;
+            property.second = std::move(value);
             return;
         }
     }
-    _properties.emplace_back(name, value);
+    _properties.emplace_back(std::move(name), std::move(value));
 }
 
 bool CmpiInstance::hasProperty(CmpiName const& name) const {

@@ -26,23 +26,23 @@ public:
     CmpiName const& getClassName() const { return _path.getClassName(); }
 
     // The overload fixes the CIM type of the property.
-    void addProperty(CmpiName const& name, std::string const& value);
-    void addProperty(CmpiName const& name, char const* value);
-    void addProperty(CmpiName const& name, bool value);
-    void addProperty(CmpiName const& name, unsigned char value);
-    void addProperty(CmpiName const& name, unsigned short value);
-    void addProperty(CmpiName const& name, unsigned int value);
-    void addProperty(CmpiName const& name, int value);
-    void addProperty(CmpiName const& name, unsigned long value);
-    void addProperty(CmpiName const& name, unsigned long long value);
-    void addProperty(CmpiName const& name, long value);
-    void addProperty(CmpiName const& name, long long value);
-    void addProperty(CmpiName const& name, float value);
-    void addProperty(CmpiName const& name, double value);
-    void addProperty(CmpiName const& name, CmpiObjectPath const& value);
-    void addProperty(CmpiName const& name, CmpiArray const& value);
-    void addProperty(CmpiName const& name, CmpiDateTime const& value);
-    void addProperty(CmpiName const& name, CmpiData const& value);
+    void addProperty(CmpiName name, std::string const& value);
+    void addProperty(CmpiName name, char const* value);
+    void addProperty(CmpiName name, bool value);
+    void addProperty(CmpiName name, unsigned char value);
+    void addProperty(CmpiName name, unsigned short value);
+    void addProperty(CmpiName name, unsigned int value);
+    void addProperty(CmpiName name, int value);
+    void addProperty(CmpiName name, unsigned long value);
+    void addProperty(CmpiName name, unsigned long long value);
+    void addProperty(CmpiName name, long value);
+    void addProperty(CmpiName name, long long value);
+    void addProperty(CmpiName name, float value);
+    void addProperty(CmpiName name, double value);
+    void addProperty(CmpiName name, CmpiObjectPath const& value);
+    void addProperty(CmpiName name, CmpiArray const& value);
+    void addProperty(CmpiName name, CmpiDateTime const& value);
+    void addProperty(CmpiName name, CmpiData const& value);
 
     unsigned int getPropertyCount() const { return static_cast<unsigned int>(_properties.size()); }
     bool hasProperty(CmpiName const& name) const;
@@ -60,7 +60,7 @@ public:
     bool operator==(CmpiInstance const& other) const;
 
 private:
-    void _set(CmpiName const& name, CmpiData const& value);
+    void _set(CmpiName name, CmpiData value);
 
     CmpiObjectPath _path;
     std::vector<std::pair<CmpiName, CmpiData>> _properties;

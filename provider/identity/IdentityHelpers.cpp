@@ -5,9 +5,10 @@
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <cstring>
-#include <sstream>
 
 namespace {
 
@@ -48,13 +49,12 @@ bool isPhyslocNull(physloc_t const& location) {
 }
 
 std::string removeWhitespace(std::string text) {
-    std::istringstream words(text);
-    std::string word;
-    std::string joined;
-    while (words >> word) {
-        joined += word;
-    }
-    return joined;
+    // Runs for every disk key made; a string stream here cost more than the
+    // rest of building the key.
+    text.erase(std::remove_if(text.begin(), text.end(),
+                              [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }),
+               text.end());
+    return text;
 }
 
 std::string getControllerTag(VeldraControllerData const& data, int index) {
