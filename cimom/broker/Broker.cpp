@@ -352,6 +352,9 @@ CMPIInstance* newInstance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPISt
         Broker& b = brokerOf(mb);
         const CimObjectPath& path = pathOf(op).path();
         CimInstance inst(path);
+        // Providers set their properties one by one; this instance only
+        // lives for the request, so room for a typical class costs little.
+        inst.reserve(32);
         // The keys of the path are the instance's key properties.
         for (const auto& k : path.keys()) {
             inst.setProperty(k.name, k.value);

@@ -110,7 +110,7 @@ const CMPIInstanceFT instanceTable = {
 BrokerInstance::BrokerInstance(ObjectRegistry& registry, CimInstance instance)
     : EncapsulatedObject(registry), _cmpi{this, &instanceTable}, _instance(std::move(instance)) {}
 
-void BrokerInstance::setProperty(const std::string& name, CimValue value) {
+void BrokerInstance::setProperty(std::string_view name, CimValue value) {
     const bool isKey = _instance.path().key(name) != nullptr;
     if (_filter && !isKey) {
         bool listed = false;
@@ -121,7 +121,7 @@ void BrokerInstance::setProperty(const std::string& name, CimValue value) {
             return;
         }
     }
-    if (isKey) _instance.setKey(name, value);
+    if (isKey) _instance.setKey(std::string(name), value);
     _instance.setProperty(name, std::move(value));
 }
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "CimInstance.h"
@@ -22,7 +23,7 @@ public:
     std::string describe() const override;
 
     // Honours a filter set with setPropertyFilter.
-    void setProperty(const std::string& name, CimValue value);
+    void setProperty(std::string_view name, CimValue value);
     void setFilter(std::optional<std::vector<std::string>> filter) { _filter = std::move(filter); }
 
     static BrokerInstance* from(const CMPIInstance* inst);

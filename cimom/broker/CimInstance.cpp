@@ -4,14 +4,14 @@
 
 #include "CimName.h"
 
-void CimInstance::setProperty(std::string name, CimValue value) {
+void CimInstance::setProperty(std::string_view name, CimValue value) {
     for (Property& p : _properties) {
         if (CimName::equal(p.name, name)) {
             p.value = std::move(value);
             return;
         }
     }
-    _properties.push_back(Property{std::move(name), std::move(value)});
+    _properties.push_back(Property{std::string(name), std::move(value)});
 }
 
 const CimValue* CimInstance::property(std::string_view name) const {

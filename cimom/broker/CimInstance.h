@@ -27,7 +27,9 @@ public:
     const std::string& className() const { return _path.className(); }
 
     const std::vector<Property>& properties() const { return _properties; }
-    void setProperty(std::string name, CimValue value);
+    void setProperty(std::string_view name, CimValue value);
+    // Room for this many properties, for an instance built one by one.
+    void reserve(std::size_t properties) { _properties.reserve(properties); }
     // The value, or null when the instance has no such property.
     const CimValue* property(std::string_view name) const;
     bool removeProperty(std::string_view name);

@@ -39,13 +39,19 @@ const char* replacement(char c) {
 }  // namespace
 
 void CimXmlWriter::_escapeInto(std::string_view content) {
+    // Which characters need a replacement, looked up rather than switched on:
+    // every byte of a megabyte answer passes here.
+    static const std::array<bool, 256> special = [] {
+        std::array<bool, 256> table{};
+        for (int c = 0; c < 256; ++c) table[c] = replacement(static_cast<char>(c)) != nullptr;
+        return table;
+    }();
     // Plain runs are copied whole; most values need no escaping at all.
     std::size_t run = 0;
     for (std::size_t i = 0; i < content.size(); ++i) {
-        const char* r = replacement(content[i]);
-        if (!r) continue;
+        if (!special[static_cast<unsigned char>(content[i])]) continue;
         _out.append(content.data() + run, i - run);
-        _out += r;
+        _out += replacement(content[i]);
         run = i + 1;
     }
     _out.append(content.data() + run, content.size() - run);
