@@ -26,6 +26,7 @@
 #include <memory>
 #include <shared_mutex>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -124,7 +125,10 @@ private:
     ClassTest _classTest;
     mutable std::shared_mutex _mutex;
     std::vector<std::unique_ptr<Entry>> _entries;
-    std::unordered_map<std::string, Entry*> _byPath;
+    // Keyed by views of the entries' own key texts: an entry never changes
+    // its key and leaves this index before it is deleted. A copy per
+    // instance would be a tenth of the graph's memory.
+    std::unordered_map<std::string_view, Entry*> _byPath;
     std::unordered_map<std::string, std::vector<Entry*>> _byEnd;
 };
 
