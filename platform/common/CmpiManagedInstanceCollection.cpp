@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <exception>
 #include <mutex>
+#include <unordered_set>
 
 using CmpiCpp::CmpiContext;
 using CmpiCpp::CmpiInstance;
@@ -83,19 +84,23 @@ CmpiManagedInstanceCollection::~CmpiManagedInstanceCollection() {
     }
 }
 
-void CmpiManagedInstanceCollection::_index(Entry* entry) {
+void CmpiManagedInstanceCollection::_index(Entry* entry, std::vector<NamedEnd>& ends) {
     if (entry->key.empty()) {
         return;
     }
     _byPath[entry->key] = entry;
-    std::vector<std::string const*> seen;
-    for (auto const& reference : entry->references) {
-        bool again =
-            std::any_of(seen.begin(), seen.end(), [&](auto key) { return *key == reference.key; });
-        if (!again) {
-            _byEnd[reference.key].push_back(entry);
-            seen.push_back(&reference.key);
+    entry->references.clear();
+    for (auto& named : ends) {
+        auto [at, added] = _byEnd.try_emplace(std::move(named.key));
+        End& end = at->second;
+        if (added) {
+            end.path = std::move(named.path);
+            end.key = &at->first;
         }
+        if (std::find(end.associations.begin(), end.associations.end(), entry) == end.associations.end()) {
+            end.associations.push_back(entry);
+        }
+        entry->references.push_back({std::move(named.role), &end});
     }
 }
 
@@ -107,17 +112,26 @@ void CmpiManagedInstanceCollection::_unindex(Entry* entry) {
     if (byPath != _byPath.end() && byPath->second == entry) {
         _byPath.erase(byPath);
     }
-    for (auto const& reference : entry->references) {
-        auto byEnd = _byEnd.find(reference.key);
+    auto const& references = entry->references;
+    for (std::size_t i = 0; i < references.size(); ++i) {
+        // Two references to one end: that end may be gone after the first.
+        End const* end = references[i].end;
+        if (std::any_of(references.begin(), references.begin() + static_cast<std::ptrdiff_t>(i),
+                        [end](Reference const& r) { return r.end == end; })) {
+            continue;
+        }
+        auto byEnd = _byEnd.find(*end->key);
         if (byEnd == _byEnd.end()) {
             continue;
         }
-        auto& list = byEnd->second;
+        auto& list = byEnd->second.associations;
         list.erase(std::remove(list.begin(), list.end(), entry), list.end());
         if (list.empty()) {
             _byEnd.erase(byEnd);
         }
     }
+    // The ends may be gone now; the entry is on its way out.
+    entry->references.clear();
 }
 
 std::size_t CmpiManagedInstanceCollection::_positionOf(Entry const* entry) const {
@@ -136,6 +150,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     }
     auto entry = std::make_unique<Entry>();
     entry->instance.reset(instance);
+    std::vector<NamedEnd> ends;
     // Path and references are read before the lock: nobody else sees the
     // instance yet, and getPath() of an association asks its ends.
     try {
@@ -147,7 +162,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
                 auto const& value = path.getKeyAt(i);
                 if (value.getType() == CMPI_ref && !value.isNull()) {
                     CmpiObjectPath const& end = value.getObjectPath();
-                    entry->references.push_back({path.getKeyNameAt(i), end, end.canonicalKey()});
+                    ends.push_back({path.getKeyNameAt(i), end, end.canonicalKey()});
                 }
             }
         }
@@ -155,7 +170,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         // Ownership was handed over, so the instance stays (and is freed with
         // the collection), but without a path nobody can find it.
         entry->key.clear();
-        entry->references.clear();
+        ends.clear();
         _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s",
                       e.what());
     }
@@ -166,14 +181,14 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         auto existing = entry->key.empty() ? _byPath.end() : _byPath.find(entry->key);
         if (existing == _byPath.end()) {
             _entries.push_back(std::move(entry));
-            _index(_entries.back().get());
+            _index(_entries.back().get(), ends);
             return true;
         }
         std::size_t position = _positionOf(existing->second);
         _unindex(existing->second);
         replaced = std::move(_entries[position]);
         _entries[position] = std::move(entry);
-        _index(_entries[position].get());
+        _index(_entries[position].get(), ends);
     }
     _logger.warn("createInstance: %s replaces an instance with the same path",
                  replaced->key.c_str());
@@ -328,14 +343,15 @@ CmpiManagedInstanceCollection::_fittingAssociations(CmpiObjectPath const& path,
     if (found == _byEnd.end()) {
         return fitting;
     }
+    End const* source = &found->second;
     ClassFilter classFilter(assocClass, path.getNameSpace().str(), _classTest, _logger);
-    for (Entry const* entry : found->second) {
+    for (Entry const* entry : found->second.associations) {
         if (!classFilter.fits(entry->className) || !entry->instance->visible()) {
             continue;
         }
         bool named = std::any_of(
             entry->references.begin(), entry->references.end(),
-            [&](Reference const& r) { return r.key == sourceKey && fits(role, r.role); });
+            [&](Reference const& r) { return r.end == source && fits(role, r.role); });
         if (named) {
             fitting.push_back(entry);
         }
@@ -350,32 +366,35 @@ std::vector<CmpiManagedInstanceCollection::FarEnd>
 CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName const& assocClass,
                                         CmpiName const& resultClass, CmpiName const& role,
                                         CmpiName const& resultRole) const {
-    std::string sourceKey = path.canonicalKey();
     std::vector<FarEnd> ends;
-    std::vector<std::string> seen;
+    auto const found = _byEnd.find(path.canonicalKey());
+    if (found == _byEnd.end()) {
+        return ends;
+    }
+    End const* source = &found->second;
+    // Ends are shared records, so one far end met twice is the same pointer.
+    std::unordered_set<End const*> seen;
     ClassFilter classFilter(resultClass, path.getNameSpace().str(), _classTest, _logger);
     for (Entry const* association : _fittingAssociations(path, assocClass, role)) {
         auto const& references = association->references;
-        for (std::size_t source = 0; source < references.size(); ++source) {
-            if (references[source].key != sourceKey || !fits(role, references[source].role)) {
+        for (std::size_t near = 0; near < references.size(); ++near) {
+            if (references[near].end != source || !fits(role, references[near].role)) {
                 continue;
             }
             for (std::size_t far = 0; far < references.size(); ++far) {
-                Reference const& end = references[far];
-                if (far == source || !fits(resultRole, end.role) ||
-                    !classFilter.fits(end.path.getClassName())) {
+                Reference const& reference = references[far];
+                End const* end = reference.end;
+                if (far == near || !fits(resultRole, reference.role) ||
+                    !classFilter.fits(end->path.getClassName()) || seen.count(end)) {
                     continue;
                 }
-                if (std::find(seen.begin(), seen.end(), end.key) != seen.end()) {
-                    continue;
-                }
-                auto served = _byPath.find(end.key);
+                auto served = _byPath.find(*end->key);
                 Entry const* entry = served == _byPath.end() ? nullptr : served->second;
                 if (entry && !entry->instance->visible()) {
                     continue;
                 }
-                seen.push_back(end.key);
-                ends.push_back({end.path, entry});
+                seen.insert(end);
+                ends.push_back({end->path, entry});
             }
         }
     }

@@ -90,7 +90,20 @@ public:
                         CmpiCpp::CmpiName const& role) const;
 
 private:
+    struct Entry;
+    // One end that associations name, kept once however many name it: in a
+    // large graph most associations point at a few thousand ends.
+    struct End {
+        CmpiCpp::CmpiObjectPath path;
+        std::string const* key = nullptr; // the index's own key text
+        std::vector<Entry*> associations; // each at most once
+    };
     struct Reference {
+        CmpiCpp::CmpiName role;
+        End const* end; // valid while the entry is indexed
+    };
+    // A reference as read from an association's path, before it is indexed.
+    struct NamedEnd {
         CmpiCpp::CmpiName role;
         CmpiCpp::CmpiObjectPath path;
         std::string key;
@@ -108,7 +121,7 @@ private:
         Entry const* entry;
     };
 
-    void _index(Entry* entry);
+    void _index(Entry* entry, std::vector<NamedEnd>& ends);
     void _unindex(Entry* entry);
     std::size_t _positionOf(Entry const* entry) const;
     std::vector<Entry const*> _fittingAssociations(CmpiCpp::CmpiObjectPath const& path,
@@ -129,7 +142,7 @@ private:
     // its key and leaves this index before it is deleted. A copy per
     // instance would be a tenth of the graph's memory.
     std::unordered_map<std::string_view, Entry*> _byPath;
-    std::unordered_map<std::string, std::vector<Entry*>> _byEnd;
+    std::unordered_map<std::string, End> _byEnd;
 };
 
 } // namespace QLN

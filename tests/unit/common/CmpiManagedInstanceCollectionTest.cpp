@@ -278,6 +278,23 @@ TEST_F(Associations, DeletionUpdatesEndIndex) {
     EXPECT_THAT(associatorNames(disk1->getPath(), {}, {}, {}, {}), IsEmpty());
 }
 
+// Faults: ends are shared records, so an association naming one end twice,
+// or replaced by one with the same ends, must leave that record whole for
+// the other associations (ASan runs catch a freed one being read).
+TEST_F(Associations, SharedEndsOutliveEachAssociation) {
+    auto* self = new TestAssociation("QLN_DiskPeer", "First", disk1, "Second", disk1);
+    collection.createInstance(self);
+    EXPECT_THAT(associatorNames(disk1->getPath(), "QLN_DiskPeer", {}, "First", {}), ElementsAre("d1"));
+    EXPECT_TRUE(collection.deleteInstance(self->getPath()));
+    EXPECT_THAT(associatorNames(disk1->getPath(), {}, {}, {}, {}), UnorderedElementsAre("s", "v"));
+
+    // The same path again: the old association goes, its ends stay indexed.
+    EXPECT_FALSE(collection.createInstance(
+        new TestAssociation("QLN_VolumeDisk", "Dependent", volume, "Antecedent", disk1)));
+    EXPECT_THAT(associatorNames(disk1->getPath(), "QLN_VolumeDisk", {}, {}, {}), ElementsAre("v"));
+    EXPECT_THAT(associatorNames(volume->getPath(), {}, {}, {}, {}), UnorderedElementsAre("s", "d1"));
+}
+
 // Faults: a three-ended association gives one far end only, or the result
 // role does not pick among them.
 TEST_F(Collection, ThreeEndedAssociation) {
