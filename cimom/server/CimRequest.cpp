@@ -9,6 +9,15 @@ namespace {
 
 [[noreturn]] void notValid(const std::string& what) { throw CimProtocolError(400, "request-not-valid", what); }
 
+// No operation takes more than a dozen parameters; the cap keeps the
+// given-twice check (and every later look-up by name) from turning a large
+// body of parameters into quadratic work.
+constexpr size_t maxParams = 64;
+
+void checkParamCount(const std::vector<CimRequest::Param>& params) {
+    if (params.size() >= maxParams) notValid("more than " + std::to_string(maxParams) + " parameters");
+}
+
 pugi::xml_node onlyChild(pugi::xml_node parent, const char* name) {
     pugi::xml_node child = parent.child(name);
     if (!child) notValid(std::string("missing ") + name + " in " + parent.name());
@@ -115,6 +124,7 @@ CimRequest CimRequest::parse(const std::string& body, int maxDepth) {
         for (pugi::xml_node p : call.children("IPARAMVALUE")) {
             std::string name = p.attribute("NAME").value();
             if (name.empty()) notValid("IPARAMVALUE without NAME");
+            checkParamCount(request._params);
             if (request.param(name)) notValid("IPARAMVALUE " + name + " given twice");
             request._params.push_back({name, "", p});
         }
@@ -131,6 +141,7 @@ CimRequest CimRequest::parse(const std::string& body, int maxDepth) {
         for (pugi::xml_node p : call.children("PARAMVALUE")) {
             std::string name = p.attribute("NAME").value();
             if (name.empty()) notValid("PARAMVALUE without NAME");
+            checkParamCount(request._params);
             if (request.param(name)) notValid("PARAMVALUE " + name + " given twice");
             request._params.push_back({name, p.attribute("PARAMTYPE").value(), p});
         }

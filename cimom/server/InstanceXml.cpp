@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr size_t maxKeys = 64;
+
 [[noreturn]] void invalid(const std::string& what) {
     throw CimOperationError(CimOperationError::invalidParameter, what);
 }
@@ -170,7 +172,10 @@ CimObjectPath InstanceXml::readInstanceName(pugi::xml_node node, const std::stri
     CimObjectPath path(nameSpace, className);
     const CimClassDecl* cls = classes ? classes->find(nameSpace, className) : nullptr;
     if (node.child("KEYVALUE") || node.child("VALUE.REFERENCE")) invalid("keys of " + className + " need names");
+    size_t keyCount = 0;
     for (pugi::xml_node binding : node.children("KEYBINDING")) {
+        // Classes have a handful of keys; adding a key looks at all before it.
+        if (++keyCount > maxKeys) invalid(className + " has more than " + std::to_string(maxKeys) + " keys");
         std::string name = binding.attribute("NAME").value();
         if (name.empty()) invalid("KEYBINDING without NAME");
         if (pugi::xml_node ref = binding.child("VALUE.REFERENCE")) {

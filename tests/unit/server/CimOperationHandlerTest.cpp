@@ -82,6 +82,12 @@ TEST_F(HandlerTable, RequestsAndExactResponses) {
     std::string deepDoc;
     for (int i = 0; i < 40; ++i) deepDoc += "<A>";
     for (int i = 0; i < 40; ++i) deepDoc += "</A>";
+    // Parameters are capped so that a body full of them cannot cost quadratic work.
+    auto manyParams = [](int n) {
+        std::string params;
+        for (int i = 0; i < n; ++i) params += "<IPARAMVALUE NAME=\"p" + std::to_string(i) + "\"/>";
+        return params;
+    };
 
     const Row rows[] = {
         {"ecn all classes, deep", "EnumerateClassNames", "root%2Fmwq", imethod("EnumerateClassNames", deep), 200, "",
@@ -171,6 +177,10 @@ TEST_F(HandlerTable, RequestsAndExactResponses) {
         {"empty body", "GetClass", "root%2Fmwq", "", 400, "request-not-well-formed", "XML error"},
         {"parameter given twice", "GetClass", "root%2Fmwq", imethod("GetClass", className + className), 400,
          "request-not-valid", "given twice"},
+        {"64 parameters reach the operation", "GetClass", "root%2Fmwq", imethod("GetClass", manyParams(64)), 200, "",
+         error("GetClass", 4, "unknown parameter p0 for GetClass")},
+        {"65 parameters", "GetClass", "root%2Fmwq", imethod("GetClass", manyParams(65)), 400, "request-not-valid",
+         "more than 64 parameters"},
         {"CIMProtocolVersion 2.0", "GetClass", "root%2Fmwq", imethod("GetClass", className), 501,
          "unsupported-protocol-version", "CIMProtocolVersion", "MethodCall", "2.0"},
     };

@@ -64,9 +64,19 @@ TEST_F(InstanceXmlTest, InstanceNameKeysAreTypedFromTheMof) {
     EXPECT_TRUE(x.key("B")->asBoolean());
 }
 
-// Catches malformed paths reaching a provider instead of a clear error.
+// Catches malformed paths reaching a provider instead of a clear error, and
+// a request of endless keys costing the server quadratic work.
 TEST_F(InstanceXmlTest, BadInstanceNamesAreInvalidParameters) {
-    const char* bad[] = {
+    auto manyKeys = [](int n) {
+        std::string text = "<INSTANCENAME CLASSNAME=\"X\">";
+        for (int i = 0; i < n; ++i)
+            text += "<KEYBINDING NAME=\"k" + std::to_string(i) + "\"><KEYVALUE>v</KEYVALUE></KEYBINDING>";
+        return text + "</INSTANCENAME>";
+    };
+    pugi::xml_document most;
+    EXPECT_EQ(InstanceXml::readInstanceName(parse(most, manyKeys(64)), "root/mwq", &repo).keys().size(), 64u);
+
+    const std::string bad[] = {
         "<INSTANCENAME><KEYBINDING NAME=\"A\"><KEYVALUE>1</KEYVALUE></KEYBINDING></INSTANCENAME>",
         "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"Bay\"><KEYVALUE VALUETYPE=\"numeric\">seven"
         "</KEYVALUE></KEYBINDING></INSTANCENAME>",
@@ -77,8 +87,9 @@ TEST_F(InstanceXmlTest, BadInstanceNamesAreInvalidParameters) {
         "<INSTANCENAME CLASSNAME=\"X\"><KEYBINDING NAME=\"A\"><KEYVALUE VALUETYPE=\"odd\">1</KEYVALUE></KEYBINDING>"
         "</INSTANCENAME>",
         "<CLASSNAME NAME=\"QLN_Disk\"/>",
+        manyKeys(65),
     };
-    for (const char* text : bad) {
+    for (const std::string& text : bad) {
         pugi::xml_document doc;
         auto node = parse(doc, text);
         try {
