@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr size_t maxInheritanceDepth = 32;
+
 std::string lower(std::string s) {
     std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return s;
@@ -71,6 +73,11 @@ void ClassRepository::_resolveOne(Space& space, CimClassDecl& cls, std::vector<s
     if (std::find(chain.begin(), chain.end(), key) != chain.end())
         throw MofError(cls.file, cls.line, "inheritance cycle through " + cls.name);
     if (cls.superClass.empty()) return;
+    // Real hierarchies are a dozen levels deep; a longer chain is a broken
+    // file, and walking it would recurse once per level for every class.
+    if (chain.size() >= maxInheritanceDepth)
+        throw MofError(cls.file, cls.line,
+                       "inheritance deeper than " + std::to_string(maxInheritanceDepth) + " levels through " + cls.name);
     auto parentIt = space.classes.find(lower(cls.superClass));
     if (parentIt == space.classes.end()) return;  // a schema class we do not ship
     CimClassDecl& parent = parentIt->second;

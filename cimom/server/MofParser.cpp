@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int maxIncludeDepth = 16;
+constexpr size_t maxFeatures = 1024;
 
 const std::set<std::string>& dataTypes() {
     static const std::set<std::string> types{"boolean", "string", "char16", "datetime", "uint8",  "sint8",
@@ -186,6 +187,9 @@ void MofParser::_parseClass(std::vector<CimClassDecl::Qualifier> qualifiers) {
     _expectPunct('{');
     while (!_token.isPunct('}')) {
         if (_token.kind == MofToken::Kind::End) _fail("class " + cls.name + " is not closed");
+        // Each feature is checked against all before it for duplicates.
+        if (cls.properties.size() + cls.methods.size() >= maxFeatures)
+            _fail("class " + cls.name + " has more than " + std::to_string(maxFeatures) + " properties and methods");
         _parseFeature(cls);
     }
     _advance();
@@ -327,7 +331,11 @@ int MofParser::_parseArraySuffix(bool& isArray) {
     isArray = true;
     int size = 0;
     if (_token.kind == MofToken::Kind::Integer) {
-        size = std::stoi(_token.text);
+        try {
+            size = std::stoi(_token.text);
+        } catch (const std::out_of_range&) {
+            _fail("array size " + _token.text + " is out of range");
+        }
         _advance();
     }
     _expectPunct(']');

@@ -178,6 +178,12 @@ TEST(MofReader, PragmaIncludeAndDirectoryLoading) {
 
 // Catches start-up errors that do not say where the problem is.
 TEST(MofReader, BadMofNamesFileAndLine) {
+    // Oversized input must be refused before its cost grows with the square of its size.
+    std::string deepChain = "class C0 { };\n";
+    for (int i = 1; i <= 40; ++i) deepChain += "class C" + std::to_string(i) + " : C" + std::to_string(i - 1) + " { };\n";
+    std::string manyFeatures = "class A {";
+    for (int i = 0; i <= 1024; ++i) manyFeatures += " string P" + std::to_string(i) + ";";
+    manyFeatures += " };";
     struct Case {
         const char* text;
         int line;
@@ -199,6 +205,9 @@ TEST(MofReader, BadMofNamesFileAndLine) {
         {"#pragma include(\"missing.mof\")", 1, "included file not found"},
         {"klass A { };", 1, "expected 'class'"},
         {"class A { uint8 V = 12abc; };", 1, "bad number"},
+        {"class A {\n  uint8 V[99999999999];\n};", 2, "array size 99999999999 is out of range"},
+        {deepChain.c_str(), 2, "inheritance deeper than 32 levels"},
+        {manyFeatures.c_str(), 1, "more than 1024 properties"},
     };
     for (const auto& c : cases) {
         ClassRepository repo;
