@@ -1,11 +1,13 @@
 #include "ScenarioParser.h"
 
+#include <yaml-cpp/eventhandler.h>
 #include <yaml-cpp/yaml.h>
 
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
 #include <limits>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <type_traits>
@@ -36,6 +38,25 @@ struct Context {
         throw ScenarioError(text.str());
     }
     Context child(std::string const& part) const { return Context{file, where.empty() ? part : where + "." + part}; }
+};
+
+// Finds the first alias (*name). Aliases let a few lines stand for thousands
+// of records, so a scenario is written out in full.
+class AliasFinder : public YAML::EventHandler {
+public:
+    std::optional<YAML::Mark> alias;
+
+    void OnDocumentStart(YAML::Mark const&) override {}
+    void OnDocumentEnd() override {}
+    void OnNull(YAML::Mark const&, YAML::anchor_t) override {}
+    void OnAlias(YAML::Mark const& mark, YAML::anchor_t) override {
+        if (!alias) alias = mark;
+    }
+    void OnScalar(YAML::Mark const&, std::string const&, YAML::anchor_t, std::string const&) override {}
+    void OnSequenceStart(YAML::Mark const&, std::string const&, YAML::anchor_t, YAML::EmitterStyle::value) override {}
+    void OnSequenceEnd() override {}
+    void OnMapStart(YAML::Mark const&, std::string const&, YAML::anchor_t, YAML::EmitterStyle::value) override {}
+    void OnMapEnd() override {}
 };
 
 std::string scalarText(YAML::Node const& node) { return node.IsScalar() ? node.Scalar() : std::string("(not a value)"); }
@@ -321,6 +342,16 @@ VeldraScenario ScenarioParser::parseText(std::string const& text, std::string co
         throw ScenarioError(name + ":" + std::to_string(e.mark.line + 1) + ": not valid YAML: " + e.msg);
     }
     if (!root.IsDefined() || root.IsNull()) throw ScenarioError(name + ": the file is empty");
+    // Only a text with a '*' can hold an alias; the others skip the second pass.
+    if (text.find('*') != std::string::npos) {
+        std::istringstream in(text);
+        YAML::Parser parser(in);
+        AliasFinder finder;
+        parser.HandleNextDocument(finder);
+        if (finder.alias)
+            throw ScenarioError(name + ":" + std::to_string(finder.alias->line + 1) +
+                                ": aliases (*name) are not accepted; write each record out");
+    }
     try {
         return readScenario(root, ctx);
     } catch (YAML::Exception const& e) {

@@ -84,6 +84,8 @@ TEST(BadScenarios, AreRefusedNamingTheFieldAndTheLine) {
         {"controllers: [\n", {"t.yaml:", "not valid YAML"}},
         {"controllers:\n  - enclosures:\n      - {enclosureBoxNumber: 1, paths: [{box: 1}]}\n", {"'port'"}},
         {"", {"empty"}},
+        // An alias would let a few lines multiply into thousands of disks.
+        {"controllers:\n  - physicalDisks: &d [{id: 1}]\n  - physicalDisks: *d\n", {"t.yaml:3:", "aliases"}},
     };
     for (auto const& c : cases) {
         try {
