@@ -286,9 +286,12 @@ std::vector<CimInstance> ProviderManager::_finish(const CimObjectPath& request,
                                                   std::vector<CimInstance> found,
                                                   const PropertyList* propertyList) {
     for (CimInstance& inst : found) {
-        CimObjectPath path = inst.path();
-        _complete(request, path);
-        inst.setPath(std::move(path));
+        // Most paths are complete already; only an incomplete one is copied.
+        if (inst.path().nameSpace().empty()) {
+            CimObjectPath path = inst.path();
+            _complete(request, path);
+            inst.setPath(std::move(path));
+        }
         if (propertyList != nullptr) {
             inst = inst.filtered(propertyList);
         }
