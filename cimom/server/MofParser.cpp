@@ -133,8 +133,13 @@ void MofParser::_parsePragma(int depth) {
         if (depth >= maxIncludeDepth) throw MofError(_fileName, line, "includes nested too deep");
         std::filesystem::path target(value);
         if (target.is_relative()) target = std::filesystem::path(_fileName).parent_path() / target;
-        if (!std::filesystem::exists(target)) throw MofError(_fileName, line, "included file not found: " + value);
-        std::string canonical = std::filesystem::weakly_canonical(target).string();
+        // The name comes from the file: a bad one (too long, a folder, a
+        // device) is this file's error, not a filesystem exception.
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(target, error))
+            throw MofError(_fileName, line, "included file not found: " + value);
+        std::string canonical = std::filesystem::weakly_canonical(target, error).string();
+        if (error) throw MofError(_fileName, line, "included file " + value + ": " + error.message());
         if (_openFiles.count(canonical)) throw MofError(_fileName, line, "include cycle through " + value);
         std::ifstream in(target, std::ios::binary);
         std::ostringstream text;

@@ -184,6 +184,7 @@ TEST(MofReader, BadMofNamesFileAndLine) {
     std::string manyFeatures = "class A {";
     for (int i = 0; i <= 1024; ++i) manyFeatures += " string P" + std::to_string(i) + ";";
     manyFeatures += " };";
+    const std::string longInclude = "#pragma include(\"" + std::string(300, 'x') + ".mof\")";
     struct Case {
         const char* text;
         int line;
@@ -203,6 +204,8 @@ TEST(MofReader, BadMofNamesFileAndLine) {
         {"class A { uint32 M(uint32 a b); };", 1, "expected ')'"},
         {"class A : B { }; class B : A { };", 1, "inheritance cycle"},
         {"#pragma include(\"missing.mof\")", 1, "included file not found"},
+        {"#pragma include(\".\")", 1, "included file not found"},
+        {longInclude.c_str(), 1, "included file not found"},
         {"klass A { };", 1, "expected 'class'"},
         {"class A { uint8 V = 12abc; };", 1, "bad number"},
         {"class A {\n  uint8 V[99999999999];\n};", 2, "array size 99999999999 is out of range"},
