@@ -21,10 +21,10 @@ namespace QLN {
 
 QLN_VDSCSIInitiatorTargetLogicalUnitPath::QLN_VDSCSIInitiatorTargetLogicalUnitPath(
     Logger& logger, std::string const& nameSpace, CmpiManagedInstance* initiator,
-    CmpiManagedInstance* target, CmpiManagedInstance* logicalUnit, VeldraController* controller,
+    CmpiManagedInstance* target, CmpiManagedInstance* logicalUnit, VeldraController*,
     StateReader targetState)
     : _namespace(nameSpace), _logger(logger), _initiator(initiator), _target(target),
-      _logicalUnit(logicalUnit), _controller(controller), _targetState(std::move(targetState)) {
+      _logicalUnit(logicalUnit), _targetState(std::move(targetState)) {
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");

@@ -43,7 +43,6 @@ private:
     CmpiManagedInstance* _initiator;
     CmpiManagedInstance* _target;
     CmpiManagedInstance* _logicalUnit;
-    VeldraController* _controller;
     StateReader _targetState;
 };
 

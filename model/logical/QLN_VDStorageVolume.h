@@ -27,6 +27,7 @@ public:
     // "Identify" with a uint32 Duration in seconds: 0 done, 2 refused or the
     // volume is gone, 17 for any other method or argument.
     unsigned int invokeMethod(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in);
+    using CmpiManagedInstance::invokeMethod;
 
     std::string const& getSerialNumber() const { return _serialNumber; }
 

@@ -26,6 +26,7 @@ public:
     // Identify: lights the disk's locator for Duration (uint32) seconds.
     // 0 on success, 2 when the controller refuses, 17 for anything else.
     unsigned int invokeMethod(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in);
+    using CmpiManagedInstance::invokeMethod;
 
     // Disk changes are detected by the controller's pass; this only reports.
     void manageDynamic(bool indicationsEnabled);

@@ -5,8 +5,8 @@
 
 namespace CmpiCpp {
 
-CmpiMBService::CmpiMBService(CMPIBroker const* broker, Logger& logger)
-    : _broker(broker), _logger(logger) {}
+CmpiMBService::CmpiMBService(CMPIBroker const* broker, Logger&)
+    : _broker(broker) {}
 
 void CmpiMBService::deliverIndication(CmpiContext const& context, CmpiName const& nameSpace,
                                       CmpiInstance const& indication) const {

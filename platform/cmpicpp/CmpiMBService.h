@@ -12,8 +12,8 @@ namespace CmpiCpp {
 
 class CmpiMBService {
 public:
-    // The logger is kept for the caller's line of sight; the service itself
-    // reports failure only by throwing.
+    // The logger is taken for the callers' sake; the service itself reports
+    // failure only by throwing.
     CmpiMBService(CMPIBroker const* broker, Logger& logger);
 
     // Hands the indication to the object manager in that namespace. A null
@@ -23,7 +23,6 @@ public:
 
 private:
     CMPIBroker const* _broker;
-    Logger& _logger;
 };
 
 } // namespace CmpiCpp

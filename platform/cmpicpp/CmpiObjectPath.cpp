@@ -140,10 +140,11 @@ std::size_t CmpiObjectPath::hash() const {
 bool CmpiObjectPath::operator==(CmpiObjectPath const& other) const {
     if (!(_className == other._className) || _keys.size() != other._keys.size())
         return false;
-    for (auto const& [name, value] : _keys) {
+    for (auto const& key : _keys) {
+        // Not a structured binding: clang 14 cannot capture one in a lambda.
         auto it = std::find_if(other._keys.begin(), other._keys.end(),
-                               [&](auto const& k) { return k.first == name; });
-        if (it == other._keys.end() || value.keyText() != it->second.keyText())
+                               [&](auto const& k) { return k.first == key.first; });
+        if (it == other._keys.end() || key.second.keyText() != it->second.keyText())
             return false;
     }
     return true;
