@@ -51,6 +51,22 @@ template <class Fn> Fn required(Fn fn, const LoadedProvider& p, const char* oper
     return fn;
 }
 
+// What every call into a provider needs, made in an arena that closes when
+// the call is done: a result to collect the answer, the request's path and
+// a context in the request's namespace. The arena comes first, so that the
+// objects are made in it.
+struct ProviderCall {
+    ProviderCall(Broker& broker, const CimObjectPath& path)
+        : arena(broker.registry()), result(broker.registry().make<BrokerResult>()),
+          op(broker.registry().make<BrokerObjectPath>(path)->cmpi()),
+          ctx(broker.newContext(path.nameSpace(), 0)->cmpi()) {}
+
+    ObjectRegistry::Scope arena;
+    BrokerResult* const result;
+    CMPIObjectPath* const op;
+    CMPIContext* const ctx;
+};
+
 } // namespace
 
 // Shared hold on the providers for one call, unless this thread holds one already.
@@ -245,6 +261,30 @@ ProviderManager::_associationProviders(const std::string& nameSpace,
     return out;
 }
 
+LoadedProvider* ProviderManager::_requireProvider(Role role, const std::string& nameSpace,
+                                                  const std::string& className) const {
+    if (LoadedProvider* p = _providerFor(role, nameSpace, className)) {
+        return p;
+    }
+    const char* kind = "instance";
+    switch (role) {
+    case Role::Instance:
+        kind = "instance";
+        break;
+    case Role::Association:
+        kind = "association";
+        break;
+    case Role::Method:
+        kind = "method";
+        break;
+    case Role::Indication:
+        kind = "indication";
+        break;
+    }
+    throw CimError(CMPI_RC_ERR_INVALID_CLASS,
+                   std::string("no ") + kind + " provider for " + className + " in " + nameSpace);
+}
+
 bool ProviderManager::hasInstanceProvider(const std::string& nameSpace,
                                           const std::string& className) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
@@ -301,20 +341,13 @@ std::vector<CimInstance> ProviderManager::_finish(const CimObjectPath& request,
 
 std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObjectPath& classPath) {
     CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " +
-                                                      classPath.className() + " in " +
-                                                      classPath.nameSpace());
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    BrokerResult* result = _broker->registry().make<BrokerResult>();
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
-    BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
-    _check(required(p->instanceMI()->ft->enumerateInstanceNames, *p,
-                    "enumerateInstanceNames")(p->instanceMI(), ctx->cmpi(), result->cmpi(), op),
+    LoadedProvider* p =
+        _requireProvider(Role::Instance, classPath.nameSpace(), classPath.className());
+    ProviderCall call(*_broker, classPath);
+    _check(required(p->instanceMI()->ft->enumerateInstanceNames, *p, "enumerateInstanceNames")(
+               p->instanceMI(), call.ctx, call.result->cmpi(), call.op),
            *p, "enumerateInstanceNames");
-    std::vector<CimObjectPath> paths = result->takePaths();
+    std::vector<CimObjectPath> paths = call.result->takePaths();
     for (CimObjectPath& path : paths) {
         _complete(classPath, path);
     }
@@ -324,40 +357,26 @@ std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObje
 std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath& classPath,
                                                              const PropertyList* propertyList) {
     CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Instance, classPath.nameSpace(), classPath.className());
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS, "no instance provider for " +
-                                                      classPath.className() + " in " +
-                                                      classPath.nameSpace());
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    BrokerResult* result = _broker->registry().make<BrokerResult>();
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(classPath)->cmpi();
-    BrokerContext* ctx = _broker->newContext(classPath.nameSpace(), 0);
+    LoadedProvider* p =
+        _requireProvider(Role::Instance, classPath.nameSpace(), classPath.className());
+    ProviderCall call(*_broker, classPath);
     PropertyArray props(propertyList);
     _check(required(p->instanceMI()->ft->enumerateInstances, *p, "enumerateInstances")(
-               p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
+               p->instanceMI(), call.ctx, call.result->cmpi(), call.op, props.get()),
            *p, "enumerateInstances");
-    return _finish(classPath, result->takeInstances(), propertyList);
+    return _finish(classPath, call.result->takeInstances(), propertyList);
 }
 
 CimInstance ProviderManager::getInstance(const CimObjectPath& path,
                                          const PropertyList* propertyList) {
     CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Instance, path.nameSpace(), path.className());
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
-                       "no instance provider for " + path.className() + " in " + path.nameSpace());
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    BrokerResult* result = _broker->registry().make<BrokerResult>();
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-    BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+    LoadedProvider* p = _requireProvider(Role::Instance, path.nameSpace(), path.className());
+    ProviderCall call(*_broker, path);
     PropertyArray props(propertyList);
-    _check(required(p->instanceMI()->ft->getInstance, *p,
-                    "getInstance")(p->instanceMI(), ctx->cmpi(), result->cmpi(), op, props.get()),
+    _check(required(p->instanceMI()->ft->getInstance, *p, "getInstance")(
+               p->instanceMI(), call.ctx, call.result->cmpi(), call.op, props.get()),
            *p, "getInstance");
-    std::vector<CimInstance> found = _finish(path, result->takeInstances(), propertyList);
+    std::vector<CimInstance> found = _finish(path, call.result->takeInstances(), propertyList);
     if (found.empty()) {
         throw CimError(CMPI_RC_ERR_NOT_FOUND, "no instance " + path.toString());
     }
@@ -371,16 +390,13 @@ ProviderManager::associators(const CimObjectPath& path, const std::string& assoc
     CallGuard guard(*this);
     std::vector<CimInstance> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
-        ObjectRegistry::Scope scope(_broker->registry());
-        BrokerResult* result = _broker->registry().make<BrokerResult>();
-        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        ProviderCall call(*_broker, path);
         PropertyArray props(propertyList);
         _check(required(p->associationMI()->ft->associators, *p, "associators")(
-                   p->associationMI(), ctx->cmpi(), result->cmpi(), op, cstr(assocClass),
+                   p->associationMI(), call.ctx, call.result->cmpi(), call.op, cstr(assocClass),
                    cstr(resultClass), cstr(role), cstr(resultRole), props.get()),
                *p, "associators");
-        for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
+        for (CimInstance& i : _finish(path, call.result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
         }
     }
@@ -395,15 +411,12 @@ std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath&
     CallGuard guard(*this);
     std::vector<CimObjectPath> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
-        ObjectRegistry::Scope scope(_broker->registry());
-        BrokerResult* result = _broker->registry().make<BrokerResult>();
-        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        ProviderCall call(*_broker, path);
         _check(required(p->associationMI()->ft->associatorNames, *p, "associatorNames")(
-                   p->associationMI(), ctx->cmpi(), result->cmpi(), op, cstr(assocClass),
+                   p->associationMI(), call.ctx, call.result->cmpi(), call.op, cstr(assocClass),
                    cstr(resultClass), cstr(role), cstr(resultRole)),
                *p, "associatorNames");
-        for (CimObjectPath& found : result->takePaths()) {
+        for (CimObjectPath& found : call.result->takePaths()) {
             _complete(path, found);
             all.push_back(std::move(found));
         }
@@ -418,16 +431,13 @@ std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
     CallGuard guard(*this);
     std::vector<CimInstance> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
-        ObjectRegistry::Scope scope(_broker->registry());
-        BrokerResult* result = _broker->registry().make<BrokerResult>();
-        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        ProviderCall call(*_broker, path);
         PropertyArray props(propertyList);
         _check(required(p->associationMI()->ft->references, *p,
-                        "references")(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
+                        "references")(p->associationMI(), call.ctx, call.result->cmpi(), call.op,
                                       cstr(resultClass), cstr(role), props.get()),
                *p, "references");
-        for (CimInstance& i : _finish(path, result->takeInstances(), propertyList)) {
+        for (CimInstance& i : _finish(path, call.result->takeInstances(), propertyList)) {
             all.push_back(std::move(i));
         }
     }
@@ -440,15 +450,12 @@ std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& 
     CallGuard guard(*this);
     std::vector<CimObjectPath> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
-        ObjectRegistry::Scope scope(_broker->registry());
-        BrokerResult* result = _broker->registry().make<BrokerResult>();
-        CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-        BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+        ProviderCall call(*_broker, path);
         _check(required(p->associationMI()->ft->referenceNames, *p,
-                        "referenceNames")(p->associationMI(), ctx->cmpi(), result->cmpi(), op,
-                                          cstr(resultClass), cstr(role)),
+                        "referenceNames")(p->associationMI(), call.ctx, call.result->cmpi(),
+                                          call.op, cstr(resultClass), cstr(role)),
                *p, "referenceNames");
-        for (CimObjectPath& found : result->takePaths()) {
+        for (CimObjectPath& found : call.result->takePaths()) {
             _complete(path, found);
             all.push_back(std::move(found));
         }
@@ -459,23 +466,16 @@ std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& 
 MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std::string& method,
                                            const Args& inArgs) {
     CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Method, path.nameSpace(), path.className());
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
-                       "no method provider for " + path.className() + " in " + path.nameSpace());
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    BrokerResult* result = _broker->registry().make<BrokerResult>();
-    CMPIObjectPath* op = _broker->registry().make<BrokerObjectPath>(path)->cmpi();
-    BrokerContext* ctx = _broker->newContext(path.nameSpace(), 0);
+    LoadedProvider* p = _requireProvider(Role::Method, path.nameSpace(), path.className());
+    ProviderCall call(*_broker, path);
     BrokerArgs* in = _broker->registry().make<BrokerArgs>(inArgs);
     BrokerArgs* out = _broker->registry().make<BrokerArgs>();
     _check(required(p->methodMI()->ft->invokeMethod, *p,
-                    "invokeMethod")(p->methodMI(), ctx->cmpi(), result->cmpi(), op, method.c_str(),
-                                    in->cmpi(), out->cmpi()),
+                    "invokeMethod")(p->methodMI(), call.ctx, call.result->cmpi(), call.op,
+                                    method.c_str(), in->cmpi(), out->cmpi()),
            *p, "invokeMethod");
     MethodResult r;
-    std::vector<CimValue> data = result->takeData();
+    std::vector<CimValue> data = call.result->takeData();
     if (!data.empty()) {
         r.returnValue = std::move(data.front());
     }
@@ -508,18 +508,11 @@ void ProviderManager::_filterCall(FilterEntry entry, const char* operation,
                                   const std::string& nameSpace, const std::string& className,
                                   bool edge) {
     CallGuard guard(*this);
-    LoadedProvider* p = _providerFor(Role::Indication, nameSpace, className);
-    if (p == nullptr) {
-        throw CimError(CMPI_RC_ERR_INVALID_CLASS,
-                       "no indication provider for " + className + " in " + nameSpace);
-    }
-    ObjectRegistry::Scope scope(_broker->registry());
-    CMPIObjectPath* op =
-        _broker->registry().make<BrokerObjectPath>(CimObjectPath(nameSpace, className))->cmpi();
-    BrokerContext* ctx = _broker->newContext(nameSpace, 0);
+    LoadedProvider* p = _requireProvider(Role::Indication, nameSpace, className);
+    ProviderCall call(*_broker, CimObjectPath(nameSpace, className));
     CMPIIndicationMI* mi = p->indicationMI();
-    _check(required(mi->ft->*entry, *p, operation)(mi, ctx->cmpi(), nullptr, className.c_str(), op,
-                                                   edge ? 1 : 0),
+    _check(required(mi->ft->*entry, *p, operation)(mi, call.ctx, nullptr, className.c_str(),
+                                                   call.op, edge ? 1 : 0),
            *p, operation);
 }
 

@@ -107,6 +107,9 @@ private:
 
     LoadedProvider* _providerFor(Role role, const std::string& nameSpace,
                                  const std::string& className) const;
+    // The same, or CimError INVALID_CLASS naming what is missing.
+    LoadedProvider* _requireProvider(Role role, const std::string& nameSpace,
+                                     const std::string& className) const;
     std::vector<LoadedProvider*> _associationProviders(const std::string& nameSpace,
                                                        const std::string& assocClass) const;
     std::string _findLibrary(const std::string& library,
