@@ -1,8 +1,8 @@
 #pragma once
-// Common ground of the instances that stand beside a disk (package,
-// location, firmware, statistics): the disk's identity frozen at
-// construction, and the look-up of the disk in the last snapshot each time an
-// instance is asked for.
+// Common ground of the disk and the instances that stand for it or beside it
+// (extent, package, location, firmware, statistics): the disk's identity
+// frozen at construction, and the look-up of the disk in the last snapshot
+// each time an instance is asked for.
 #include "ControllerManagedInstance.h"
 #include "Logger.h"
 #include "VeldraController.h"

@@ -27,38 +27,24 @@ namespace QLN {
 QLN_VDDiskDrive::QLN_VDDiskDrive(Logger& logger, std::string const& nameSpace,
                                  unsigned int controllerIndex, VeldraPhysicalDisk const& disk,
                                  VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {
-    _serialNumber = disk.getSerialNumber();
-    _paths = disk.getLastAllPhysicalPaths();
-    _portString = pathsToPortStr(_paths);
-    _boxNumber = disk.getEnclosureBoxNumber();
-    _bay = disk.getBay();
-    _model = disk.getModel();
-}
-
-std::string QLN_VDDiskDrive::_deviceId() const {
-    // The controller number keeps serial-less disks of different
-    // controllers apart: they may share box and bay.
-    return PhysicalDiskKey::name(_serialNumber, _model, std::to_string(_controllerIndex) + "-",
-                                 _boxNumber, _bay);
-}
+    : DiskCompanion(logger, nameSpace, className, controllerIndex, disk, controller),
+      _paths(disk.getLastAllPhysicalPaths()), _portString(pathsToPortStr(_paths)) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDDiskDrive::getPath() const {
     return PhysicalDiskKey::devicePath(_namespace, className, _controller, _controllerIndex,
-                                       "DeviceID", _deviceId());
+                                       "DeviceID", _identityTail());
 }
 
 CmpiCpp::CmpiInstance QLN_VDDiskDrive::getInstance() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    VeldraPhysicalDisk const disk =
-        PhysicalDiskKey::find(_controller, _logger, _serialNumber, _boxNumber, _bay, notFound);
+    VeldraPhysicalDisk const disk = _findDisk(notFound);
     bool const carrierAuthentication = _controller->getSupportsLumenCarrierAuthentication();
 
     instance.addProperty("SystemCreationClassName", arraySystemClass);
     instance.addProperty("CreationClassName", className);
     instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
-    instance.addProperty("DeviceID", _deviceId());
+    instance.addProperty("DeviceID", _identityTail());
     instance.addProperty("Name", _serialNumber);
     instance.addProperty("ElementName", pathsToUserStr(disk.getPaths(), disk.getBay()));
 
@@ -128,8 +114,7 @@ unsigned int QLN_VDDiskDrive::invokeMethod(CmpiCpp::CmpiName const& method,
         if (argument.getType() != CMPI_uint32)
             return result;
         u32 const duration = argument.getUint32();
-        VeldraPhysicalDisk const disk = PhysicalDiskKey::find(_controller, _logger, _serialNumber,
-                                                              _boxNumber, _bay, methodNotFound);
+        VeldraPhysicalDisk const disk = _findDisk(methodNotFound);
         std::vector<VeldraPhysicalDisk> const one{disk};
         int const identified = _controller->identifyPhysicalDisks(one, duration * durationScale);
         result = identified >= 0 ? 0 : methodFailed;

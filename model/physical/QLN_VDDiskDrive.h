@@ -4,7 +4,7 @@
 // without one); every value is read from the controller's last snapshot when
 // asked, so a client always sees what the last worker pass accepted.
 #include "CmpiArgs.h"
-#include "ControllerManagedInstance.h"
+#include "DiskCompanion.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -15,7 +15,7 @@
 
 namespace QLN {
 
-class QLN_VDDiskDrive : public ControllerManagedInstance {
+class QLN_VDDiskDrive : public DiskCompanion {
 public:
     QLN_VDDiskDrive(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                     VeldraPhysicalDisk const& disk, VeldraController* controller);
@@ -31,22 +31,13 @@ public:
     // Disk changes are detected by the controller's pass; this only reports.
     void manageDynamic(bool indicationsEnabled);
 
-    // Identity as frozen at construction, for the worker's matching.
-    std::string const& getSerialNumber() const { return _serialNumber; }
+    // The routes as frozen at construction, for the worker's matching.
     std::vector<VeldraPhysicalPath> const& getPaths() const { return _paths; }
     std::string const& getPortString() const { return _portString; }
-    int getBoxNumber() const { return _boxNumber; }
-    int getBay() const { return _bay; }
 
 private:
-    std::string _deviceId() const;
-
-    std::string _serialNumber;
-    std::string _portString;
-    int _boxNumber;
-    int _bay;
-    std::string _model;
     std::vector<VeldraPhysicalPath> _paths;
+    std::string _portString;
 };
 
 } // namespace QLN

@@ -25,11 +25,8 @@ QLN_VDStorageExtent::QLN_VDStorageExtent(Logger& logger, std::string const& name
                                          unsigned int controllerIndex,
                                          VeldraPhysicalDisk const& disk,
                                          VeldraController* controller)
-    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller),
-      _serialNumber(disk.getSerialNumber()), _boxNumber(disk.getEnclosureBoxNumber()),
-      _bay(disk.getBay()), _model(disk.getModel()), _paths(disk.getLastAllPhysicalPaths()) {
-    _portString = pathsToPortStr(_paths);
-}
+    : DiskCompanion(logger, nameSpace, className, controllerIndex, disk, controller),
+      _paths(disk.getLastAllPhysicalPaths()), _portString(pathsToPortStr(_paths)) {}
 
 std::string QLN_VDStorageExtent::_deviceId() const {
     // Unlike the disk, no controller number: SystemName already scopes it.
@@ -44,8 +41,7 @@ CmpiCpp::CmpiObjectPath QLN_VDStorageExtent::getPath() const {
 CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    VeldraPhysicalDisk const disk =
-        PhysicalDiskKey::find(_controller, _logger, _serialNumber, _boxNumber, _bay, notFound);
+    VeldraPhysicalDisk const disk = _findDisk(notFound);
 
     instance.addProperty("SystemCreationClassName", arraySystemClass);
     instance.addProperty("CreationClassName", className);

@@ -2,7 +2,7 @@
 // The capacity view of one physical disk: the primordial extent that pools
 // and volumes are made of. It repeats the disk's status in a reduced form
 // and adds the block counts.
-#include "ControllerManagedInstance.h"
+#include "DiskCompanion.h"
 #include "Logger.h"
 #include "VeldraController.h"
 #include "VeldraPhysicalDisk.h"
@@ -13,7 +13,7 @@
 
 namespace QLN {
 
-class QLN_VDStorageExtent : public ControllerManagedInstance {
+class QLN_VDStorageExtent : public DiskCompanion {
 public:
     QLN_VDStorageExtent(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
                         VeldraPhysicalDisk const& disk, VeldraController* controller);
@@ -21,22 +21,15 @@ public:
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
-    // Identity as frozen at construction, for the worker's matching.
-    std::string const& getSerialNumber() const { return _serialNumber; }
+    // The routes as frozen at construction, for the worker's matching.
     std::vector<VeldraPhysicalPath> const& getPaths() const { return _paths; }
     std::string const& getPortString() const { return _portString; }
-    int getBoxNumber() const { return _boxNumber; }
-    int getBay() const { return _bay; }
 
 private:
     std::string _deviceId() const;
 
-    std::string _serialNumber;
-    std::string _portString;
-    int _boxNumber;
-    int _bay;
-    std::string _model;
     std::vector<VeldraPhysicalPath> _paths;
+    std::string _portString;
 };
 
 } // namespace QLN
