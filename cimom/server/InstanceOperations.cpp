@@ -108,6 +108,19 @@ void InstanceOperations::registerWith(CimOperationHandler& handler) const {
     handler.setMethodCall([this](const CimRequest& request, CimXmlWriter& out) { invokeMethod(request, out); });
 }
 
+// How instances are written: the request's flags and property list, where
+// the operation takes them (the name-only operations do not).
+InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(const CimRequest& request, bool flags) const {
+    InstanceXml::InstanceOptions options;
+    options.host = _host;
+    if (flags) {
+        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+        options.propertyList = CimOperationHandler::propertyListParam(request);
+    }
+    return options;
+}
+
 void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const {
     std::string className = _requireClass(request, "ClassName");
     PathSet seen;
@@ -130,11 +143,7 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
     std::string className = _requireClass(request, "ClassName");
     bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
     CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
-    InstanceXml::InstanceOptions options;
-    options.host = _host;
-    options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
-    options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
-    options.propertyList = CimOperationHandler::propertyListParam(request);
+    InstanceXml::InstanceOptions options = _instanceOptions(request, true);
     const CimClassDecl* requested = _classes.find(request.nameSpace(), className);
     if (!deep && requested) {
         // Without deep inheritance only the requested class's properties are shown.
@@ -180,11 +189,7 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
 void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& out) const {
     CimObjectPath path = _objectName(request, "InstanceName");
     CimOperationHandler::boolParam(request, "LocalOnly", false);
-    InstanceXml::InstanceOptions options;
-    options.host = _host;
-    options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
-    options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
-    options.propertyList = CimOperationHandler::propertyListParam(request);
+    InstanceXml::InstanceOptions options = _instanceOptions(request, true);
     options.cls = _classes.find(request.nameSpace(), path.className());
     if (!_providers.hasInstanceProvider(request.nameSpace(), path.className()))
         fail(CimOperationError::notFound, "no provider serves " + path.className());
@@ -214,13 +219,7 @@ void InstanceOperations::_associators(const CimRequest& request, CimXmlWriter& o
     for (const std::string* c : {&assocClass, &resultClass})
         if (!c->empty() && !_classes.knowsClassName(request.nameSpace(), *c))
             fail(CimOperationError::invalidParameter, "class " + *c + " does not exist");
-    InstanceXml::InstanceOptions options;
-    options.host = _host;
-    if (!names) {
-        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
-        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
-        options.propertyList = CimOperationHandler::propertyListParam(request);
-    }
+    InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
     auto providerList = toList(options.propertyList);
     PathSet seen;
     out.open("IRETURNVALUE");
@@ -248,13 +247,7 @@ void InstanceOperations::_references(const CimRequest& request, CimXmlWriter& ou
     std::string role = CimOperationHandler::stringParam(request, "Role");
     if (!resultClass.empty() && !_classes.knowsClassName(request.nameSpace(), resultClass))
         fail(CimOperationError::invalidParameter, "class " + resultClass + " does not exist");
-    InstanceXml::InstanceOptions options;
-    options.host = _host;
-    if (!names) {
-        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
-        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
-        options.propertyList = CimOperationHandler::propertyListParam(request);
-    }
+    InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
     auto providerList = toList(options.propertyList);
     PathSet seen;
     out.open("IRETURNVALUE");

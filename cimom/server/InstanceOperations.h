@@ -38,6 +38,7 @@ private:
 
     std::string _requireClass(const CimRequest& request, const char* param) const;
     CimObjectPath _objectName(const CimRequest& request, const char* param) const;
+    InstanceXml::InstanceOptions _instanceOptions(const CimRequest& request, bool flags) const;
     // Association classes to ask: the given one and its subclasses, or every
     // association class of the namespace.
     std::vector<std::string> _associationClasses(const std::string& nameSpace, const std::string& assocClass) const;
