@@ -54,11 +54,7 @@ CmpiCpp::CmpiInstance QLN_VDFirmware::getInstance() const {
     std::string model;
     if (data.getModel(model) == 0) {
         instance.addProperty("ElementName", model);
-        instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
-        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily",
-                                                                         "MWQ:SoftwareCategory"}));
-        instance.addProperty("IdentityInfoValue",
-                             VDArrayValues::strings({"MWQ:" + model, "Storage Controller"}));
+        VersionProperties::addIdentityInfo(instance, model, "MWQ:" + model, "Storage Controller");
     }
     return instance;
 }

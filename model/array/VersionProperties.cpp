@@ -1,6 +1,7 @@
 #include "VersionProperties.h"
 
 #include "QLNUtil.h"
+#include "VDArrayValues.h"
 
 namespace QLN {
 
@@ -14,6 +15,15 @@ void VersionProperties::add(CmpiCpp::CmpiInstance& instance, std::string const& 
         instance.addProperty("MajorVersion", major);
     if (QLNUtil::stringVersionToMinor(version, minor))
         instance.addProperty("MinorVersion", minor);
+}
+
+void VersionProperties::addIdentityInfo(CmpiCpp::CmpiInstance& instance,
+                                        std::string const& targetType, std::string const& family,
+                                        char const* category) {
+    instance.addProperty("TargetTypes", VDArrayValues::strings({targetType}));
+    instance.addProperty("IdentityInfoType",
+                         VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
+    instance.addProperty("IdentityInfoValue", VDArrayValues::strings({family, category}));
 }
 
 } // namespace QLN

@@ -11,6 +11,10 @@ namespace QLN {
 class VersionProperties {
 public:
     static void add(CmpiCpp::CmpiInstance& instance, std::string const& version);
+    // TargetTypes, and the software family and category as IdentityInfoType
+    // and IdentityInfoValue, which every firmware identity carries.
+    static void addIdentityInfo(CmpiCpp::CmpiInstance& instance, std::string const& targetType,
+                                std::string const& family, char const* category);
 };
 
 } // namespace QLN

@@ -61,11 +61,7 @@ CmpiCpp::CmpiInstance QLN_VDEnclosureFirmware::getInstance() const {
     std::string const model = enclosure.getModel();
     if (!model.empty()) {
         instance.addProperty("ElementName", model);
-        instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
-        instance.addProperty("IdentityInfoType", VDArrayValues::strings({"CIM:SoftwareFamily",
-                                                                         "MWQ:SoftwareCategory"}));
-        instance.addProperty("IdentityInfoValue",
-                             VDArrayValues::strings({"MWQ:" + model, "Storage Device"}));
+        VersionProperties::addIdentityInfo(instance, model, "MWQ:" + model, "Storage Device");
     }
     return instance;
 }

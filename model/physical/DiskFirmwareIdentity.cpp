@@ -51,10 +51,7 @@ CmpiCpp::CmpiInstance DiskFirmwareIdentity::getInstance() const {
 
     std::string const model = disk.getModel();
     instance.addProperty("ElementName", _title);
-    instance.addProperty("TargetTypes", VDArrayValues::strings({model}));
-    instance.addProperty("IdentityInfoType",
-                         VDArrayValues::strings({"CIM:SoftwareFamily", "MWQ:SoftwareCategory"}));
-    instance.addProperty("IdentityInfoValue", VDArrayValues::strings({model, "Storage Device"}));
+    VersionProperties::addIdentityInfo(instance, model, model, "Storage Device");
     return instance;
 }
 
