@@ -65,14 +65,12 @@ CmpiCpp::CmpiObjectPath QLN_VDStorageSetting::getPath() const {
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageSetting::getInstance() const {
-    std::vector<VeldraLogicalDisk> logicals;
-    _controller->getLastLogicalDisks(logicals);
-    int const at = findLogicalDiskInVector(_serialNumber, logicals);
-    if (at < 0) {
+    std::optional<VeldraLogicalDisk> const found = _controller->findLastLogicalDisk(_serialNumber);
+    if (!found) {
         _logger.error("%s", notFoundText);
         throw CmpiCpp::CmpiStatus(static_cast<CMPIrc>(logicalDiskGoneCode), notFoundText);
     }
-    VeldraLogicalDisk const& logical = logicals[static_cast<size_t>(at)];
+    VeldraLogicalDisk const& logical = *found;
     VeldraLogicalToleranceEnum const tolerance = logical.getTolerance();
 
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());

@@ -121,14 +121,15 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
     // volume is fixed when it is created.
     instance.addProperty("Accelerator", static_cast<unsigned short>(_acceleratorStatus));
 
-    std::vector<VeldraLogicalDisk> logicals;
-    _controller->getLastLogicalDisks(logicals);
-    int const at = findLogicalDiskInVector(_serialNumber, logicals);
+    // The record's place in the snapshot is logged below, so it is found here
+    // rather than through the controller's look-up.
+    auto const logicals = _controller->shareLastLogicalDisks();
+    int const at = findLogicalDiskInVector(_serialNumber, *logicals);
     if (at < 0) {
         _logger.error("%s", notFoundText);
         throw CmpiCpp::CmpiStatus(static_cast<CMPIrc>(logicalDiskGoneCode), notFoundText);
     }
-    VeldraLogicalDisk const& logical = logicals[static_cast<size_t>(at)];
+    VeldraLogicalDisk const& logical = (*logicals)[static_cast<size_t>(at)];
 
     instance.addProperty("SystemCreationClassName", systemClassName);
     instance.addProperty("CreationClassName", className);
@@ -225,16 +226,14 @@ unsigned int QLN_VDStorageVolume::invokeMethod(CmpiCpp::CmpiName const& method,
         return result;
     }
 
-    std::vector<VeldraLogicalDisk> logicals;
-    _controller->getLastLogicalDisks(logicals);
-    int const at = findLogicalDiskInVector(_serialNumber, logicals);
-    if (at < 0)
+    std::optional<VeldraLogicalDisk> const logical = _controller->findLastLogicalDisk(_serialNumber);
+    if (!logical)
         return methodFailed;
     // The current disks, not the snapshot: a disk that moved since the last
     // pass should blink where it is now.
     std::vector<VeldraPhysicalDisk> disks = _controller->getAllPhysicalDisks();
     std::vector<VeldraPhysicalDisk> members =
-        logicals[static_cast<size_t>(at)].logicalToAllPhysicals(disks);
+        logical->logicalToAllPhysicals(disks);
     int const identified = _controller->identifyPhysicalDisks(members, duration * durationScale);
     result = identified < 0 ? methodFailed : methodDone;
     return result;

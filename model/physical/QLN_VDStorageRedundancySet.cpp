@@ -53,12 +53,10 @@ void QLN_VDStorageRedundancySet::manageDynamic(bool indicationsEnabled,
     _logger.info("manageDynamic()");
     if (indicationsEnabled)
         _logger.info("indications enabled");
-    std::vector<VeldraLogicalDisk> logicals;
-    _controller->getLastLogicalDisks(logicals);
     bool spareAvailable = false;
     // A logical disk gone from the snapshot counts as one without a spare.
-    if (int const at = findLogicalDiskInVector(_logicalDiskSerial, logicals); at >= 0)
-        spareAvailable = logicals[static_cast<std::size_t>(at)].getAtLeastOneSpareAvailable();
+    if (auto const logical = _controller->findLastLogicalDisk(_logicalDiskSerial))
+        spareAvailable = logical->getAtLeastOneSpareAvailable();
     unsigned int const status = spareAvailable ? fullyRedundant : redundancyLost;
     if (status == _redundancyStatus)
         return;

@@ -42,6 +42,13 @@ void VeldraController::setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& 
     _lastDiskBySerial.swap(storedIndex);
 }
 
+std::optional<VeldraLogicalDisk> VeldraController::findLastLogicalDisk(std::string const& serial) {
+    auto const logicals = shareLastLogicalDisks();
+    int const at = findLogicalDiskInVector(serial, *logicals);
+    if (at < 0) return std::nullopt;
+    return (*logicals)[static_cast<std::size_t>(at)];
+}
+
 std::optional<VeldraPhysicalDisk> VeldraController::findLastPhysicalDisk(std::string const& serial,
                                                                          int enclosureBoxNumber, int bay) {
     std::shared_ptr<std::vector<VeldraPhysicalDisk> const> disks;

@@ -59,6 +59,8 @@ public:
     std::shared_ptr<std::vector<VeldraLogicalDisk> const> shareLastLogicalDisks();
     // The stored disk that findPhysicalDiskInVector would pick from the
     // stored snapshot, through an index made when the snapshot was stored.
+    // The stored logical disk with this serial number, without copying the rest.
+    std::optional<VeldraLogicalDisk> findLastLogicalDisk(std::string const& serial);
     std::optional<VeldraPhysicalDisk> findLastPhysicalDisk(std::string const& serial, int enclosureBoxNumber,
                                                            int bay);
 

@@ -183,7 +183,7 @@ TEST(Factory, EmptyScenarioHasNoController) {
 
 } // namespace
 
-// Catches the stored-disk index drifting from the scan it stands in for:
+// Catches the stored-disk look-ups drifting from the scans they stand in for:
 // same disk for every identity, serial-less disks by place, and nothing
 // once a newer snapshot has dropped the disk.
 TEST_F(ReloadTest, StoredDiskLookupAgreesWithTheScan) {
@@ -196,6 +196,14 @@ TEST_F(ReloadTest, StoredDiskLookupAgreesWithTheScan) {
         EXPECT_EQ(found->getId(), disks[static_cast<size_t>(at)].getId());
     }
     EXPECT_FALSE(_controller->findLastPhysicalDisk("no such serial", 0, 0).has_value());
+
+    std::vector<VeldraLogicalDisk> logicals = _controller->getAllLogicalDisks();
+    ASSERT_FALSE(logicals.empty());
+    _controller->setLastLogicalDisks(logicals);
+    auto logical = _controller->findLastLogicalDisk(logicals.back().getSerialNumber());
+    ASSERT_TRUE(logical.has_value());
+    EXPECT_EQ(logical->getSerialNumber(), logicals.back().getSerialNumber());
+    EXPECT_FALSE(_controller->findLastLogicalDisk("no such serial").has_value());
 
     std::vector<VeldraPhysicalDisk> fewer(disks.begin() + 2, disks.end());
     _controller->setLastAllPhysicalDisks(fewer);
