@@ -38,8 +38,9 @@ void DiskPathDevice::_addKeyProperties(CmpiCpp::CmpiInstance& instance,
                                        char const* lastKeyName) const {
     instance.addProperty("CreationClassName", _cimClassName());
     instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
-    instance.addProperty(lastKeyName, _keyValue());
+    // The instance was made from the path; its keys are not made again.
+    instance.addProperty("SystemName", instance.getPath().getKey("SystemName"));
+    instance.addProperty(lastKeyName, instance.getPath().getKey(lastKeyName));
 }
 
 } // namespace QLN

@@ -31,7 +31,8 @@ protected:
     std::string _keyValue() const;
     // The array system's class and name, then the class's own key.
     CmpiCpp::CmpiObjectPath _path(char const* lastKeyName) const;
-    // CreationClassName, SystemCreationClassName, SystemName and the key, in this order.
+    // CreationClassName, SystemCreationClassName, SystemName and the key, in
+    // this order; the instance must have been made from _path(lastKeyName).
     void _addKeyProperties(CmpiCpp::CmpiInstance& instance, char const* lastKeyName) const;
 
     int _pathIndex;

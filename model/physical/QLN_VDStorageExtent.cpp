@@ -40,13 +40,15 @@ CmpiCpp::CmpiObjectPath QLN_VDStorageExtent::getPath() const {
 
 CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
+    // The keys are taken from the path rather than made a second time.
+    CmpiCpp::CmpiObjectPath const path = getPath();
+    CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, path);
     VeldraPhysicalDisk const disk = _findDisk(notFound);
 
     instance.addProperty("SystemCreationClassName", arraySystemClass);
     instance.addProperty("CreationClassName", className);
-    instance.addProperty("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
-    instance.addProperty("DeviceID", _deviceId());
+    instance.addProperty("SystemName", path.getKey("SystemName"));
+    instance.addProperty("DeviceID", path.getKey("DeviceID"));
     instance.addProperty("Name", _serialNumber);
     instance.addProperty("ElementName", pathsToUserStr(disk.getPaths(), disk.getBay()));
     VeldraPhysicalDiskStatusEnum const status = disk.getStatus();
