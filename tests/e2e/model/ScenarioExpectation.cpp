@@ -1,5 +1,7 @@
 #include "ScenarioExpectation.h"
 
+#include "ModelClassLists.h"
+
 #include <yaml-cpp/yaml.h>
 
 #include <algorithm>
@@ -35,58 +37,6 @@ bool sameDisk(const ScenarioExpectation::Disk& member, const ScenarioExpectation
     if (!entry.serial.empty()) return entry.serial == member.serial;
     return member.serial.empty() && member.enclosureBox == entry.enclosureBox && member.bay == entry.bay;
 }
-
-// Classes made exactly once for every controller, whatever hangs behind it.
-const char* const perController[] = {
-    "QLN_VDArraySystem", "QLN_VDComputerSystemArraySystem", "QLN_VDSoftwareIdentityDriver",
-    "QLN_VDInstalledSoftwareIdentityDriver", "QLN_VDElementSoftwareIdentityDriver", "QLN_VDPhysicalPackage",
-    "QLN_VDPhysicalPackageArraySystem", "QLN_VDFirmware", "QLN_VDFirmwareArraySystem", "QLN_VDArraySystemFirmware",
-    "QLN_VDPortController", "QLN_VDPortControllerPCIDevice", "QLN_VDArraySystemPortController",
-    "QLN_VDPhysicalPackagePortController", "QLN_VDComputerSystemPortController", "QLN_VDProduct",
-    "QLN_VDProductPhysicalPackage", "QLN_VDArraySystemLocation", "QLN_VDPhysicalPackageArraySystemLocation",
-    "QLN_VDArrayController", "QLN_VDArraySystemArrayController", "QLN_VDArrayControllerPhysicalPackage",
-    "QLN_VDArrayControllerPhysicalPackageArrayController", "QLN_VDPhysicalPackageArrayControllerPhysicalPackage",
-    "QLN_VDArrayControllerLocation", "QLN_VDArrayControllerPhysicalPackageArrayControllerLocation", "QLN_VDDAPort",
-    "QLN_VDArraySystemDAPort", "QLN_VDSCSIProtocolEndpoint", "QLN_VDArraySystemSCSIProtocolEndpoint",
-    "QLN_VDDAPortSCSIProtocolEndpoint", "QLN_VDSCSIProtocolController", "QLN_VDArraySystemSCSIProtocolController",
-    "QLN_VDSCSIProtocolEndpointSCSIProtocolController", "QLN_VDPrimordialPool", "QLN_VDPrimordialPoolStorageCapabilities",
-    "QLN_VDArraySystemPrimordialPool",
-    // the one concrete pool
-    "QLN_VDStoragePool", "QLN_VDStoragePoolStorageCapabilities", "QLN_VDArraySystemStoragePool",
-    "QLN_VDPrimordialPoolStoragePool",
-    // the controller's PCI function, served by the host provider
-    "QLN_PCIDevice"};
-
-const char* const perInitiatorPort[] = {"QLN_VDISASPort", "QLN_VDArraySystemISASPort", "QLN_VDISASSCSIProtocolEndpoint",
-                                        "QLN_VDArraySystemISASSCSIProtocolEndpoint",
-                                        "QLN_VDISASPortISASSCSIProtocolEndpoint", "QLN_VDPortControllerISASPort"};
-
-const char* const perEnclosure[] = {"QLN_VDStorageEnclosure", "QLN_VDPhysicalPackageStorageEnclosure",
-                                    "QLN_VDStorageEnclosureLocation", "QLN_VDStorageEnclosureEnclosureLocation",
-                                    "QLN_VDStorageEnclosureProcessor", "QLN_VDStorageEnclosureStorageEnclosureProcessor",
-                                    "QLN_VDArraySystemStorageEnclosureProcessor", "QLN_VDDriveCage",
-                                    "QLN_VDDriveCageLocation", "QLN_VDDriveCageDriveCageLocation",
-                                    "QLN_VDStorageEnclosureDriveCage"};
-const char* const perEnclosureFirmware[] = {"QLN_VDEnclosureFirmware", "QLN_VDStorageEnclosureProcessorEnclosureFirmware"};
-
-const char* const perDisk[] = {"QLN_VDDiskDrive", "QLN_VDArraySystemDiskDrive", "QLN_VDStorageExtent",
-                               "QLN_VDArraySystemStorageExtent", "QLN_VDDiskDriveStorageExtent",
-                               "QLN_VDDiskPhysicalPackage", "QLN_VDDiskPhysicalPackageDiskDrive",
-                               "QLN_VDDiskDriveLocation", "QLN_VDDiskPhysicalPackageDiskDriveLocation"};
-const char* const perDiskPath[] = {"QLN_VDTSASPort", "QLN_VDArraySystemTSASPort", "QLN_VDTSASSCSIProtocolEndpoint",
-                                   "QLN_VDArraySystemTSASSCSIProtocolEndpoint", "QLN_VDTSASPortTSASSCSIProtocolEndpoint",
-                                   "QLN_VDDiskDriveTSASSCSIProtocolEndpoint"};
-const char* const perDiskFirmware[] = {"QLN_VDDiskDriveFirmware", "QLN_VDDiskDriveDiskDriveFirmware"};
-const char* const perCarrier[] = {"QLN_VDLumenDriveCarrierAppFirmware", "QLN_VDLumenDrvCarrierAppElementFirmwareIdentity",
-                                  "QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity",
-                                  "QLN_VDLumenDriveCarrierBootldrFirmware",
-                                  "QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity",
-                                  "QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity"};
-const char* const perStatistics[] = {"QLN_VDMediaAccessStatData", "QLN_VDDiskDriveMediaAccessStatData"};
-
-const char* const perVolume[] = {"QLN_VDStorageVolume", "QLN_VDArraySystemStorageVolume",
-                                 "QLN_VDSCSIProtocolControllerStorageVolume", "QLN_VDStorageSetting",
-                                 "QLN_VDStorageVolumeStorageSetting"};
 
 }  // namespace
 
@@ -152,7 +102,7 @@ void ScenarioExpectation::_count() {
     auto zero = [this](auto& names) {
         for (const char* name : names) _counts[name] += 0;
     };
-    zero(perController), zero(perInitiatorPort), zero(perEnclosure), zero(perEnclosureFirmware), zero(perDisk);
+    zero(perController), zero(perControllerHost), zero(perInitiatorPort), zero(perEnclosure), zero(perEnclosureFirmware), zero(perDisk);
     zero(perDiskPath), zero(perDiskFirmware), zero(perCarrier), zero(perStatistics), zero(perVolume);
     for (const char* name :
          {"QLN_VDStorageCapabilities", "QLN_VDSCSIInitiatorTargetLogicalUnitPath", "QLN_VDStoragePoolStorageExtent",
@@ -167,6 +117,7 @@ void ScenarioExpectation::_count() {
     std::vector<Volume> cached, caches;
     for (const Controller& c : _controllers) {
         for (const char* name : perController) _add(name);
+        for (const char* name : perControllerHost) _add(name);
         _add("QLN_VDStorageCapabilities", 2);  // the primordial pool's and the concrete pool's
         ++pools;
         for (const char* name : perInitiatorPort) _add(name, static_cast<int>(c.ports.size()));

@@ -4,6 +4,7 @@
 #include "CapturedMethodResult.h"
 #include "CmpiArgs.h"
 #include "CmpiData.h"
+#include "ModelClassLists.h"
 #include "ProviderTestSupport.h"
 #include "QLNVeldraProvider.h"
 
@@ -35,24 +36,6 @@ std::vector<CmpiObjectPath> namesOf(QLN::QLNVeldraProvider& provider, char const
 std::size_t countOf(QLN::QLNVeldraProvider& provider, char const* className) {
     return namesOf(provider, className).size();
 }
-
-// Classes every controller has exactly one of, whatever hangs behind it.
-char const* const perController[] = {
-    "QLN_VDArraySystem", "QLN_VDComputerSystemArraySystem", "QLN_VDSoftwareIdentityDriver",
-    "QLN_VDInstalledSoftwareIdentityDriver", "QLN_VDElementSoftwareIdentityDriver", "QLN_VDPhysicalPackage",
-    "QLN_VDPhysicalPackageArraySystem", "QLN_VDFirmware", "QLN_VDFirmwareArraySystem", "QLN_VDArraySystemFirmware",
-    "QLN_VDPortController", "QLN_VDPortControllerPCIDevice", "QLN_VDArraySystemPortController",
-    "QLN_VDPhysicalPackagePortController", "QLN_VDComputerSystemPortController", "QLN_VDProduct",
-    "QLN_VDProductPhysicalPackage", "QLN_VDArraySystemLocation", "QLN_VDPhysicalPackageArraySystemLocation",
-    "QLN_VDArrayController", "QLN_VDArraySystemArrayController", "QLN_VDArrayControllerPhysicalPackage",
-    "QLN_VDArrayControllerPhysicalPackageArrayController", "QLN_VDPhysicalPackageArrayControllerPhysicalPackage",
-    "QLN_VDArrayControllerLocation", "QLN_VDArrayControllerPhysicalPackageArrayControllerLocation",
-    "QLN_VDDAPort", "QLN_VDArraySystemDAPort", "QLN_VDSCSIProtocolEndpoint",
-    "QLN_VDArraySystemSCSIProtocolEndpoint", "QLN_VDDAPortSCSIProtocolEndpoint", "QLN_VDSCSIProtocolController",
-    "QLN_VDArraySystemSCSIProtocolController", "QLN_VDSCSIProtocolEndpointSCSIProtocolController",
-    "QLN_VDPrimordialPool", "QLN_VDPrimordialPoolStorageCapabilities", "QLN_VDArraySystemPrimordialPool",
-    "QLN_VDStoragePool", "QLN_VDStoragePoolStorageCapabilities", "QLN_VDArraySystemStoragePool",
-    "QLN_VDPrimordialPoolStoragePool"};
 
 } // namespace
 
