@@ -173,7 +173,10 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
             const CimInstance& instance = instances[i];
             if (!seen.insert(instance.path()).second) continue;
             const std::size_t before = out.str().size();
-            options.cls = _classes.find(request.nameSpace(), instance.className());
+            // One class answers with its own instances; the class is looked
+            // up again only when an instance of another one comes.
+            if (!options.cls || !CimName::equal(options.cls->name, instance.className()))
+                options.cls = _classes.find(request.nameSpace(), instance.className());
             out.open("VALUE.NAMEDINSTANCE");
             InstanceXml::writeInstanceName(out, instance.path(), _host);
             InstanceXml::writeInstance(out, instance, options);
