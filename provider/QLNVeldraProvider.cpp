@@ -113,8 +113,17 @@ void QLNVeldraProvider::associators(CmpiContext const& context, CmpiObjectPath c
                                     CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
                                     CmpiName const& resultRole, char const** properties,
                                     CmpiInstanceResult& result) {
-    ProviderLock lock(_providerMutex);
-    _managedInstances.associators(result, context, path, assocClass, resultClass, role, resultRole, properties);
+    CmpiManagedInstanceCollection::Associators answer;
+    {
+        ProviderLock lock(_providerMutex);
+        answer = _managedInstances.findAssociators(path, assocClass, resultClass, role, resultRole, properties);
+    }
+    // Far ends of other providers are asked for after the unlock: the object
+    // manager may route such a request back into this provider.
+    _managedInstances.resolveElsewhere(answer, context, properties);
+    for (auto const& each : answer.found) {
+        result.returnInstance(each);
+    }
 }
 
 void QLNVeldraProvider::associatorNames(CmpiContext const& context, CmpiObjectPath const& path,

@@ -6,6 +6,7 @@
 #include "CmpiManagedInstanceMultiAssociation.h"
 
 #include <algorithm>
+#include <cctype>
 #include <exception>
 #include <mutex>
 #include <unordered_set>
@@ -64,6 +65,13 @@ private:
     Logger const& _logger;
     std::vector<std::pair<CmpiName, bool>> _known;
 };
+
+std::string lowered(CmpiName const& name) {
+    std::string text(name.c_str());
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
 
 bool isAssociation(CmpiManagedInstance const* instance) {
     return dynamic_cast<CmpiManagedInstanceAssociation const*>(instance) != nullptr ||
@@ -178,6 +186,9 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     std::unique_ptr<Entry> replaced;
     {
         std::unique_lock lock(_mutex);
+        if (!entry->key.empty()) {
+            _servedClasses.insert(lowered(entry->className));
+        }
         auto existing = entry->key.empty() ? _byPath.end() : _byPath.find(entry->key);
         if (existing == _byPath.end()) {
             _entries.push_back(std::move(entry));
@@ -401,39 +412,51 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
     return ends;
 }
 
+CmpiManagedInstanceCollection::Associators CmpiManagedInstanceCollection::findAssociators(
+    CmpiObjectPath const& path, CmpiName const& assocClass, CmpiName const& resultClass,
+    CmpiName const& role, CmpiName const& resultRole, char const** properties) const {
+    Associators answer;
+    std::shared_lock lock(_mutex);
+    for (auto const& end : _farEnds(path, assocClass, resultClass, role, resultRole)) {
+        CmpiInstance instance;
+        if (end.entry) {
+            if (_instanceOf(end.entry, instance, "associators")) {
+                answer.found.push_back(instance.filtered(properties));
+            }
+        } else if (_servedClasses.count(lowered(end.path.getClassName())) == 0) {
+            answer.elsewhere.push_back(end.path);
+        }
+        // An end of one of our own classes that is not held is left out:
+        // its path still stands in References.
+    }
+    return answer;
+}
+
+void CmpiManagedInstanceCollection::resolveElsewhere(Associators& answer, CmpiContext const& context,
+                                                     char const** properties) const {
+    CmpiCpp::CmpiBroker const broker(QLNUtil::getBroker());
+    for (auto const& far : answer.elsewhere) {
+        if (broker.isNull()) {
+            break;
+        }
+        try {
+            answer.found.push_back(broker.getInstance(context, far, properties).filtered(properties));
+        } catch (std::exception const& e) {
+            _logger.warn("associators: far end %s not available: %s", far.str().c_str(), e.what());
+        }
+    }
+    answer.elsewhere.clear();
+}
+
 void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const& context,
                                                 CmpiObjectPath const& path,
                                                 CmpiName const& assocClass,
                                                 CmpiName const& resultClass, CmpiName const& role,
                                                 CmpiName const& resultRole,
                                                 char const** properties) const {
-    std::vector<CmpiInstance> found;
-    std::vector<CmpiObjectPath> elsewhere;
-    {
-        std::shared_lock lock(_mutex);
-        for (auto const& end : _farEnds(path, assocClass, resultClass, role, resultRole)) {
-            CmpiInstance instance;
-            if (!end.entry) {
-                elsewhere.push_back(end.path);
-            } else if (_instanceOf(end.entry, instance, "associators")) {
-                found.push_back(instance.filtered(properties));
-            }
-        }
-    }
-    // An end that another provider serves comes from the object manager,
-    // asked outside the lock; one that it cannot give is left out.
-    CmpiCpp::CmpiBroker const broker(QLNUtil::getBroker());
-    for (auto const& far : elsewhere) {
-        if (broker.isNull()) {
-            break;
-        }
-        try {
-            found.push_back(broker.getInstance(context, far, properties).filtered(properties));
-        } catch (std::exception const& e) {
-            _logger.warn("associators: far end %s not available: %s", far.str().c_str(), e.what());
-        }
-    }
-    for (auto const& each : found) {
+    Associators answer = findAssociators(path, assocClass, resultClass, role, resultRole, properties);
+    resolveElsewhere(answer, context, properties);
+    for (auto const& each : answer.found) {
         result.returnInstance(each);
     }
 }

@@ -28,6 +28,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace QLN {
@@ -77,6 +78,20 @@ public:
                      CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
                      CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
                      CmpiCpp::CmpiName const& resultRole, char const** properties) const;
+
+    // Associators in two steps, for a caller that holds a lock of its own
+    // across the first: the object manager may route a far-end request back
+    // into the same provider, so the second step, which asks it, must run
+    // with no provider lock held.
+    struct Associators {
+        std::vector<CmpiCpp::CmpiInstance> found;    // ends served here
+        std::vector<CmpiCpp::CmpiObjectPath> elsewhere; // ends another provider serves
+    };
+    Associators findAssociators(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
+                                CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                                CmpiCpp::CmpiName const& resultRole, char const** properties) const;
+    void resolveElsewhere(Associators& answer, CmpiCpp::CmpiContext const& context,
+                          char const** properties) const;
     void associatorNames(CmpiCpp::CmpiObjectPathResult& result, CmpiCpp::CmpiContext const& context,
                          CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
                          CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
@@ -115,7 +130,7 @@ private:
         std::vector<Reference> references; // reference keys, for associations only
     };
     // A far end that fits the filters: its path, and the entry serving it
-    // here (null when another provider serves it).
+    // here (null when it is not held here).
     struct FarEnd {
         CmpiCpp::CmpiObjectPath path;
         Entry const* entry;
@@ -143,6 +158,10 @@ private:
     // instance would be a tenth of the graph's memory.
     std::unordered_map<std::string_view, Entry*> _byPath;
     std::unordered_map<std::string, End> _byEnd;
+    // Lower-cased names of every class this collection has held. A missing
+    // end of one of them is gone (or never was), and asking the object
+    // manager would only route the request back here.
+    std::unordered_set<std::string> _servedClasses;
 };
 
 } // namespace QLN

@@ -23,6 +23,7 @@ public:
     // The locator requests the simulated controllers recorded so far.
     std::string locatorLog() const;
     std::string log() const { return _cimd->log(); }
+    int port() const { return _cimd->port(); }
 
 private:
     std::filesystem::path _dir;
