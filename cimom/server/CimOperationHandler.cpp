@@ -163,7 +163,8 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
                              CimOperationError::codeName(e.code()) + ": " + e.what());
             out.rollback(start);
             const std::string code = std::to_string(e.code());
-            out.empty("ERROR", {{"CODE", code}, {"DESCRIPTION", e.what()}});
+            // The description may quote the request, which need not be valid text.
+            out.empty("ERROR", {{"CODE", code}, {"DESCRIPTION", CimXmlWriter::xmlSafe(e.what())}});
         }
         out.close().close().close().close();
         exchange.responseBody = out.take();

@@ -63,6 +63,41 @@ std::string CimXmlWriter::escape(std::string_view content) {
     return w.take();
 }
 
+std::string CimXmlWriter::xmlSafe(std::string_view text) {
+    static constexpr char replacement[] = "\xEF\xBF\xBD";
+    auto allowed = [](char32_t c) {
+        return c == 0x9 || c == 0xA || c == 0xD || (c >= 0x20 && c <= 0xD7FF) || (c >= 0xE000 && c <= 0xFFFD) ||
+               (c >= 0x10000 && c <= 0x10FFFF);
+    };
+    std::string out;
+    out.reserve(text.size());
+    std::size_t i = 0;
+    while (i < text.size()) {
+        auto const lead = static_cast<unsigned char>(text[i]);
+        std::size_t length = lead < 0x80 ? 1 : (lead >> 5) == 0x6 ? 2 : (lead >> 4) == 0xE ? 3 : (lead >> 3) == 0x1E ? 4 : 0;
+        char32_t c = length == 1 ? lead : length == 2 ? lead & 0x1F : length == 3 ? lead & 0x0F : lead & 0x07;
+        bool valid = length != 0 && i + length <= text.size();
+        for (std::size_t k = 1; valid && k < length; ++k) {
+            auto const next = static_cast<unsigned char>(text[i + k]);
+            valid = (next & 0xC0) == 0x80;
+            c = (c << 6) | (next & 0x3F);
+        }
+        // The shortest form only: an overlong sequence could hide a '<'.
+        static constexpr char32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+        if (valid && c >= smallest[length] && allowed(c)) {
+            out.append(text.substr(i, length));
+            i += length;
+        } else if (length == 1) {
+            out += ' ';  // a control character, as the escaper would write it
+            ++i;
+        } else {
+            out += replacement;
+            i += valid ? length : 1;
+        }
+    }
+    return out;
+}
+
 void CimXmlWriter::_startTag(std::string_view tag, const Attributes& attributes) {
     _out += '<';
     _out += tag;

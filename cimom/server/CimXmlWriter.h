@@ -66,6 +66,11 @@ public:
     bool balanced() const { return _open.empty(); }
 
     static std::string escape(std::string_view content);
+    // The text with every byte sequence that is not UTF-8, and every
+    // character that XML 1.0 does not allow in a document, replaced by
+    // U+FFFD (a control character by a space). For text that comes from a request and goes back into an
+    // answer, such as an error's description.
+    static std::string xmlSafe(std::string_view text);
 
 private:
     void _startTag(std::string_view tag, const Attributes& attributes);

@@ -48,6 +48,8 @@ bool PasswordFile::verify(const std::string& user, const std::string& password) 
     auto data = std::make_unique<crypt_data>();
     std::memset(data.get(), 0, sizeof(crypt_data));
     const char* result = crypt_r(password.c_str(), setting.c_str(), data.get());
+    // crypt_r reads up to the first NUL: "right\0x" would pass as "right".
+    if (password.find('\0') != std::string::npos) return false;
     if (found == _users.end() || !result || result[0] == '*') return false;
     size_t len = std::strlen(result);
     return len == found->second.size() && CRYPTO_memcmp(result, found->second.data(), len) == 0;

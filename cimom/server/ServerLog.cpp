@@ -24,6 +24,23 @@ bool ServerLog::parseLevel(const std::string& text, Level& level) {
 
 bool ServerLog::enabled(Level level) { return static_cast<int>(level) <= currentLevel.load(); }
 
+// Log lines carry text from requests (headers, key values): a CR or LF in
+// them must not start a line of its own that a reader would take for ours.
+std::string ServerLog::escaped(const std::string& text) {
+    std::string out;
+    out.reserve(text.size());
+    for (unsigned char c : text) {
+        if (c == '\n') out += "\\n";
+        else if (c == '\r') out += "\\r";
+        else if (c < 0x20 || c == 0x7f) {
+            char hex[8];
+            std::snprintf(hex, sizeof hex, "\\x%02x", c);
+            out += hex;
+        } else out += static_cast<char>(c);
+    }
+    return out;
+}
+
 void ServerLog::_write(Level level, const std::string& line) {
     if (!enabled(level)) return;
     const char* name = "";
@@ -39,7 +56,7 @@ void ServerLog::_write(Level level, const std::string& line) {
     char stamp[32];
     std::strftime(stamp, sizeof stamp, "%Y-%m-%dT%H:%M:%SZ", &tm);
     std::lock_guard<std::mutex> lock(writeMutex);
-    std::fprintf(stderr, "%s veldra-cimd %s %s\n", stamp, name, line.c_str());
+    std::fprintf(stderr, "%s veldra-cimd %s %s\n", stamp, name, escaped(line).c_str());
 }
 
 void ServerLog::error(const std::string& line) { _write(Level::Error, line); }

@@ -16,6 +16,8 @@ public:
     static void warn(const std::string& line);
     static void info(const std::string& line);
     static void debug(const std::string& line);
+    // Control characters as escapes, so that one call is one line.
+    static std::string escaped(const std::string& text);
 
 private:
     static void _write(Level level, const std::string& line);

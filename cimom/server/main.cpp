@@ -49,6 +49,10 @@ struct Options {
     size_t maxHeaders = 64;
     int maxDepth = 32;
     int timeout = 30;
+    int idle = 5;
+    size_t maxConnections = 512;
+    size_t maxPerClient = 64;
+    int shutdownGrace = 10;
 };
 
 }  // namespace
@@ -73,7 +77,11 @@ int main(int argc, char** argv) {
     app.add_option("--max-body", o.maxBody, "largest request body in bytes")->check(CLI::Range(1024, 1 << 30));
     app.add_option("--max-headers", o.maxHeaders, "most request headers")->check(CLI::Range(8, 1024));
     app.add_option("--max-depth", o.maxDepth, "deepest XML nesting")->check(CLI::Range(8, 1024));
-    app.add_option("--timeout", o.timeout, "read and write timeout in seconds")->check(CLI::Range(1, 3600));
+    app.add_option("--timeout", o.timeout, "seconds to receive a whole request, and to send an answer")->check(CLI::Range(1, 3600));
+    app.add_option("--idle-timeout", o.idle, "seconds an open connection may wait for its next request")->check(CLI::Range(1, 3600));
+    app.add_option("--max-connections", o.maxConnections, "most connections open at once")->check(CLI::Range(1, 100000));
+    app.add_option("--max-connections-per-client", o.maxPerClient, "most connections open at once from one address")->check(CLI::Range(1, 100000));
+    app.add_option("--shutdown-grace", o.shutdownGrace, "seconds running requests may take to finish at shutdown")->check(CLI::Range(0, 3600));
     CLI11_PARSE(app, argc, argv);
 
     ServerLog::Level level = ServerLog::Level::Info;
@@ -154,6 +162,10 @@ int main(int argc, char** argv) {
     settings.maxBodyBytes = o.maxBody;
     settings.maxHeaders = o.maxHeaders;
     settings.timeoutSeconds = o.timeout;
+    settings.idleSeconds = o.idle;
+    settings.maxConnections = o.maxConnections;
+    settings.maxConnectionsPerClient = o.maxPerClient;
+    settings.shutdownGraceSeconds = o.shutdownGrace;
     settings.users = users ? &*users : nullptr;
 
     int port = 0;
@@ -189,8 +201,17 @@ int main(int argc, char** argv) {
         ServerLog::info(std::string("received ") + (received == SIGTERM ? "SIGTERM" : "SIGINT") + ", shutting down");
         server->stop();
     });
-    server->run();
-    // run() returns once stopped and the worker pool has drained.
+    bool const drained = server->run();
+    if (!drained) {
+        // A provider call that never returns must not keep the process: its
+        // thread and the provider's lock cannot be freed, so nothing is torn down.
+        std::string stuck;
+        for (const auto& request : server->stuckRequests()) stuck += (stuck.empty() ? "" : "; ") + request;
+        ServerLog::error("shutdown: gave up after " + std::to_string(o.shutdownGrace) +
+                         " s waiting for requests still running: " + stuck);
+        std::cerr.flush();
+        std::_Exit(3);
+    }
     if (waiter.joinable()) {
         // A stop that did not come from a signal still has to free the waiter.
         pthread_kill(waiter.native_handle(), SIGTERM);

@@ -8,6 +8,7 @@
 #include "ClassRepository.h"
 #include "CimHttpExchange.h"
 #include "CimOperationHandler.h"
+#include "CimXmlWriter.h"
 #include "InstanceOperations.h"
 #include "ProviderManager.h"
 #include "ServerLog.h"
@@ -80,6 +81,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         pugi::xml_document doc;
         if (!doc.load_buffer(exchange.responseBody.data(), exchange.responseBody.size())) {
             std::fprintf(stderr, "malformed answer: %s\n", exchange.responseBody.c_str());
+            std::abort();
+        }
+        // pugixml does not check characters; a client's parser does.
+        if (CimXmlWriter::xmlSafe(exchange.responseBody) != exchange.responseBody) {
+            std::fprintf(stderr, "answer holds text that is not XML: %s\n", exchange.responseBody.c_str());
             std::abort();
         }
     } else if (exchange.cimError.empty() && exchange.status != 500) {
