@@ -3,6 +3,7 @@
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDDiskDrive.h"
 #include "QLN_VDStorageVolume.h"
+#include "QLN_VeldraIndication.h"
 #include "CmpiBroker.h"
 #include "CmpiObjectPath.h"
 #include "CmpiStatus.h"
@@ -20,6 +21,8 @@ std::uint32_t const methodNotFound = 17;
 char const* const diskDriveClass = "QLN_VDDiskDrive";
 char const* const storageVolumeClass = "QLN_VDStorageVolume";
 char const* const arraySystemClass = "QLN_VDArraySystem";
+char const* const heartbeatNameSpace = "root/mwq";
+int const heartbeatEvent = 100;
 int const physlocHandle = 255;
 
 // Holds the provider mutex for one scope, also when an exception passes.
@@ -217,10 +220,17 @@ std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& p
     return _invokeOn<QLN_VDArraySystem>(instance, method, in);
 }
 
-std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const&) {
+std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const& context) {
     _logger.info("::_backgroundWorker");
     if (_indicationsEnabled) {
         _workerEnteredWithIndications = true;
+        // Before the lock and before any controller: a subscriber hears from
+        // a running system even when no hardware changes.
+        if (_heartbeatEnabled) {
+            _logger.info("Send heartbeat indication");
+            QLN_VeldraIndication heartbeat(_logger, heartbeatNameSpace);
+            heartbeat.sendIndication(heartbeatEvent, 0, 0, "", "", "", "", "", "", 0, "", "", context);
+        }
     }
     ProviderLock lock(_providerMutex);
     // The reconcile steps join with the controller model; a pass has nothing to compare yet.

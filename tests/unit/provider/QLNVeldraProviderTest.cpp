@@ -1,11 +1,15 @@
 // The provider object on its own: forwarding under the mutex, the one status
 // it throws, method dispatch and the indication switch.
+#include "Broker.h"
+#include "BrokerContext.h"
 #include "CapturedMethodResult.h"
 #include "CmpiArgs.h"
 #include "CmpiStatus.h"
 #include "ProviderTestSupport.h"
 #include "QLNUtil.h"
 #include "QLNVeldraProvider.h"
+#include "MemoryIndicationSink.h"
+#include "ObjectRegistry.h"
 #include "QLN_AutoStartVeldra.h"
 
 #include <gtest/gtest.h>
@@ -118,4 +122,47 @@ TEST(QLN_AutoStartVeldra, CarriesTheWorkerScheduleAndTheStartingHost) {
     EXPECT_EQ(instance.getProperty("WorkerPollIntervalStagger").getUint16(), 18);
     EXPECT_EQ(instance.getProperty("ProviderStartedHostname").getString(), "first-host");
     EXPECT_EQ(instance.getProperty("WorkerMethodNameSpace").getString(), "root/mwq");
+}
+
+// Catches: a heartbeat sent before any filter was activated, one sent
+// although the framework's switch is off, and one that never reaches the
+// object manager.
+TEST(QLNVeldraProvider, HeartbeatGoesOutWhenIndicationsAndTheSwitchAreOn) {
+    Broker broker;
+    ObjectRegistry::Scope scope(broker.registry());
+    auto sink = std::make_shared<MemoryIndicationSink>();
+    broker.setIndicationSink(sink);
+    CmpiContext const context(broker.newContext("root/mwq", 0)->cmpi());
+    auto const pass = [&](QLN::QLNVeldraProvider& provider) {
+        QLN::CapturedMethodResult result;
+        provider.invokeMethod(context, pathOf("QLN_AutoStartVeldra"), CmpiName("PerformWork"), CmpiCpp::CmpiArgs(),
+                              result);
+    };
+
+    ::setenv("VELDRA_HEARTBEAT", "true", 1);
+    QLN::FrameworkConfig::reload();
+    auto provider = makeProvider();
+    QLN::QLNUtil::setBroker(CmpiBroker(broker.cmpi()));
+    pass(*provider);
+    EXPECT_EQ(sink->count(), 0u) << "no filter activated yet";
+    provider->enableIndications();
+    pass(*provider);
+    pass(*provider);
+    ASSERT_EQ(sink->count(), 2u);
+    auto const beats = sink->delivered();
+    EXPECT_EQ(beats[0].nameSpace, "root/mwq");
+    EXPECT_EQ(beats[0].indication.className(), "QLN_VeldraIndication");
+    EXPECT_EQ(beats[0].indication.property("Summary")->asString().rfind("Veldra provider heartbeat ", 0), 0u);
+    EXPECT_NE(beats[0].indication.property("IndicationIdentifier")->asString(),
+              beats[1].indication.property("IndicationIdentifier")->asString());
+
+    ::setenv("VELDRA_HEARTBEAT", "false", 1);
+    QLN::FrameworkConfig::reload();
+    auto quiet = makeProvider();
+    quiet->enableIndications();
+    pass(*quiet);
+    EXPECT_EQ(sink->count(), 2u) << "the framework's heartbeat switch is off";
+    ::unsetenv("VELDRA_HEARTBEAT");
+    QLN::FrameworkConfig::reload();
+    QLN::QLNUtil::setBroker(CmpiBroker());
 }
