@@ -3,6 +3,7 @@
 // text file beside the scenario ("<scenario>.locate"), one line a request.
 // It is kept apart from the scenario so that a request does not look like a
 // change of the hardware.
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -14,4 +15,7 @@ public:
     static bool append(std::string const& scenarioPath, std::string const& line);
     // All lines so far; empty when there is no file yet.
     static std::vector<std::string> read(std::string const& scenarioPath);
+
+    // Size at which the log is rotated.
+    static constexpr std::size_t maxBytes = 256 * 1024;
 };

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <limits>
 #include <optional>
+#include <filesystem>
 #include <set>
 #include <sstream>
 #include <type_traits>
@@ -327,7 +328,15 @@ VeldraScenario readScenario(YAML::Node const& root, Context const& ctx) {
     if (!list.IsSequence()) ctx.fail(list, "controllers", "expected a list");
     VeldraScenario scenario;
     int i = 0;
-    for (auto const& item : list) scenario.controllers.push_back(readController(item, ctx.child("controllers[" + std::to_string(i++) + "]")));
+    std::set<std::string> serials;
+    for (auto const& item : list) {
+        Context here = ctx.child("controllers[" + std::to_string(i++) + "]");
+        scenario.controllers.push_back(readController(item, here));
+        // The serial number names the array system: two alike would make one of them vanish.
+        std::string const& serial = scenario.controllers.back().data->serialNumber;
+        if (!serial.empty() && !serials.insert(serial).second)
+            here.fail(item, "serialNumber", "serial number '" + serial + "' is used twice");
+    }
     return scenario;
 }
 
@@ -361,6 +370,10 @@ VeldraScenario ScenarioParser::parseText(std::string const& text, std::string co
 }
 
 VeldraScenario ScenarioParser::parseFile(std::string const& path) {
+    // Opening a FIFO or a device would wait or read for ever.
+    std::error_code ec;
+    if (std::filesystem::exists(path, ec) && !std::filesystem::is_regular_file(path, ec))
+        throw ScenarioError(path + ": not a regular file");
     std::ifstream in(path, std::ios::binary);
     if (!in) throw ScenarioError(path + ": cannot open the scenario file");
     std::ostringstream text;

@@ -3,12 +3,14 @@
 #include "ScenarioParser.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -37,17 +39,33 @@ bool numbers(std::string const& text, size_t count, std::vector<long long>& out)
 
 ScenarioEditor::ScenarioEditor(std::string path) : _path(std::move(path)) {
     if (_path.empty()) throw SimCommandError("no scenario file: give --scenario or set VELDRA_SCENARIO");
+    std::error_code ec;
+    if (!std::filesystem::is_regular_file(_path, ec)) throw SimCommandError(_path + ": not a regular file");
+    // The lock lives beside the file, since every save replaces the file itself.
+    std::string const lockPath = std::filesystem::weakly_canonical(_path, ec).string() + ".lock";
+    _lock = ::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (_lock < 0 || ::flock(_lock, LOCK_EX) != 0) {
+        int saved = errno;
+        if (_lock >= 0) ::close(_lock);
+        throw SimCommandError("cannot lock " + lockPath + ": " + std::strerror(saved));
+    }
     std::ifstream in(_path, std::ios::binary);
-    if (!in) throw SimCommandError(_path + ": cannot open the scenario file");
+    if (!in) {
+        ::close(_lock);
+        throw SimCommandError(_path + ": cannot open the scenario file");
+    }
     std::ostringstream text;
     text << in.rdbuf();
     try {
         ScenarioParser::parseText(text.str(), _path);
         _root = YAML::Load(text.str());
     } catch (ScenarioError const& e) {
+        ::close(_lock);
         throw SimCommandError(std::string("the scenario is not valid: ") + e.what());
     }
 }
+
+ScenarioEditor::~ScenarioEditor() { ::close(_lock); }
 
 long long ScenarioEditor::toInteger(YAML::Node const& node, long long fallback) {
     if (!node.IsDefined() || !ScenarioEditor::isScalar(node)) return fallback;
@@ -162,16 +180,23 @@ void ScenarioEditor::save() {
     } catch (ScenarioError const& e) {
         throw SimCommandError(std::string("refused, the change would make the scenario invalid: ") + e.what());
     }
-    std::string temp = _path + ".XXXXXX";
+    writeAtomically(_path, text);
+}
+
+void ScenarioEditor::writeAtomically(std::string const& path, std::string const& text) {
+    std::error_code ec;
+    std::string target = std::filesystem::weakly_canonical(path, ec).string();
+    if (ec) target = path;
+    std::string temp = target + ".XXXXXX";
     int fd = ::mkstemp(temp.data());
-    if (fd < 0) throw SimCommandError("cannot write beside " + _path + ": " + std::strerror(errno));
+    if (fd < 0) throw SimCommandError("cannot write beside " + target + ": " + std::strerror(errno));
     struct stat st {};
-    if (::stat(_path.c_str(), &st) == 0) ::fchmod(fd, st.st_mode & 07777);
+    ::fchmod(fd, ::stat(target.c_str(), &st) == 0 ? st.st_mode & 07777 : 0644);
     bool ok = ::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()) && ::fsync(fd) == 0;
     ok = ::close(fd) == 0 && ok;
-    if (!ok || ::rename(temp.c_str(), _path.c_str()) != 0) {
+    if (!ok || ::rename(temp.c_str(), target.c_str()) != 0) {
         int saved = errno;
         ::unlink(temp.c_str());
-        throw SimCommandError("cannot replace " + _path + ": " + std::strerror(saved));
+        throw SimCommandError("cannot replace " + target + ": " + std::strerror(saved));
     }
 }

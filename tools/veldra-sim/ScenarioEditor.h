@@ -10,8 +10,13 @@
 
 class ScenarioEditor {
 public:
-    // Reads the file; it must be a valid scenario.
+    // Reads the file; it must be a valid scenario. Holds the scenario's
+    // lock ("<file>.lock") until destroyed, so that two editors never lose
+    // each other's change.
     explicit ScenarioEditor(std::string path);
+    ~ScenarioEditor();
+    ScenarioEditor(ScenarioEditor const&) = delete;
+    ScenarioEditor& operator=(ScenarioEditor const&) = delete;
 
     struct Place {
         int controller = 0; // 1-based
@@ -40,6 +45,10 @@ public:
     // (temporary file, fsync, rename). Throws without touching the file.
     void save();
 
+    // Replaces `path` with `text`: temporary file beside it, fsync, rename.
+    // A symbolic link stays a link: the file it points at is replaced.
+    static void writeAtomically(std::string const& path, std::string const& text);
+
     static long long toInteger(YAML::Node const& node, long long fallback);
     // Type tests that are false for a missing key (yaml-cpp throws there).
     static bool isSequence(YAML::Node const& node) { return node.IsDefined() && node.IsSequence(); }
@@ -51,5 +60,6 @@ private:
     YAML::Node _view(int controller, char const* key);
 
     std::string _path;
+    int _lock = -1;
     YAML::Node _root;
 };

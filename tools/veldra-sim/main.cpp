@@ -19,22 +19,6 @@
 #include <iostream>
 #include <unistd.h>
 
-namespace {
-
-void writeAtomically(std::string const& path, std::string const& text) {
-    std::string temp = path + ".XXXXXX";
-    int fd = ::mkstemp(temp.data());
-    if (fd < 0) throw SimCommandError("cannot write " + path);
-    ::fchmod(fd, 0644);
-    bool ok = ::write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()) && ::fsync(fd) == 0;
-    ok = ::close(fd) == 0 && ok;
-    if (!ok || ::rename(temp.c_str(), path.c_str()) != 0) {
-        ::unlink(temp.c_str());
-        throw SimCommandError("cannot write " + path);
-    }
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     CLI::App app{"Shows and changes the simulated Veldra hardware described by a scenario file."};
@@ -164,7 +148,7 @@ int main(int argc, char** argv) {
             } catch (ScenarioError const& e) {
                 throw SimCommandError(std::string("generated scenario is invalid: ") + e.what());
             }
-            writeAtomically(output, text);
+            ScenarioEditor::writeAtomically(output, text);
         };
     });
 

@@ -1,6 +1,10 @@
 // Scenario files: the shipped ones read as described, bad ones are refused
 // with the field and the line, and fail lists make exactly those getters fail.
 #include "LocatorLog.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
 #include "ScenarioParser.h"
 #include "SimulatedControllerMRA.h"
 #include "StorageTestSupport.h"
@@ -84,6 +88,8 @@ TEST(BadScenarios, AreRefusedNamingTheFieldAndTheLine) {
         {"controllers: [\n", {"t.yaml:", "not valid YAML"}},
         {"controllers:\n  - enclosures:\n      - {enclosureBoxNumber: 1, paths: [{box: 1}]}\n", {"'port'"}},
         {"", {"empty"}},
+        // Before: accepted, and one of the two array systems disappeared.
+        {"controllers:\n  - serialNumber: A\n  - serialNumber: A\n", {"t.yaml:3:", "controllers[1]", "used twice"}},
         // An alias would let a few lines multiply into thousands of disks.
         {"controllers:\n  - physicalDisks: &d [{id: 1}]\n  - physicalDisks: *d\n", {"t.yaml:3:", "aliases"}},
     };
@@ -158,6 +164,31 @@ TEST(Locators, RequestsAreRecordedBesideTheScenarioOrFailWhenTold) {
     EXPECT_NE(lines[0].find("controller 1 all disks duration 30"), std::string::npos) << lines[0];
     EXPECT_NE(lines[1].find("controller 1 disks D1,box3:bay4 duration 15"), std::string::npos) << lines[1];
     EXPECT_EQ(readText(path), before) << "the scenario itself is not touched";
+}
+
+// Before: a client calling Identify in a loop grew the file without end.
+TEST(Locators, TheLogIsRotatedAtItsCap) {
+    TempDir dir;
+    std::string path = dir.file("s.yaml");
+    std::string const line(200, 'x');
+    for (std::size_t written = 0; written < 3 * LocatorLog::maxBytes; written += line.size() + 1)
+        ASSERT_TRUE(LocatorLog::append(path, line));
+    EXPECT_LE(std::filesystem::file_size(LocatorLog::sidecarPath(path)), LocatorLog::maxBytes);
+    EXPECT_LE(std::filesystem::file_size(LocatorLog::sidecarPath(path) + ".1"), LocatorLog::maxBytes + line.size() + 1);
+    EXPECT_FALSE(LocatorLog::read(path).empty());
+}
+
+// Before: start-up waited for ever on a FIFO, without a word.
+TEST(BadScenarios, AFileThatIsNotRegularIsRefusedAtOnce) {
+    TempDir dir;
+    std::string fifo = dir.file("s.yaml");
+    ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    try {
+        ScenarioParser::parseFile(fifo);
+        ADD_FAILURE() << "a FIFO was read as a scenario";
+    } catch (ScenarioError const& e) {
+        EXPECT_NE(std::string(e.what()).find("not a regular file"), std::string::npos) << e.what();
+    }
 }
 
 } // namespace

@@ -172,9 +172,45 @@ TEST_F(VeldraSimTest, RefusedCommandsLeaveTheFileByteForByte) {
         EXPECT_FALSE(_errors.empty()) << "no message for: " << args;
         EXPECT_EQ(readText(_path), before) << args;
     }
-    for (auto const& entry : std::filesystem::directory_iterator(std::filesystem::path(_path).parent_path()))
-        EXPECT_EQ(entry.path().filename().string().find("scenario.yaml."), std::string::npos)
-            << "left a temporary file: " << entry.path();
+    for (auto const& entry : std::filesystem::directory_iterator(std::filesystem::path(_path).parent_path())) {
+        std::string const name = entry.path().filename().string();
+        if (name == "scenario.yaml.lock") continue;  // the editors' lock stays
+        EXPECT_EQ(name.find("scenario.yaml."), std::string::npos) << "left a temporary file: " << entry.path();
+    }
+}
+
+// Before: editors running at once read the same file and the last write won,
+// losing the others' changes.
+TEST_F(VeldraSimTest, EditorsAtOnceLoseNoChange) {
+    std::vector<std::string> const serials = {"MD0000", "MD0001", "MD0002"};
+    std::string const sim = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + _path;
+    std::string commands;
+    for (auto const& serial : serials) {
+        commands += sim + " fail-disk " + serial + " >/dev/null 2>&1 &\n";
+        commands += sim + " set disk:" + serial + " totalPowerOnHours 4321 >/dev/null 2>&1 &\n";
+    }
+    commands += "wait\n";
+    EXPECT_EQ(moved([&] { ASSERT_EQ(std::system(commands.c_str()), 0); }), "disks significant ");
+    for (auto const& serial : serials) {
+        SCOPED_TRACE(serial);
+        EXPECT_EQ(disk(serial).getStatus(), PD_STATUS_FAILED);
+    }
+    std::string const text = readText(_path);
+    int hours = 0;
+    for (size_t at = text.find("totalPowerOnHours: 4321"); at != std::string::npos;
+         at = text.find("totalPowerOnHours: 4321", at + 1))
+        ++hours;
+    EXPECT_EQ(hours, 3) << text;
+}
+
+// Before: the link was replaced by a plain file and the target kept the old text.
+TEST_F(VeldraSimTest, EditsGoThroughASymbolicLink) {
+    std::string const link = _dir.file("link.yaml");
+    std::filesystem::create_symlink(_path, link);
+    std::string command = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + link + " fail-disk MD0001";
+    EXPECT_EQ(moved([&] { ASSERT_EQ(std::system(command.c_str()), 0); }), "disks significant ");
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(disk("MD0001").getStatus(), PD_STATUS_FAILED);
 }
 
 TEST_F(VeldraSimTest, ShowListsHardwareAndLocatorRequests) {
