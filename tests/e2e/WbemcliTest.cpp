@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <thread>
+
 #include <csignal>
 #include <unistd.h>
 
@@ -160,4 +163,21 @@ TEST_F(Wbemcli, VeldraProviderLoadsAndUnloads) {
     EXPECT_NE(r.out.find("QLN_AutoStartVeldra.ProviderName="), std::string::npos) << r.out;
     EXPECT_EQ(cimd.stop(), 0);
     EXPECT_NE(cimd.log().find("dxtor() unloading provider"), std::string::npos) << cimd.log();
+}
+
+// Before: SIGTERM waited for ever on a provider call that never returned.
+TEST_F(Wbemcli, ShutdownGivesUpOnAStuckProviderCallAndSaysWhich) {
+    std::vector<std::string> a = args();
+    a.insert(a.end(), {"--shutdown-grace", "1"});
+    CimdProcess cimd(a);
+    const std::string url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
+    std::thread stuck([&] { runCommand("timeout 20 wbemcli cm '" + url + ":Test_Disk.Name=\"d1\"' Hang"); });
+    for (int i = 0; i < 100 && readFile(trace).find("Hang") == std::string::npos; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(cimd.stop(), 3);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+    EXPECT_NE(cimd.log().find("waiting for requests still running: Hang on root%2Ftest"), std::string::npos)
+        << cimd.log();
+    stuck.join();
 }

@@ -31,6 +31,7 @@
 #include <pthread.h>
 #include <stdarg.h>
 #include <stdio.h>
+#include <unistd.h>
 #include <stdlib.h>
 #include <string.h>
 #include <strings.h>
@@ -457,6 +458,11 @@ static CMPIStatus invokeMethod(CMPIMethodMI* mi, const CMPIContext* ctx, const C
             return status(CMPI_RC_ERR_FAILED, "relayed Identify lost its out argument");
         }
         ret.uint32 = r.value.uint32 + 1;
+    } else if (sameName(method, "Hang")) {
+        trace("Hang");
+        for (;;) {
+            pause();
+        }
     } else if (sameName(method, "CountDisks")) {
         const char* ns = chars(op->ft->getNameSpace(op, NULL));
         CMPIObjectPath* cls = broker->eft->newObjectPath(broker, ns, DISK_CLASS, NULL);
