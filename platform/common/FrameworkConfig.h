@@ -15,6 +15,9 @@
 //   VELDRA_WORKER_INTERVAL_MS, VELDRA_WORKER_STAGGER_MS
 //                           shorten the autostart schedule for tests and demos
 //   VELDRA_TRAP_DESTINATIONS  comma-separated host[:port] list for SNMP traps
+//                           (port 162 by default; none configured: no traps)
+//   VELDRA_TRAP_COMMUNITY   SNMPv2c community of the traps (default "public")
+//   VELDRA_INDICATION_DB    the indication database file (default: the shipped one)
 //   VELDRA_HOSTNAME         reported host name instead of the system's (tests, demos)
 #include <optional>
 #include <string>

@@ -1,7 +1,8 @@
 #pragma once
 // snmptrapd started for one test on a free loopback UDP port, printing each
-// notification on one line with numeric OIDs, and stopped at the end. It is
-// the receiver an operator would run, so the tests see what they would.
+// notification on one line, and stopped at the end. It is the receiver an
+// operator would run, so the tests see what they would: numeric OIDs
+// without MIBs, names ("QLN-VELDRA-MIB::zrqHoTrapFlags") with them.
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -21,24 +22,24 @@
 class TrapReceiver {
 public:
     struct Variable {
-        std::string oid;    // numeric, with its leading dot: ".1.3.6.1.2.1.1.5"
+        std::string oid;    // ".1.3.6.1.2.1.1.5", or "SNMPv2-MIB::sysName" with MIBs loaded
         std::string type;   // as snmptrapd names it: "INTEGER", "STRING", "OID", "Timeticks"
         std::string value;  // quotes of strings removed
     };
     using Trap = std::vector<Variable>;
 
     // mibDirs: folders to load every MIB from (snmptrapd -M ... -m ALL);
-    // empty loads none.
+    // empty loads none and prints OIDs as numbers.
     explicit TrapReceiver(std::string const& mibDirs = "") {
         char pattern[] = "/tmp/veldra-traps-XXXXXX";
         if (mkdtemp(pattern) == nullptr) throw std::runtime_error("mkdtemp failed");
         _dir = pattern;
         _port = freeUdpPort();
         std::string const out = _dir + "/traps.log";
-        std::vector<std::string> args = {"snmptrapd", "-f", "-Lo", "-On", "-C", "-c", "/dev/null",
+        std::vector<std::string> args = {"snmptrapd", "-f", "-Lo", "-C", "-c", "/dev/null",
                                          "--disableAuthorization=yes", "-F", "TRAP %v\n"};
         if (mibDirs.empty()) {
-            args.insert(args.end(), {"-m", ""});
+            args.insert(args.end(), {"-On", "-m", ""});
         } else {
             args.insert(args.end(), {"-M", mibDirs, "-m", "ALL"});
         }
