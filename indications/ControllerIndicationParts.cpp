@@ -6,8 +6,9 @@ namespace {
 char const* const controllerPrefix = "Veldra Controller:";
 } // namespace
 
-void setIdentity(IndicationFrame& frame, std::string const& controllerText, std::string const& firmwareVersion,
-                 std::string const& manufacturer, std::string const& serialNumber, std::string const& model) {
+void setIdentity(IndicationFrame& frame, std::string const& controllerText,
+                 std::string const& firmwareVersion, std::string const& manufacturer,
+                 std::string const& serialNumber, std::string const& model) {
     frame.setPresent(&MWAlertIndication::setHWLogicalLocation, controllerText);
     frame.setPresent(&MWAlertIndication::setHWFirmwareVersion, firmwareVersion, controllerPrefix);
     frame.setPresent(&MWAlertIndication::setHWManufacturer, manufacturer);

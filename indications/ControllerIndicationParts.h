@@ -7,8 +7,9 @@
 namespace QLN::ControllerIndicationParts {
 
 // The identity setters in their order, each only when its text is there.
-void setIdentity(IndicationFrame& frame, std::string const& controllerText, std::string const& firmwareVersion,
-                 std::string const& manufacturer, std::string const& serialNumber, std::string const& model);
+void setIdentity(IndicationFrame& frame, std::string const& controllerText,
+                 std::string const& firmwareVersion, std::string const& manufacturer,
+                 std::string const& serialNumber, std::string const& model);
 
 // Logs the variables, then adds the three arrays when the change name is there.
 void addVariables(Logger& logger, CmpiCpp::CmpiInstance& instance, std::string const& changeName,

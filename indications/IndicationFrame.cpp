@@ -40,7 +40,8 @@ TrapVariable TrapVariable::ofNumber(std::string property, std::vector<std::uint3
     return variable;
 }
 
-TrapVariable TrapVariable::ofText(std::string property, std::vector<std::uint32_t> oid, std::string value) {
+TrapVariable TrapVariable::ofText(std::string property, std::vector<std::uint32_t> oid,
+                                  std::string value) {
     TrapVariable variable;
     variable.property = std::move(property);
     variable.oid = std::move(oid);
@@ -61,7 +62,8 @@ std::vector<std::uint32_t> enterpriseOid(std::vector<std::uint32_t> const& tail)
     return oid;
 }
 
-IndicationFrame::IndicationFrame(Logger& logger, std::string const& nameSpace, std::string const& className)
+IndicationFrame::IndicationFrame(Logger& logger, std::string const& nameSpace,
+                                 std::string const& className)
     : _logger(logger), _nameSpace(nameSpace), _className(className) {}
 
 bool IndicationFrame::begin(IndicationDB const& db, int eventNumber, char const* sendLine) {
@@ -83,13 +85,15 @@ void IndicationFrame::setAlertingElement(std::string const& pathText) {
     _alert->setAlertingElementFormat(2);
 }
 
-void IndicationFrame::setPresent(TextSetter setter, std::string const& text, std::string const& prefix) {
+void IndicationFrame::setPresent(TextSetter setter, std::string const& text,
+                                 std::string const& prefix) {
     if (!text.empty()) {
         ((*_alert).*setter)(prefix + text);
     }
 }
 
-void IndicationFrame::setFromRecord(CmpiCpp::CmpiContext const& context, std::string const& summary) {
+void IndicationFrame::setFromRecord(CmpiCpp::CmpiContext const& context,
+                                    std::string const& summary) {
     _alert->setDescription(_record.description);
     _alert->setEventID(_record.eventID);
     _alert->setAlertType(_record.alertType);
@@ -103,7 +107,8 @@ void IndicationFrame::setFromRecord(CmpiCpp::CmpiContext const& context, std::st
     _alert->setNetworkIPAddress(context);
 }
 
-void IndicationFrame::addVariables(CmpiCpp::CmpiInstance& instance, std::vector<AlertVariable> const& variables) {
+void IndicationFrame::addVariables(CmpiCpp::CmpiInstance& instance,
+                                   std::vector<AlertVariable> const& variables) {
     if (variables.empty() || variables.front().value.empty()) {
         return;
     }
@@ -123,7 +128,8 @@ void IndicationFrame::addVariables(CmpiCpp::CmpiInstance& instance, std::vector<
 
 void IndicationFrame::_append(CmpiCpp::CmpiInstance& instance, TrapVariable const& variable) {
     varbind record{};
-    record.oidLength = static_cast<std::int32_t>(std::min<std::size_t>(variable.oid.size(), std::size(record.oid)));
+    record.oidLength = static_cast<std::int32_t>(
+        std::min<std::size_t>(variable.oid.size(), std::size(record.oid)));
     std::copy_n(variable.oid.begin(), record.oidLength, record.oid);
     if (variable.text) {
         instance.addProperty(variable.property, variable.textValue.c_str());
@@ -135,8 +141,8 @@ void IndicationFrame::_append(CmpiCpp::CmpiInstance& instance, TrapVariable cons
         std::size_t length = variable.textValue.size();
         if (length >= sizeof record.value) {
             length = sizeof record.value - 1;
-            _logger.warn("trap variable %s cut to %zu bytes: \"%s\"", variable.property.c_str(), length,
-                         variable.textValue.c_str());
+            _logger.warn("trap variable %s cut to %zu bytes: \"%s\"", variable.property.c_str(),
+                         length, variable.textValue.c_str());
         }
         std::memcpy(record.value, variable.textValue.data(), length);
         record.valueLength = static_cast<std::int32_t>(length);
@@ -154,7 +160,8 @@ void IndicationFrame::_append(CmpiCpp::CmpiInstance& instance, TrapVariable cons
     _varbinds.push_back(record);
 }
 
-void IndicationFrame::addTrapInfo(CmpiCpp::CmpiInstance& instance, unsigned int oidCount, Trap const& trap) {
+void IndicationFrame::addTrapInfo(CmpiCpp::CmpiInstance& instance, unsigned int oidCount,
+                                  Trap const& trap) {
     CmpiCpp::CmpiArray oids(oidCount, CMPI_string);
     _trapNumber = trap.number;
     if (trap.number == 0) {
@@ -163,8 +170,10 @@ void IndicationFrame::addTrapInfo(CmpiCpp::CmpiInstance& instance, unsigned int 
         return;
     }
     instance.addProperty("TrapID", static_cast<int>(trap.number));
-    _append(instance, TrapVariable::ofNumber("zrqHoTrapFlags", enterpriseOid({11, 2, 11, 1}), trap.flags));
-    _append(instance, TrapVariable::ofText("sysName", {1, 3, 6, 1, 2, 1, 1, 5}, QLNUtil::getHostName()));
+    _append(instance,
+            TrapVariable::ofNumber("zrqHoTrapFlags", enterpriseOid({11, 2, 11, 1}), trap.flags));
+    _append(instance,
+            TrapVariable::ofText("sysName", {1, 3, 6, 1, 2, 1, 1, 5}, QLNUtil::getHostName()));
     oids.setElementAt(0, "1.3.6.1.4.1.57913.0." + std::to_string(trap.number));
     oids.setElementAt(1, "");
     oids.setElementAt(2, "");
@@ -186,7 +195,8 @@ void IndicationFrame::sendTrap() {
         return;
     }
     MPMRASMIF processor(_logger);
-    _logger.info("calling sentSnmpTrapPassThrough pass the trap %d to Tarvo", static_cast<int>(_trapNumber));
+    _logger.info("calling sentSnmpTrapPassThrough pass the trap %d to Tarvo",
+                 static_cast<int>(_trapNumber));
     if (processor.sentSnmpTrapPassThrough(_trapNumber, _varbinds) != 0) {
         _logger.info("Failed sending snmp trap to Tarvo %d", static_cast<int>(_trapNumber));
     } else {
@@ -194,7 +204,8 @@ void IndicationFrame::sendTrap() {
     }
 }
 
-void IndicationFrame::deliver(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiInstance const& instance) {
+void IndicationFrame::deliver(CmpiCpp::CmpiContext const& context,
+                              CmpiCpp::CmpiInstance const& instance) {
     CmpiCpp::CmpiMBService service(QLNUtil::getBroker(), _logger);
     CmpiCpp::CmpiName const nameSpace(_nameSpace);
     try {

@@ -23,24 +23,25 @@ namespace QLN {
 // VariableTypes and VariableValues.
 struct AlertVariable {
     std::string name;
-    unsigned short type;  // 1 text, 4 and 5 numbers
-    std::string value;    // numbers in decimal
+    unsigned short type; // 1 text, 4 and 5 numbers
+    std::string value;   // numbers in decimal
 };
 
 // One variable of a trap: a property of the indication of the same name, a
 // varbind, and an element of IndicationOIDs.
 struct TrapVariable {
     std::string property;
-    std::vector<std::uint32_t> oid;  // complete, device indexes included
+    std::vector<std::uint32_t> oid; // complete, device indexes included
     bool text = false;
     int number = 0;
     std::string textValue;
-    std::int32_t valueLength = 4;    // of a number: its width in bytes
-    bool sent = true;                // false: not in this trap; its IndicationOIDs element is "-1"
+    std::int32_t valueLength = 4; // of a number: its width in bytes
+    bool sent = true;             // false: not in this trap; its IndicationOIDs element is "-1"
 
     static TrapVariable ofNumber(std::string property, std::vector<std::uint32_t> oid, int value,
                                  std::int32_t width = 4);
-    static TrapVariable ofText(std::string property, std::vector<std::uint32_t> oid, std::string value);
+    static TrapVariable ofText(std::string property, std::vector<std::uint32_t> oid,
+                               std::string value);
     static TrapVariable notSent();
 };
 
@@ -48,7 +49,7 @@ struct TrapVariable {
 struct Trap {
     unsigned int number = 0;
     int flags = 16;
-    std::vector<TrapVariable> variables;  // those after zrqHoTrapFlags and sysName
+    std::vector<TrapVariable> variables; // those after zrqHoTrapFlags and sysName
 };
 
 // OIDs of the trap variables hang under the enterprise.
@@ -79,7 +80,8 @@ public:
     CmpiCpp::CmpiInstance takeInstance() const { return _alert->getInstance(); }
 
     // The three variable arrays, when the first variable's text is not empty.
-    static void addVariables(CmpiCpp::CmpiInstance& instance, std::vector<AlertVariable> const& variables);
+    static void addVariables(CmpiCpp::CmpiInstance& instance,
+                             std::vector<AlertVariable> const& variables);
     // TrapID, the trap variables as properties and IndicationOIDs of
     // `oidCount` elements; with trap number 0 only IndicationOIDs, with "-1"
     // in its first element. Keeps the varbinds for sendTrap.

@@ -19,26 +19,28 @@ QLN_VeldraCntlrIndication::QLN_VeldraCntlrIndication(Logger& logger, std::string
     _indicationDB = std::make_unique<IndicationDB>(_logger, className);
 }
 
-QLN_VeldraCntlrIndication::~QLN_VeldraCntlrIndication() { _logger.info("dxtor"); }
+QLN_VeldraCntlrIndication::~QLN_VeldraCntlrIndication() {
+    _logger.info("dxtor");
+}
 
-void QLN_VeldraCntlrIndication::sendIndication(int eventNumber, unsigned int controllerIndex, unsigned int slotNumber,
-                                               std::string const& firmwareVersion,
-                                               std::string const& controllerText, std::string const& manufacturer,
-                                               std::string const& serialNumber, std::string const& model,
-                                               std::string const& changeName, unsigned int cacheSize,
-                                               std::string const& cacheSerialNumber, std::string const& pathText,
-                                               CmpiCpp::CmpiContext const& context) {
+void QLN_VeldraCntlrIndication::sendIndication(
+    int eventNumber, unsigned int controllerIndex, unsigned int slotNumber,
+    std::string const& firmwareVersion, std::string const& controllerText,
+    std::string const& manufacturer, std::string const& serialNumber, std::string const& model,
+    std::string const& changeName, unsigned int cacheSize, std::string const& cacheSerialNumber,
+    std::string const& pathText, CmpiCpp::CmpiContext const& context) {
     IndicationFrame frame(_logger, _namespace, className);
     if (!frame.begin(*_indicationDB, eventNumber, "Send Veldra indication: %d")) {
         return;
     }
     std::string const summary = frame.record().summary;
     frame.setAlertingElement(pathText);
-    ControllerIndicationParts::setIdentity(frame, controllerText, firmwareVersion, manufacturer, serialNumber,
-                                           model);
+    ControllerIndicationParts::setIdentity(frame, controllerText, firmwareVersion, manufacturer,
+                                           serialNumber, model);
     frame.setFromRecord(context, summary);
     CmpiCpp::CmpiInstance instance = frame.takeInstance();
-    ControllerIndicationParts::addVariables(_logger, instance, changeName, cacheSize, cacheSerialNumber);
+    ControllerIndicationParts::addVariables(_logger, instance, changeName, cacheSize,
+                                            cacheSerialNumber);
 
     Trap trap;
     int boardStatus = 0;
@@ -59,8 +61,10 @@ void QLN_VeldraCntlrIndication::sendIndication(int eventNumber, unsigned int con
     if (trap.number != 0) {
         using ControllerIndicationParts::controllerOid;
         trap.variables = {
-            TrapVariable::ofNumber("zrqDaCtrlrSlot", controllerOid(5, controllerIndex), static_cast<int>(slotNumber)),
-            TrapVariable::ofNumber("zrqDaCtrlrBoardStatus", controllerOid(10, controllerIndex), boardStatus),
+            TrapVariable::ofNumber("zrqDaCtrlrSlot", controllerOid(5, controllerIndex),
+                                   static_cast<int>(slotNumber)),
+            TrapVariable::ofNumber("zrqDaCtrlrBoardStatus", controllerOid(10, controllerIndex),
+                                   boardStatus),
         };
     }
     frame.addTrapInfo(instance, oidCount, trap);

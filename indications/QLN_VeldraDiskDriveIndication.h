@@ -28,11 +28,12 @@ public:
     void sendIndication(int eventNumber, std::uint16_t previousStatus, std::uint16_t currentStatus,
                         std::string const& firmwareRevision, std::string const& volumeText,
                         std::string const& bayText, std::string const& controllerText,
-                        std::string const& diskSerial, std::string const& diskModel, unsigned int controllerIndex,
-                        unsigned int locationCode, std::uint16_t driveInterface,
-                        std::uint16_t lastFailureReason, unsigned int enclosureBoxNumber,
-                        std::string const& failureReasonText, std::string const& changeName,
-                        std::string const& pathText, CmpiCpp::CmpiContext const& context);
+                        std::string const& diskSerial, std::string const& diskModel,
+                        unsigned int controllerIndex, unsigned int locationCode,
+                        std::uint16_t driveInterface, std::uint16_t lastFailureReason,
+                        unsigned int enclosureBoxNumber, std::string const& failureReasonText,
+                        std::string const& changeName, std::string const& pathText,
+                        CmpiCpp::CmpiContext const& context);
 
 private:
     std::string _namespace;

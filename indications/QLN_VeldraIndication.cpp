@@ -3,6 +3,7 @@
 #include "ControllerIndicationParts.h"
 #include "IndicationFrame.h"
 
+#include <iterator>
 #include <sstream>
 
 namespace QLN {
@@ -12,29 +13,12 @@ char const* const className = "QLN_VeldraIndication";
 unsigned int const oidCount = 10;
 int const heartbeatEvent = 100;
 
-// The accelerator's error code for a cache state.
+// The accelerator's error code by cache state, for states 0 to 20; any
+// other state gives 1.
+int const errorCodes[] = {2, 2, 15, 12, 4, 6, 9, 5, 5, 13, 10, 3, 8, 17, 2, 21, 25, 26, 27, 28, 29};
+
 int errorCode(std::uint16_t cacheState) {
-    switch (cacheState) {
-    case 0: case 1: case 14: return 2;
-    case 2: return 15;
-    case 3: return 12;
-    case 4: return 4;
-    case 5: return 6;
-    case 6: return 9;
-    case 7: case 8: return 5;
-    case 9: return 13;
-    case 10: return 10;
-    case 11: return 3;
-    case 12: return 8;
-    case 13: return 17;
-    case 15: return 21;
-    case 16: return 25;
-    case 17: return 26;
-    case 18: return 27;
-    case 19: return 28;
-    case 20: return 29;
-    default: return 1;
-    }
+    return cacheState < std::size(errorCodes) ? errorCodes[cacheState] : 1;
 }
 } // namespace
 
@@ -47,14 +31,16 @@ QLN_VeldraIndication::QLN_VeldraIndication(Logger& logger, std::string const& na
     _indicationDB = std::make_unique<IndicationDB>(_logger, className);
 }
 
-QLN_VeldraIndication::~QLN_VeldraIndication() { _logger.info("dxtor"); }
+QLN_VeldraIndication::~QLN_VeldraIndication() {
+    _logger.info("dxtor");
+}
 
-void QLN_VeldraIndication::sendIndication(int eventNumber, unsigned int controllerIndex, std::uint16_t cacheState,
-                                          std::string const& firmwareVersion, std::string const& controllerText,
-                                          std::string const& manufacturer, std::string const& serialNumber,
-                                          std::string const& model, std::string const& changeName,
-                                          unsigned int cacheSize, std::string const& cacheSerialNumber,
-                                          std::string const& pathText, CmpiCpp::CmpiContext const& context) {
+void QLN_VeldraIndication::sendIndication(
+    int eventNumber, unsigned int controllerIndex, std::uint16_t cacheState,
+    std::string const& firmwareVersion, std::string const& controllerText,
+    std::string const& manufacturer, std::string const& serialNumber, std::string const& model,
+    std::string const& changeName, unsigned int cacheSize, std::string const& cacheSerialNumber,
+    std::string const& pathText, CmpiCpp::CmpiContext const& context) {
     IndicationFrame frame(_logger, _namespace, className);
     if (!frame.begin(*_indicationDB, eventNumber, "Send Veldra indication: %d")) {
         return;
@@ -68,11 +54,12 @@ void QLN_VeldraIndication::sendIndication(int eventNumber, unsigned int controll
     } else {
         frame.setAlertingElement(pathText);
     }
-    ControllerIndicationParts::setIdentity(frame, controllerText, firmwareVersion, manufacturer, serialNumber,
-                                           model);
+    ControllerIndicationParts::setIdentity(frame, controllerText, firmwareVersion, manufacturer,
+                                           serialNumber, model);
     frame.setFromRecord(context, summary.str());
     CmpiCpp::CmpiInstance instance = frame.takeInstance();
-    ControllerIndicationParts::addVariables(_logger, instance, changeName, cacheSize, cacheSerialNumber);
+    ControllerIndicationParts::addVariables(_logger, instance, changeName, cacheSize,
+                                            cacheSerialNumber);
 
     Trap trap;
     std::optional<int> status;
@@ -109,16 +96,21 @@ void QLN_VeldraIndication::sendIndication(int eventNumber, unsigned int controll
         auto const accelerator = [controllerIndex](std::uint32_t column) {
             return enterpriseOid({3, 2, 2, 2, 1, column, controllerIndex});
         };
-        // Receivers key on the fixed model text "27"; the controller's own
-        // model goes on the alert as DeviceModel.
+        // The MIB's model object holds the controller family, "27" for every
+        // Veldra controller; the model text goes on the alert as DeviceModel.
         trap.variables = {
-            TrapVariable::ofText("zrqDaCtrlrHwLocation", controllerOid(20, controllerIndex), controllerText),
+            TrapVariable::ofText("zrqDaCtrlrHwLocation", controllerOid(20, controllerIndex),
+                                 controllerText),
             TrapVariable::ofText("zrqDaCtrlrModel", controllerOid(2, controllerIndex), "27"),
-            TrapVariable::ofNumber("zqrDaAccelCtrlrIndex", accelerator(1), static_cast<int>(controllerIndex)),
+            TrapVariable::ofNumber("zqrDaAccelCtrlrIndex", accelerator(1),
+                                   static_cast<int>(controllerIndex)),
             TrapVariable::ofText("zrqDaAccelSerialNumber", accelerator(11), cacheSerialNumber),
-            TrapVariable::ofNumber("zrqDaAccelTotalMemory", accelerator(12), static_cast<int>(cacheSize >> 10)),
-            status ? TrapVariable::ofNumber("zqqDaAccelStatus", accelerator(2), *status) : TrapVariable::notSent(),
-            code ? TrapVariable::ofNumber("zrqDaAccelErrCode", accelerator(5), *code) : TrapVariable::notSent(),
+            TrapVariable::ofNumber("zrqDaAccelTotalMemory", accelerator(12),
+                                   static_cast<int>(cacheSize >> 10)),
+            status ? TrapVariable::ofNumber("zqqDaAccelStatus", accelerator(2), *status)
+                   : TrapVariable::notSent(),
+            code ? TrapVariable::ofNumber("zrqDaAccelErrCode", accelerator(5), *code)
+                 : TrapVariable::notSent(),
         };
     }
     frame.addTrapInfo(instance, oidCount, trap);

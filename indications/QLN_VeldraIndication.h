@@ -27,9 +27,9 @@ public:
     void sendIndication(int eventNumber, unsigned int controllerIndex, std::uint16_t cacheState,
                         std::string const& firmwareVersion, std::string const& controllerText,
                         std::string const& manufacturer, std::string const& serialNumber,
-                        std::string const& model, std::string const& changeName, unsigned int cacheSize,
-                        std::string const& cacheSerialNumber, std::string const& pathText,
-                        CmpiCpp::CmpiContext const& context);
+                        std::string const& model, std::string const& changeName,
+                        unsigned int cacheSize, std::string const& cacheSerialNumber,
+                        std::string const& pathText, CmpiCpp::CmpiContext const& context);
 
 private:
     std::string _namespace;

@@ -2,6 +2,8 @@
 
 #include "IndicationFrame.h"
 
+#include <iterator>
+
 namespace QLN {
 
 namespace {
@@ -13,9 +15,24 @@ unsigned int const powerSupplyTrap = 8031;
 // is a fan's or a power supply's.
 std::uint32_t const fanColumn = 7;
 std::uint32_t const powerSupplyColumn = 11;
+
+// Events 1 to 3 are the power supplies', 4 to 6 the fans'.
+struct EnclosureEvent {
+    unsigned int trap;
+    int flags;
+    int status;
+    std::uint32_t column;
+};
+EnclosureEvent const enclosureEvents[] = {{powerSupplyTrap, 12, 3, powerSupplyColumn},
+                                          {powerSupplyTrap, 8, 2, powerSupplyColumn},
+                                          {powerSupplyTrap, 12, 3, powerSupplyColumn},
+                                          {fanTrap, 8, 2, fanColumn},
+                                          {fanTrap, 12, 5, fanColumn},
+                                          {fanTrap, 16, 3, fanColumn}};
 } // namespace
 
-QLN_VeldraStorageEnclosureIndication::QLN_VeldraStorageEnclosureIndication(Logger& logger, std::string const& nameSpace)
+QLN_VeldraStorageEnclosureIndication::QLN_VeldraStorageEnclosureIndication(
+    Logger& logger, std::string const& nameSpace)
     : _namespace(nameSpace), _logger(logger) {
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
@@ -24,12 +41,15 @@ QLN_VeldraStorageEnclosureIndication::QLN_VeldraStorageEnclosureIndication(Logge
     _indicationDB = std::make_unique<IndicationDB>(_logger, className);
 }
 
-QLN_VeldraStorageEnclosureIndication::~QLN_VeldraStorageEnclosureIndication() { _logger.info("dxtor"); }
+QLN_VeldraStorageEnclosureIndication::~QLN_VeldraStorageEnclosureIndication() {
+    _logger.info("dxtor");
+}
 
 void QLN_VeldraStorageEnclosureIndication::sendIndication(
     int eventNumber, std::string const& pathsText, std::string const& controllerText,
-    std::string const& enclosureSerial, std::string const& enclosureModel, std::string const& enclosureManufacturer,
-    unsigned int controllerIndex, unsigned int enclosureBoxNumber, std::string const& pathText,
+    std::string const& enclosureSerial, std::string const& enclosureModel,
+    std::string const& enclosureManufacturer, unsigned int controllerIndex,
+    unsigned int enclosureBoxNumber, std::string const& pathText,
     CmpiCpp::CmpiContext const& context) {
     IndicationFrame frame(_logger, _namespace, className);
     if (!frame.begin(*_indicationDB, eventNumber, "Send Veldra indication: %d")) {
@@ -44,18 +64,10 @@ void QLN_VeldraStorageEnclosureIndication::sendIndication(
     CmpiCpp::CmpiInstance instance = frame.takeInstance();
 
     Trap trap;
-    int status = 0;
-    std::uint32_t column = 0;
-    switch (eventNumber) {
-    case 1: trap = {powerSupplyTrap, 12, {}}; status = 3; column = powerSupplyColumn; break;
-    case 2: trap = {powerSupplyTrap, 8, {}}; status = 2; column = powerSupplyColumn; break;
-    case 3: trap = {powerSupplyTrap, 12, {}}; status = 3; column = powerSupplyColumn; break;
-    case 4: trap = {fanTrap, 8, {}}; status = 2; column = fanColumn; break;
-    case 5: trap = {fanTrap, 12, {}}; status = 5; column = fanColumn; break;
-    case 6: trap = {fanTrap, 16, {}}; status = 3; column = fanColumn; break;
-    default: break;
-    }
-    if (trap.number != 0) {
+    if (eventNumber >= 1 && eventNumber <= static_cast<int>(std::size(enclosureEvents))) {
+        EnclosureEvent const& event = enclosureEvents[eventNumber - 1];
+        trap.number = event.trap;
+        trap.flags = event.flags;
         // The MIB counts boxes from 1.
         unsigned int const box = enclosureBoxNumber + 1;
         auto const boxOid = [&](std::uint32_t boxColumn) {
@@ -63,12 +75,14 @@ void QLN_VeldraStorageEnclosureIndication::sendIndication(
         };
         trap.variables = {
             TrapVariable::ofText("zrqSsBoxCntlrHwLocation", boxOid(18), controllerText),
-            TrapVariable::ofNumber("zrqSsBoxCntlrIndex", boxOid(1), static_cast<int>(controllerIndex)),
+            TrapVariable::ofNumber("zrqSsBoxCntlrIndex", boxOid(1),
+                                   static_cast<int>(controllerIndex)),
             TrapVariable::ofNumber("zrqSsBoxBusIndex", boxOid(2), static_cast<int>(box)),
             TrapVariable::ofText("zrqSsBoxVendor", boxOid(6), enclosureManufacturer),
             TrapVariable::ofText("zrqSsBoxModel", boxOid(4), enclosureModel),
             TrapVariable::ofText("zrqSsBoxSerialNumber", boxOid(17), enclosureSerial),
-            TrapVariable::ofNumber("zrqSsBoxFanorPowerSupplyStatus", boxOid(column), status),
+            TrapVariable::ofNumber("zrqSsBoxFanorPowerSupplyStatus", boxOid(event.column),
+                                   event.status),
             TrapVariable::ofText("zrqSsBoxLocationString", boxOid(23), pathsText),
         };
     }

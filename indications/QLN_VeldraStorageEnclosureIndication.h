@@ -20,15 +20,16 @@ public:
     QLN_VeldraStorageEnclosureIndication(Logger& logger, std::string const& nameSpace);
     ~QLN_VeldraStorageEnclosureIndication();
     QLN_VeldraStorageEnclosureIndication(QLN_VeldraStorageEnclosureIndication const&) = delete;
-    QLN_VeldraStorageEnclosureIndication& operator=(QLN_VeldraStorageEnclosureIndication const&) = delete;
+    QLN_VeldraStorageEnclosureIndication&
+    operator=(QLN_VeldraStorageEnclosureIndication const&) = delete;
 
     // Sends the trap (when the event has one), then the indication. Neither
     // failure reaches the caller.
-    void sendIndication(int eventNumber, std::string const& pathsText, std::string const& controllerText,
-                        std::string const& enclosureSerial, std::string const& enclosureModel,
-                        std::string const& enclosureManufacturer, unsigned int controllerIndex,
-                        unsigned int enclosureBoxNumber, std::string const& pathText,
-                        CmpiCpp::CmpiContext const& context);
+    void sendIndication(int eventNumber, std::string const& pathsText,
+                        std::string const& controllerText, std::string const& enclosureSerial,
+                        std::string const& enclosureModel, std::string const& enclosureManufacturer,
+                        unsigned int controllerIndex, unsigned int enclosureBoxNumber,
+                        std::string const& pathText, CmpiCpp::CmpiContext const& context);
 
 private:
     std::string _namespace;

@@ -2,14 +2,27 @@
 
 #include "IndicationFrame.h"
 
+#include <iterator>
+
 namespace QLN {
 
 namespace {
 char const* const className = "QLN_VeldraStorageEnclosureTempIndication";
 unsigned int const oidCount = 4;
+int const firstEvent = 7;
+
+// Events 7 to 9: each temperature level has a trap of its own, numbered
+// downwards as the level rises.
+struct TemperatureEvent {
+    unsigned int trap;
+    int flags;
+    int status;
+};
+TemperatureEvent const temperatureEvents[] = {{8011, 8, 2}, {8010, 12, 3}, {8009, 16, 4}};
 } // namespace
 
-QLN_VeldraStorageEnclosureTempIndication::QLN_VeldraStorageEnclosureTempIndication(Logger& logger, std::string const& nameSpace)
+QLN_VeldraStorageEnclosureTempIndication::QLN_VeldraStorageEnclosureTempIndication(
+    Logger& logger, std::string const& nameSpace)
     : _namespace(nameSpace), _logger(logger) {
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
@@ -18,15 +31,15 @@ QLN_VeldraStorageEnclosureTempIndication::QLN_VeldraStorageEnclosureTempIndicati
     _indicationDB = std::make_unique<IndicationDB>(_logger, className);
 }
 
-QLN_VeldraStorageEnclosureTempIndication::~QLN_VeldraStorageEnclosureTempIndication() { _logger.info("dxtor"); }
+QLN_VeldraStorageEnclosureTempIndication::~QLN_VeldraStorageEnclosureTempIndication() {
+    _logger.info("dxtor");
+}
 
-void QLN_VeldraStorageEnclosureTempIndication::sendIndication(int eventNumber, std::string const& pathsText,
-                                                              std::string const& enclosureSerial,
-                                                              std::string const& enclosureModel,
-                                                              unsigned int controllerIndex,
-                                                              unsigned int enclosureBoxNumber,
-                                                              std::string const& pathText,
-                                                              CmpiCpp::CmpiContext const& context) {
+void QLN_VeldraStorageEnclosureTempIndication::sendIndication(
+    int eventNumber, std::string const& pathsText, std::string const& enclosureSerial,
+    std::string const& enclosureModel, unsigned int controllerIndex,
+    unsigned int enclosureBoxNumber, std::string const& pathText,
+    CmpiCpp::CmpiContext const& context) {
     IndicationFrame frame(_logger, _namespace, className);
     if (!frame.begin(*_indicationDB, eventNumber, "Send Veldra indication: %d")) {
         return;
@@ -39,21 +52,18 @@ void QLN_VeldraStorageEnclosureTempIndication::sendIndication(int eventNumber, s
     _logger.info("Veldra Enclosure - populating SNMP trap info");
     CmpiCpp::CmpiInstance instance = frame.takeInstance();
 
-    // Each temperature level has a trap of its own, numbered downwards.
     Trap trap;
-    int status = 0;
-    switch (eventNumber) {
-    case 7: trap = {8011, 8, {}}; status = 2; break;
-    case 8: trap = {8010, 12, {}}; status = 3; break;
-    case 9: trap = {8009, 16, {}}; status = 4; break;
-    default: break;
-    }
-    if (trap.number != 0) {
+    int const index = eventNumber - firstEvent;
+    if (index >= 0 && index < static_cast<int>(std::size(temperatureEvents))) {
+        TemperatureEvent const& event = temperatureEvents[index];
+        trap.number = event.trap;
+        trap.flags = event.flags;
         // The MIB counts boxes from 1.
         unsigned int const box = enclosureBoxNumber + 1;
         trap.variables = {
-            TrapVariable::ofNumber("zrqVDEncTempTrapStatus", enterpriseOid({8, 2, 1, 1, 9, controllerIndex, box}),
-                                   status),
+            TrapVariable::ofNumber("zrqVDEncTempTrapStatus",
+                                   enterpriseOid({8, 2, 1, 1, 9, controllerIndex, box}),
+                                   event.status),
         };
     }
     frame.addTrapInfo(instance, oidCount, trap);

@@ -18,15 +18,17 @@ class QLN_VeldraStorageEnclosureTempIndication {
 public:
     QLN_VeldraStorageEnclosureTempIndication(Logger& logger, std::string const& nameSpace);
     ~QLN_VeldraStorageEnclosureTempIndication();
-    QLN_VeldraStorageEnclosureTempIndication(QLN_VeldraStorageEnclosureTempIndication const&) = delete;
-    QLN_VeldraStorageEnclosureTempIndication& operator=(QLN_VeldraStorageEnclosureTempIndication const&) = delete;
+    QLN_VeldraStorageEnclosureTempIndication(QLN_VeldraStorageEnclosureTempIndication const&) =
+        delete;
+    QLN_VeldraStorageEnclosureTempIndication&
+    operator=(QLN_VeldraStorageEnclosureTempIndication const&) = delete;
 
     // Sends the trap (when the event has one), then the indication. Neither
     // failure reaches the caller.
-    void sendIndication(int eventNumber, std::string const& pathsText, std::string const& enclosureSerial,
-                        std::string const& enclosureModel, unsigned int controllerIndex,
-                        unsigned int enclosureBoxNumber, std::string const& pathText,
-                        CmpiCpp::CmpiContext const& context);
+    void sendIndication(int eventNumber, std::string const& pathsText,
+                        std::string const& enclosureSerial, std::string const& enclosureModel,
+                        unsigned int controllerIndex, unsigned int enclosureBoxNumber,
+                        std::string const& pathText, CmpiCpp::CmpiContext const& context);
 
 private:
     std::string _namespace;

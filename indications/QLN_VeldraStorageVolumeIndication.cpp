@@ -3,6 +3,8 @@
 #include "CmpiArray.h"
 #include "IndicationFrame.h"
 
+#include <iterator>
+
 namespace QLN {
 
 namespace {
@@ -10,23 +12,44 @@ char const* const className = "QLN_VeldraStorageVolumeIndication";
 unsigned int const oidCount = 7;
 unsigned int const volumeTrap = 3034;
 
+// zrqHoTrapFlags and zrqDaLogDrvStatus of events 1 to 13. Status 0: it
+// depends on the detail status (events 2 and 3).
+struct VolumeEvent {
+    int flags;
+    int status;
+};
+VolumeEvent const volumeEvents[] = {{8, 2},   {16, 0},  {12, 0},  {12, 15}, {12, 12},
+                                    {12, 14}, {12, 13}, {16, 20}, {12, 1},  {16, 24},
+                                    {12, 18}, {12, 19}, {12, 1}};
+
 // The logical drive status of event 3, from the volume's detail status.
 int degradedStatus(unsigned int detailStatus) {
     switch (detailStatus) {
-    case 0x8000: return 9;
-    case 0x8002: return 10;
-    case 0x8003: return 11;
-    case 0x8004: return 5;
-    case 0x8005: return 4;
-    case 0x8008: return 6;
-    case 0x8009: return 7;
-    case 0x800A: return 8;
-    case 0x800B: return 16;
-    default: return 1;
+    case 0x8000:
+        return 9;
+    case 0x8002:
+        return 10;
+    case 0x8003:
+        return 11;
+    case 0x8004:
+        return 5;
+    case 0x8005:
+        return 4;
+    case 0x8008:
+        return 6;
+    case 0x8009:
+        return 7;
+    case 0x800A:
+        return 8;
+    case 0x800B:
+        return 16;
+    default:
+        return 1;
     }
 }
 
-void addStatusList(CmpiCpp::CmpiInstance& instance, char const* property, std::vector<std::uint16_t> const& list) {
+void addStatusList(CmpiCpp::CmpiInstance& instance, char const* property,
+                   std::vector<std::uint16_t> const& list) {
     if (list.empty()) {
         return;
     }
@@ -38,7 +61,8 @@ void addStatusList(CmpiCpp::CmpiInstance& instance, char const* property, std::v
 }
 } // namespace
 
-QLN_VeldraStorageVolumeIndication::QLN_VeldraStorageVolumeIndication(Logger& logger, std::string const& nameSpace)
+QLN_VeldraStorageVolumeIndication::QLN_VeldraStorageVolumeIndication(Logger& logger,
+                                                                     std::string const& nameSpace)
     : _namespace(nameSpace), _logger(logger) {
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
@@ -47,15 +71,16 @@ QLN_VeldraStorageVolumeIndication::QLN_VeldraStorageVolumeIndication(Logger& log
     _indicationDB = std::make_unique<IndicationDB>(_logger, className);
 }
 
-QLN_VeldraStorageVolumeIndication::~QLN_VeldraStorageVolumeIndication() { _logger.info("dxtor"); }
+QLN_VeldraStorageVolumeIndication::~QLN_VeldraStorageVolumeIndication() {
+    _logger.info("dxtor");
+}
 
-void QLN_VeldraStorageVolumeIndication::sendIndication(int eventNumber, std::string const& volumeText,
-                                                       unsigned int controllerIndex, unsigned int volumeNumber,
-                                                       unsigned int detailStatus,
-                                                       std::vector<std::uint16_t> const& previousStatus,
-                                                       std::vector<std::uint16_t> const& currentStatus,
-                                                       std::string const& changeName, std::string const& pathText,
-                                                       CmpiCpp::CmpiContext const& context) {
+void QLN_VeldraStorageVolumeIndication::sendIndication(
+    int eventNumber, std::string const& volumeText, unsigned int controllerIndex,
+    unsigned int volumeNumber, unsigned int detailStatus,
+    std::vector<std::uint16_t> const& previousStatus,
+    std::vector<std::uint16_t> const& currentStatus, std::string const& changeName,
+    std::string const& pathText, CmpiCpp::CmpiContext const& context) {
     IndicationFrame frame(_logger, _namespace, className);
     if (!frame.begin(*_indicationDB, eventNumber, "Send Veldra Storage Volume indication: %d")) {
         return;
@@ -73,34 +98,26 @@ void QLN_VeldraStorageVolumeIndication::sendIndication(int eventNumber, std::str
     _logger.info("Veldra Storage Volume - populating SNMP trap info");
 
     Trap trap;
-    int status = 0;
-    switch (eventNumber) {
-    case 1: trap.flags = 8; status = 2; break;
-    case 2: trap.flags = 16; status = detailStatus == 4 ? 3 : 1; break;
-    case 3: trap.flags = 12; status = degradedStatus(detailStatus); break;
-    case 4: trap.flags = 12; status = 15; break;
-    case 5: trap.flags = 12; status = 12; break;
-    case 6: trap.flags = 12; status = 14; break;
-    case 7: trap.flags = 12; status = 13; break;
-    case 8: trap.flags = 16; status = 20; break;
-    case 9: trap.flags = 12; status = 1; break;
-    case 10: trap.flags = 16; status = 24; break;
-    case 11: trap.flags = 12; status = 18; break;
-    case 12: trap.flags = 12; status = 19; break;
-    case 13: trap.flags = 12; status = 1; break;
-    default: break;
-    }
-    if (status != 0) {
+    if (eventNumber >= 1 && eventNumber <= static_cast<int>(std::size(volumeEvents))) {
+        VolumeEvent const& event = volumeEvents[eventNumber - 1];
+        int status = event.status;
+        if (eventNumber == 2) {
+            status = detailStatus == 4 ? 3 : 1;
+        } else if (eventNumber == 3) {
+            status = degradedStatus(detailStatus);
+        }
         trap.number = volumeTrap;
+        trap.flags = event.flags;
         // The MIB counts volumes from 1.
         unsigned int const volumeIndex = volumeNumber + 1;
         auto const volume = [&](std::uint32_t column) {
             return enterpriseOid({3, 2, 3, 1, 1, column, controllerIndex, volumeIndex});
         };
         trap.variables = {
-            TrapVariable::ofText("zrqDaCtrlrHwLocation", enterpriseOid({3, 2, 2, 1, 1, 20, controllerIndex}),
-                                 volumeText),
-            TrapVariable::ofNumber("zrqDaLogDrvCtlrIndex", volume(1), static_cast<int>(controllerIndex)),
+            TrapVariable::ofText("zrqDaCtrlrHwLocation",
+                                 enterpriseOid({3, 2, 2, 1, 1, 20, controllerIndex}), volumeText),
+            TrapVariable::ofNumber("zrqDaLogDrvCtlrIndex", volume(1),
+                                   static_cast<int>(controllerIndex)),
             TrapVariable::ofNumber("zqrDaLogDrvIndex", volume(2), static_cast<int>(volumeIndex)),
             TrapVariable::ofNumber("zrqDaLogDrvStatus", volume(4), status),
         };

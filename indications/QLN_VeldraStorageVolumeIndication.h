@@ -24,11 +24,12 @@ public:
 
     // Sends the trap (when the event has one), then the indication. Neither
     // failure reaches the caller.
-    void sendIndication(int eventNumber, std::string const& volumeText, unsigned int controllerIndex,
-                        unsigned int volumeNumber, unsigned int detailStatus,
-                        std::vector<std::uint16_t> const& previousStatus,
-                        std::vector<std::uint16_t> const& currentStatus, std::string const& changeName,
-                        std::string const& pathText, CmpiCpp::CmpiContext const& context);
+    void sendIndication(int eventNumber, std::string const& volumeText,
+                        unsigned int controllerIndex, unsigned int volumeNumber,
+                        unsigned int detailStatus, std::vector<std::uint16_t> const& previousStatus,
+                        std::vector<std::uint16_t> const& currentStatus,
+                        std::string const& changeName, std::string const& pathText,
+                        CmpiCpp::CmpiContext const& context);
 
 private:
     std::string _namespace;

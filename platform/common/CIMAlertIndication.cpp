@@ -16,13 +16,21 @@ void CIMAlertIndication::setAlertingElementFormat(int format) {
     _set("AlertingElementFormat", static_cast<unsigned short>(format));
 }
 
-void CIMAlertIndication::setDescription(std::string const& text) { _set("Description", text); }
+void CIMAlertIndication::setDescription(std::string const& text) {
+    _set("Description", text);
+}
 
-void CIMAlertIndication::setEventID(std::string const& id) { _set("EventID", id); }
+void CIMAlertIndication::setEventID(std::string const& id) {
+    _set("EventID", id);
+}
 
-void CIMAlertIndication::setAlertType(int type) { _set("AlertType", static_cast<unsigned short>(type)); }
+void CIMAlertIndication::setAlertType(int type) {
+    _set("AlertType", static_cast<unsigned short>(type));
+}
 
-void CIMAlertIndication::setProviderName(std::string const& name) { _set("ProviderName", name); }
+void CIMAlertIndication::setProviderName(std::string const& name) {
+    _set("ProviderName", name);
+}
 
 void CIMAlertIndication::setRecommendedActions(std::string const& actions) {
     CmpiCpp::CmpiArray array(1, CMPI_string);

@@ -12,7 +12,8 @@ namespace {
 std::atomic<unsigned long long> nextId{1};
 } // namespace
 
-CIMIndication::CIMIndication(Logger& logger, std::string const& className, std::string const& nameSpace)
+CIMIndication::CIMIndication(Logger& logger, std::string const& className,
+                             std::string const& nameSpace)
     : _logger(logger), _id(nextId.fetch_add(1)),
       _instance(CmpiCpp::CmpiObjectPath(nameSpace, className)) {
     _instance.addProperty("IndicationIdentifier", std::to_string(_id));
@@ -24,7 +25,8 @@ CmpiCpp::CmpiInstance CIMIndication::getInstance() const {
     CmpiCpp::CmpiInstance instance = _instance;
     auto const now = std::chrono::system_clock::now().time_since_epoch();
     auto const micros = std::chrono::duration_cast<std::chrono::microseconds>(now).count();
-    instance.addProperty("IndicationTime", CmpiCpp::CmpiDateTime(static_cast<std::uint64_t>(micros), false));
+    instance.addProperty("IndicationTime",
+                         CmpiCpp::CmpiDateTime(static_cast<std::uint64_t>(micros), false));
     return instance;
 }
 

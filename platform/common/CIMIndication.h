@@ -24,8 +24,7 @@ public:
     CmpiCpp::CmpiInstance getInstance() const;
 
 protected:
-    template <typename Value>
-    void _set(char const* property, Value const& value) {
+    template <typename Value> void _set(char const* property, Value const& value) {
         _instance.addProperty(property, value);
     }
 

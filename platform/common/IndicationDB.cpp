@@ -45,8 +45,7 @@ std::string at(YAML::Node const& node) {
     return "line " + std::to_string(node.Mark().line + 1);
 }
 
-template <typename Number>
-Number number(YAML::Node const& node, char const* key) {
+template <typename Number> Number number(YAML::Node const& node, char const* key) {
     if (!node.IsScalar()) {
         throw RecordError(std::string(key) + " must be a number (" + at(node) + ")");
     }
@@ -79,32 +78,50 @@ struct Field {
 
 std::vector<Field> const& fields() {
     static std::vector<Field> const all = {
-        {"eventName", false, [](IndDBRec& r, YAML::Node const& n) { r.eventName = text(n, "eventName"); }},
+        {"eventName", false,
+         [](IndDBRec& r, YAML::Node const& n) { r.eventName = text(n, "eventName"); }},
         {"perceivedSeverity", false,
-         [](IndDBRec& r, YAML::Node const& n) { r.perceivedSeverity = number<int>(n, "perceivedSeverity"); }},
-        {"providerName", true, [](IndDBRec& r, YAML::Node const& n) { r.providerName = text(n, "providerName"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.perceivedSeverity = number<int>(n, "perceivedSeverity");
+         }},
+        {"providerName", true,
+         [](IndDBRec& r, YAML::Node const& n) { r.providerName = text(n, "providerName"); }},
         {"eventID", true, [](IndDBRec& r, YAML::Node const& n) { r.eventID = text(n, "eventID"); }},
         {"indicationNumber", true,
-         [](IndDBRec& r, YAML::Node const& n) { r.indicationNumber = number<int>(n, "indicationNumber"); }},
-        {"description", true, [](IndDBRec& r, YAML::Node const& n) { r.description = text(n, "description"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.indicationNumber = number<int>(n, "indicationNumber");
+         }},
+        {"description", true,
+         [](IndDBRec& r, YAML::Node const& n) { r.description = text(n, "description"); }},
         {"summary", true, [](IndDBRec& r, YAML::Node const& n) { r.summary = text(n, "summary"); }},
         {"eventCategory", true,
-         [](IndDBRec& r, YAML::Node const& n) { r.eventCategory = number<int>(n, "eventCategory"); }},
-        {"trending", false, [](IndDBRec& r, YAML::Node const& n) { r.trending = number<int>(n, "trending"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.eventCategory = number<int>(n, "eventCategory");
+         }},
+        {"trending", false,
+         [](IndDBRec& r, YAML::Node const& n) { r.trending = number<int>(n, "trending"); }},
         {"otherAlertType", false,
          [](IndDBRec& r, YAML::Node const& n) { r.otherAlertType = text(n, "otherAlertType"); }},
         {"alertType", true,
-         [](IndDBRec& r, YAML::Node const& n) { r.alertType = number<std::uint16_t>(n, "alertType"); }},
-        {"owningEntity", false, [](IndDBRec& r, YAML::Node const& n) { r.owningEntity = text(n, "owningEntity"); }},
-        {"messageID", false, [](IndDBRec& r, YAML::Node const& n) { r.messageID = text(n, "messageID"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.alertType = number<std::uint16_t>(n, "alertType");
+         }},
+        {"owningEntity", false,
+         [](IndDBRec& r, YAML::Node const& n) { r.owningEntity = text(n, "owningEntity"); }},
+        {"messageID", false,
+         [](IndDBRec& r, YAML::Node const& n) { r.messageID = text(n, "messageID"); }},
         {"probableCause", true,
-         [](IndDBRec& r, YAML::Node const& n) { r.probableCause = number<std::uint16_t>(n, "probableCause"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.probableCause = number<std::uint16_t>(n, "probableCause");
+         }},
         {"probableCauseDescription", true,
          [](IndDBRec& r, YAML::Node const& n) {
              r.probableCauseDescription = text(n, "probableCauseDescription");
          }},
         {"recommendedActions", true,
-         [](IndDBRec& r, YAML::Node const& n) { r.recommendedActions = text(n, "recommendedActions"); }},
+         [](IndDBRec& r, YAML::Node const& n) {
+             r.recommendedActions = text(n, "recommendedActions");
+         }},
     };
     return all;
 }
@@ -146,7 +163,8 @@ IndDBRec readRecord(YAML::Node const& node, YAML::Node const& defaults) {
 
 std::string IndicationDB::path() {
     try {
-        if (auto configured = FrameworkConfig::get("VELDRA_INDICATION_DB"); configured && !configured->empty()) {
+        if (auto configured = FrameworkConfig::get("VELDRA_INDICATION_DB");
+            configured && !configured->empty()) {
             return *configured;
         }
     } catch (std::exception const&) {
@@ -171,16 +189,18 @@ IndicationDB::IndicationDB(Logger& logger, std::string const& className) : _logg
                       className.c_str());
         return;
     } catch (YAML::ParserException const& e) {
-        _logger.error("indication database %s line %d: %s: no records for %s", file.c_str(), e.mark.line + 1,
-                      e.msg.c_str(), className.c_str());
+        _logger.error("indication database %s line %d: %s: no records for %s", file.c_str(),
+                      e.mark.line + 1, e.msg.c_str(), className.c_str());
         return;
     } catch (YAML::Exception const& e) {
-        _logger.error("indication database %s: %s: no records for %s", file.c_str(), e.what(), className.c_str());
+        _logger.error("indication database %s: %s: no records for %s", file.c_str(), e.what(),
+                      className.c_str());
         return;
     }
     if (!root.IsMap() || !root["classes"] || !root["classes"].IsMap()) {
-        _logger.error("indication database %s: expected a map \"classes\" of classes: no records for %s",
-                      file.c_str(), className.c_str());
+        _logger.error(
+            "indication database %s: expected a map \"classes\" of classes: no records for %s",
+            file.c_str(), className.c_str());
         return;
     }
     YAML::Node const defaults = root["defaults"];
@@ -190,8 +210,9 @@ IndicationDB::IndicationDB(Logger& logger, std::string const& className) : _logg
         return;
     }
     if (!events.IsMap()) {
-        _logger.error("indication database %s, class %s (%s): expected event numbers with their records",
-                      file.c_str(), className.c_str(), at(events).c_str());
+        _logger.error(
+            "indication database %s, class %s (%s): expected event numbers with their records",
+            file.c_str(), className.c_str(), at(events).c_str());
         return;
     }
     for (auto const& entry : events) {
@@ -199,8 +220,8 @@ IndicationDB::IndicationDB(Logger& logger, std::string const& className) : _logg
             int const eventNumber = number<int>(entry.first, "event number");
             _records[eventNumber] = readRecord(entry.second, defaults);
         } catch (std::exception const& e) {
-            _logger.error("indication database %s, class %s, event %s: %s: record left out", file.c_str(),
-                          className.c_str(), entry.first.Scalar().c_str(), e.what());
+            _logger.error("indication database %s, class %s, event %s: %s: record left out",
+                          file.c_str(), className.c_str(), entry.first.Scalar().c_str(), e.what());
         }
     }
 }

@@ -49,7 +49,9 @@ MWAlertIndication::MWAlertIndication(Logger& logger, std::string const& classNam
     _set("IndicationNumber", indicationNumber);
 }
 
-void MWAlertIndication::setSummary(std::string const& text) { _set("Summary", text); }
+void MWAlertIndication::setSummary(std::string const& text) {
+    _set("Summary", text);
+}
 
 void MWAlertIndication::setEventCategory(int category) {
     _set("EventCategory", static_cast<unsigned short>(category));
@@ -69,20 +71,32 @@ void MWAlertIndication::setNetworkIPAddress(CmpiCpp::CmpiContext const&) {
     _set("NetworkIPAddress", hostAddress());
 }
 
-void MWAlertIndication::setHWLogicalLocation(std::string const& text) { _set("HWLogicalLocation", text); }
+void MWAlertIndication::setHWLogicalLocation(std::string const& text) {
+    _set("HWLogicalLocation", text);
+}
 
-void MWAlertIndication::setHWPhysicalLocation(std::string const& text) { _set("HWPhysicalLocation", text); }
+void MWAlertIndication::setHWPhysicalLocation(std::string const& text) {
+    _set("HWPhysicalLocation", text);
+}
 
 void MWAlertIndication::setDeviceControllerLogicalLocation(std::string const& text) {
     _set("DeviceControllerLogicalLocation", text);
 }
 
-void MWAlertIndication::setHWFirmwareVersion(std::string const& text) { _set("HWFirmwareVersion", text); }
+void MWAlertIndication::setHWFirmwareVersion(std::string const& text) {
+    _set("HWFirmwareVersion", text);
+}
 
-void MWAlertIndication::setHWManufacturer(std::string const& text) { _set("HWManufacturer", text); }
+void MWAlertIndication::setHWManufacturer(std::string const& text) {
+    _set("HWManufacturer", text);
+}
 
-void MWAlertIndication::setHWSerialNumber(std::string const& text) { _set("HWSerialNumber", text); }
+void MWAlertIndication::setHWSerialNumber(std::string const& text) {
+    _set("HWSerialNumber", text);
+}
 
-void MWAlertIndication::setDeviceModel(std::string const& text) { _set("DeviceModel", text); }
+void MWAlertIndication::setDeviceModel(std::string const& text) {
+    _set("DeviceModel", text);
+}
 
 } // namespace QLN

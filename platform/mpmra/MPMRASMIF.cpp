@@ -6,6 +6,7 @@
 #include <net-snmp/net-snmp-includes.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <cstring>
 #include <exception>
 #include <mutex>
@@ -27,7 +28,8 @@ auto const loaded = std::chrono::steady_clock::now();
 // sysUpTime of the sender: hundredths of a second since this library loaded.
 long upTime() {
     auto const elapsed = std::chrono::steady_clock::now() - loaded;
-    return static_cast<long>(std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count() / 10);
+    return static_cast<long>(
+        std::chrono::duration_cast<std::chrono::milliseconds>(elapsed).count() / 10);
 }
 
 std::string trim(std::string const& text) {
@@ -104,7 +106,8 @@ bool addVariable(netsnmp_pdu* pdu, varbind const& variable, std::string& why) {
     if (variable.type == varbindText) {
         // Never read past the field, whatever the length claims.
         size_t const stored = ::strnlen(variable.value, sizeof variable.value);
-        size_t const claimed = variable.valueLength < 0 ? 0 : static_cast<size_t>(variable.valueLength);
+        size_t const claimed =
+            variable.valueLength < 0 ? 0 : static_cast<size_t>(variable.valueLength);
         size_t const used = claimed < stored ? claimed : stored;
         snmp_pdu_add_variable(pdu, name, length, ASN_OCTET_STR, variable.value, used);
         return true;
@@ -122,7 +125,8 @@ MPMRASMIF::MPMRASMIF(Logger& logger) : _logger(logger) {
 
 MPMRASMIF::~MPMRASMIF() = default;
 
-int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<varbind> const& variables) {
+int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId,
+                                       std::vector<varbind> const& variables) {
     std::string destinations;
     std::string community;
     try {
@@ -133,8 +137,9 @@ int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<v
         return -1;
     }
     if (trim(destinations).empty()) {
-        _logger.warn("trap %u not sent: no VELDRA_TRAP_DESTINATIONS configured, and no %s on this host",
-                     trapId, tarvoDevice);
+        _logger.warn(
+            "trap %u not sent: no VELDRA_TRAP_DESTINATIONS configured, and no %s on this host",
+            trapId, tarvoDevice);
         return -1;
     }
 
@@ -156,22 +161,26 @@ int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<v
         }
         std::optional<std::string> const peer = peerName(entry);
         if (!peer) {
-            _logger.error("trap %u not sent to \"%s\": expected host[:port]", trapId, entry.c_str());
+            _logger.error("trap %u not sent to \"%s\": expected host[:port]", trapId,
+                          entry.c_str());
             ++failures;
             continue;
         }
 
         netsnmp_pdu* pdu = snmp_pdu_create(SNMP_MSG_TRAP2);
         long const ticks = upTime();
-        snmp_pdu_add_variable(pdu, sysUpTimeOid, OID_LENGTH(sysUpTimeOid), ASN_TIMETICKS, &ticks, sizeof ticks);
+        snmp_pdu_add_variable(pdu, sysUpTimeOid, OID_LENGTH(sysUpTimeOid), ASN_TIMETICKS, &ticks,
+                              sizeof ticks);
         oid trapOid[OID_LENGTH(enterpriseTraps) + 1];
         std::memcpy(trapOid, enterpriseTraps, sizeof enterpriseTraps);
         trapOid[OID_LENGTH(enterpriseTraps)] = trapId;
-        snmp_pdu_add_variable(pdu, snmpTrapOid, OID_LENGTH(snmpTrapOid), ASN_OBJECT_ID, trapOid, sizeof trapOid);
+        snmp_pdu_add_variable(pdu, snmpTrapOid, OID_LENGTH(snmpTrapOid), ASN_OBJECT_ID, trapOid,
+                              sizeof trapOid);
         for (std::size_t i = 0; i < variables.size(); ++i) {
             std::string why;
             if (!addVariable(pdu, variables[i], why)) {
-                _logger.error("trap %u not sent: variable %zu is malformed: %s", trapId, i, why.c_str());
+                _logger.error("trap %u not sent: variable %zu is malformed: %s", trapId, i,
+                              why.c_str());
                 snmp_free_pdu(pdu);
                 return -1;
             }
@@ -187,7 +196,8 @@ int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<v
         if (session == nullptr) {
             char* text = nullptr;
             snmp_error(&settings, nullptr, nullptr, &text);
-            _logger.error("trap %u not sent to %s: %s", trapId, entry.c_str(), text ? text : "cannot open");
+            _logger.error("trap %u not sent to %s: %s", trapId, entry.c_str(),
+                          text ? text : "cannot open");
             std::free(text);
             snmp_free_pdu(pdu);
             ++failures;
@@ -196,7 +206,8 @@ int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<v
         if (snmp_sess_send(session, pdu) == 0) {
             char* text = nullptr;
             snmp_sess_error(session, nullptr, nullptr, &text);
-            _logger.error("trap %u not sent to %s: %s", trapId, entry.c_str(), text ? text : "send failed");
+            _logger.error("trap %u not sent to %s: %s", trapId, entry.c_str(),
+                          text ? text : "send failed");
             std::free(text);
             snmp_free_pdu(pdu);
             ++failures;

@@ -6,11 +6,11 @@
 #include <cstdint>
 
 struct varbind {
-    std::int32_t type;         // varbindNumber or varbindText
-    std::int32_t oidLength;    // how many of the sub-identifiers count
-    std::int32_t valueLength;  // bytes of the number, or of the text without its terminator
+    std::int32_t type;        // varbindNumber or varbindText
+    std::int32_t oidLength;   // how many of the sub-identifiers count
+    std::int32_t valueLength; // bytes of the number, or of the text without its terminator
     std::uint32_t oid[24];
-    char value[48];            // a number in the machine's byte order, or the text with its terminator
+    char value[48]; // a number in the machine's byte order, or the text with its terminator
 };
 
 constexpr std::int32_t varbindNumber = 2;

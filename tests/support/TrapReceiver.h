@@ -3,10 +3,10 @@
 // notification on one line, and stopped at the end. It is the receiver an
 // operator would run, so the tests see what they would: numeric OIDs
 // without MIBs, names ("QLN-VELDRA-MIB::zrqHoTrapFlags") with them.
+#include <netinet/in.h>
 #include <signal.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
-#include <netinet/in.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -22,9 +22,9 @@
 class TrapReceiver {
 public:
     struct Variable {
-        std::string oid;    // ".1.3.6.1.2.1.1.5", or "SNMPv2-MIB::sysName" with MIBs loaded
-        std::string type;   // as snmptrapd names it: "INTEGER", "STRING", "OID", "Timeticks"
-        std::string value;  // quotes of strings removed
+        std::string oid;   // ".1.3.6.1.2.1.1.5", or "SNMPv2-MIB::sysName" with MIBs loaded
+        std::string type;  // as snmptrapd names it: "INTEGER", "STRING", "OID", "Timeticks"
+        std::string value; // quotes of strings removed
     };
     using Trap = std::vector<Variable>;
 
@@ -32,12 +32,14 @@ public:
     // empty loads none and prints OIDs as numbers.
     explicit TrapReceiver(std::string const& mibDirs = "") {
         char pattern[] = "/tmp/veldra-traps-XXXXXX";
-        if (mkdtemp(pattern) == nullptr) throw std::runtime_error("mkdtemp failed");
+        if (mkdtemp(pattern) == nullptr)
+            throw std::runtime_error("mkdtemp failed");
         _dir = pattern;
         _port = freeUdpPort();
         std::string const out = _dir + "/traps.log";
-        std::vector<std::string> args = {"snmptrapd", "-f", "-Lo", "-C", "-c", "/dev/null",
-                                         "--disableAuthorization=yes", "-F", "TRAP %v\n"};
+        std::vector<std::string> args = {
+            "snmptrapd", "-f",       "-Lo", "-C", "-c", "/dev/null", "--disableAuthorization=yes",
+            "-F",        "TRAP %v\n"};
         if (mibDirs.empty()) {
             args.insert(args.end(), {"-On", "-m", ""});
         } else {
@@ -47,17 +49,21 @@ public:
         _pid = fork();
         if (_pid == 0) {
             setenv("SNMP_PERSISTENT_DIR", _dir.c_str(), 1);
-            if (std::freopen(out.c_str(), "w", stdout) == nullptr) _exit(126);
-            if (std::freopen((_dir + "/stderr.log").c_str(), "w", stderr) == nullptr) _exit(126);
+            if (std::freopen(out.c_str(), "w", stdout) == nullptr)
+                _exit(126);
+            if (std::freopen((_dir + "/stderr.log").c_str(), "w", stderr) == nullptr)
+                _exit(126);
             std::vector<char*> argv;
-            for (auto& a : args) argv.push_back(a.data());
+            for (auto& a : args)
+                argv.push_back(a.data());
             argv.push_back(nullptr);
             execvp(argv[0], argv.data());
             _exit(127);
         }
         // snmptrapd says its version once it listens.
         for (int i = 0; i < 200; ++i) {
-            if (_read("traps.log").find("NET-SNMP version") != std::string::npos) return;
+            if (_read("traps.log").find("NET-SNMP version") != std::string::npos)
+                return;
             int status = 0;
             if (waitpid(_pid, &status, WNOHANG) == _pid) {
                 _pid = -1;
@@ -90,7 +96,8 @@ public:
         std::vector<Trap> traps;
         for (int i = 0; i < 200; ++i) {
             traps = received();
-            if (traps.size() >= count) break;
+            if (traps.size() >= count)
+                break;
             std::this_thread::sleep_for(std::chrono::milliseconds(25));
         }
         return traps;
@@ -101,13 +108,15 @@ public:
         std::istringstream lines(_read("traps.log"));
         std::string line;
         while (std::getline(lines, line)) {
-            if (line.rfind("TRAP ", 0) != 0) continue;
+            if (line.rfind("TRAP ", 0) != 0)
+                continue;
             Trap trap;
             std::istringstream fields(line.substr(5));
             std::string field;
             while (std::getline(fields, field, '\t')) {
                 auto const eq = field.find(" = ");
-                if (eq == std::string::npos) continue;
+                if (eq == std::string::npos)
+                    continue;
                 Variable v;
                 v.oid = field.substr(0, eq);
                 std::string rest = field.substr(eq + 3);

@@ -42,14 +42,15 @@ TEST(MWAlertIndication, SettersFillTheirPropertiesAndIdentifiersRun) {
     EXPECT_EQ(got.getProperty("IndicationIdentifier").getString(), std::to_string(first.getId()));
     EXPECT_EQ(got.getProperty("IndicationNumber").getType(), CMPI_sint32);
     EXPECT_EQ(got.getProperty("IndicationTime").getType(), CMPI_dateTime);
-    for (char const* text : {"AlertingManagedElement", "Description", "EventID", "ProviderName",
-                             "SystemCreationClassName", "Summary", "ProbableCauseDescription",
-                             "NetworkIPAddress", "HWLogicalLocation", "HWPhysicalLocation",
-                             "DeviceControllerLogicalLocation", "HWFirmwareVersion", "HWManufacturer",
-                             "HWSerialNumber", "DeviceModel"}) {
+    for (char const* text :
+         {"AlertingManagedElement", "Description", "EventID", "ProviderName",
+          "SystemCreationClassName", "Summary", "ProbableCauseDescription", "NetworkIPAddress",
+          "HWLogicalLocation", "HWPhysicalLocation", "DeviceControllerLogicalLocation",
+          "HWFirmwareVersion", "HWManufacturer", "HWSerialNumber", "DeviceModel"}) {
         EXPECT_EQ(got.getProperty(text).getType(), CMPI_string) << text;
     }
-    for (char const* number : {"AlertingElementFormat", "AlertType", "EventCategory", "ProbableCause"}) {
+    for (char const* number :
+         {"AlertingElementFormat", "AlertType", "EventCategory", "ProbableCause"}) {
         EXPECT_EQ(got.getProperty(number).getType(), CMPI_uint16) << number;
     }
     EXPECT_EQ(got.getProperty("HWSerialNumber").getString(), "serial");

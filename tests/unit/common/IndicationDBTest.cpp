@@ -28,7 +28,9 @@ protected:
         env.set("VELDRA_LOG", dir.file("log"));
         env.set("VELDRA_LOG_LEVEL", "info");
     }
-    void useFile(std::string const& text) { env.set("VELDRA_INDICATION_DB", dir.write("db.yaml", text)); }
+    void useFile(std::string const& text) {
+        env.set("VELDRA_INDICATION_DB", dir.write("db.yaml", text));
+    }
     std::string log() const { return readFile(dir.file("log")); }
 
     TempDir dir;
@@ -39,22 +41,29 @@ protected:
 // A complete record under an event number, with one field replaced
 // ("key: value"), dropped ("key:") or added.
 std::string record(int event, std::string const& change = "") {
-    std::vector<std::string> fields = {
-        "eventID: E-1", "indicationNumber: 7001", "description: \"Disk failed.\"",
-        "summary: \"Disk failed\"", "eventCategory: 5", "alertType: 5", "probableCause: 16",
-        "probableCauseDescription: \"Disk failure\"", "recommendedActions: \"Replace the disk.\""};
+    std::vector<std::string> fields = {"eventID: E-1",
+                                       "indicationNumber: 7001",
+                                       "description: \"Disk failed.\"",
+                                       "summary: \"Disk failed\"",
+                                       "eventCategory: 5",
+                                       "alertType: 5",
+                                       "probableCause: 16",
+                                       "probableCauseDescription: \"Disk failure\"",
+                                       "recommendedActions: \"Replace the disk.\""};
     std::string const key = change.substr(0, change.find(':') + 1);
     std::string text = "    " + std::to_string(event) + ":\n";
     bool replaced = false;
     for (std::string const& field : fields) {
         if (!key.empty() && field.rfind(key, 0) == 0) {
             replaced = true;
-            if (change.size() > key.size()) text += "      " + change + "\n";
+            if (change.size() > key.size())
+                text += "      " + change + "\n";
             continue;
         }
         text += "      " + field + "\n";
     }
-    if (!replaced && !change.empty()) text += "      " + change + "\n";
+    if (!replaced && !change.empty())
+        text += "      " + change + "\n";
     return text;
 }
 
@@ -131,7 +140,8 @@ TEST_F(IndicationDBTest, BadRecordsAreLeftOutAndTheRestStand) {
     }
     std::string const lines = log();
     EXPECT_NE(lines.find("event 3: field indicationNumber is missing"), std::string::npos) << lines;
-    EXPECT_NE(lines.find("event 4: alertType must be a number, not \"five\""), std::string::npos) << lines;
+    EXPECT_NE(lines.find("event 4: alertType must be a number, not \"five\""), std::string::npos)
+        << lines;
     EXPECT_NE(lines.find("event 5: unknown field colour"), std::string::npos) << lines;
     EXPECT_NE(lines.find("event 6: probableCause is out of range"), std::string::npos) << lines;
 

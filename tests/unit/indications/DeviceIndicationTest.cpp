@@ -12,16 +12,19 @@ namespace {
 
 std::vector<std::string> oidsOf(RecordedTrap const& trap) {
     std::vector<std::string> out;
-    for (varbind const& v : trap.variables) out.push_back(IndicationTest::valueOf(v));
+    for (varbind const& v : trap.variables)
+        out.push_back(IndicationTest::valueOf(v));
     return out;
 }
 
 void sendDisk(Logger& logger, CMPIContext const* context, int event, std::uint16_t previous,
-              std::uint16_t current, std::string const& serial = "S1", std::uint16_t driveInterface = 2) {
+              std::uint16_t current, std::string const& serial = "S1",
+              std::uint16_t driveInterface = 2) {
     QLN::QLN_VeldraDiskDriveIndication(logger, "root/mwq")
-        .sendIndication(event, previous, current, "HPD7", "Logical Volume 1 (RAID 5)", "Port 1I Box 1 Bay 3",
-                        "Veldra VX in Slot 3", serial, "MB4000", 1, (1 << 16) + 3, driveInterface, 0x21, 1,
-                        "Too many media errors", "DiskDriveStatusChange", "disk-path", context);
+        .sendIndication(event, previous, current, "HPD7", "Logical Volume 1 (RAID 5)",
+                        "Port 1I Box 1 Bay 3", "Veldra VX in Slot 3", serial, "MB4000", 1,
+                        (1 << 16) + 3, driveInterface, 0x21, 1, "Too many media errors",
+                        "DiskDriveStatusChange", "disk-path", context);
 }
 
 } // namespace
@@ -31,8 +34,8 @@ void sendDisk(Logger& logger, CMPIContext const* context, int event, std::uint16
 // swapped, and the trap line logged before the trap.
 TEST_F(IndicationTest, VolumeEventIndexesFromOneAndCarriesItsStatusLists) {
     QLN::QLN_VeldraStorageVolumeIndication(logger, "root/mwq")
-        .sendIndication(3, "Logical Volume 1 (RAID 1)", 2, 0, 0x8001, {2}, {3, 0x8001}, "StorageVolumeStateChange",
-                        "volume-path", context);
+        .sendIndication(3, "Logical Volume 1 (RAID 1)", 2, 0, 0x8001, {2}, {3, 0x8001},
+                        "StorageVolumeStateChange", "volume-path", context);
     CimInstance const got = delivered();
     EXPECT_EQ(text(got, "HWLogicalLocation"), "Logical Volume 1 (RAID 1)");
     EXPECT_EQ(texts(got, "DeviceOperationalStatus"), (Strings{"3", std::to_string(0x8001)}));
@@ -44,7 +47,8 @@ TEST_F(IndicationTest, VolumeEventIndexesFromOneAndCarriesItsStatusLists) {
               (Strings{"1.3.6.1.4.1.57913.0.3034", "", "", "1.3.6.1.4.1.57913.3.2.2.1.1.20.2",
                        "1.3.6.1.4.1.57913.3.2.3.1.1.1.2.1", "1.3.6.1.4.1.57913.3.2.3.1.1.2.2.1",
                        "1.3.6.1.4.1.57913.3.2.3.1.1.4.2.1"}));
-    EXPECT_EQ(oidsOf(trap()), (Strings{"12", "veldra-host", "Logical Volume 1 (RAID 1)", "2", "1", "1"}));
+    EXPECT_EQ(oidsOf(trap()),
+              (Strings{"12", "veldra-host", "Logical Volume 1 (RAID 1)", "2", "1", "1"}));
     std::string const lines = log();
     auto const sentAt = lines.find("Sent snmp trap to Tarvo 3034");
     EXPECT_NE(lines.find("Send Veldra Storage Volume indication: 3"), std::string::npos);
@@ -88,7 +92,8 @@ TEST_F(IndicationTest, DiskWearEventCarriesWearAndSixteenBitCode) {
     EXPECT_EQ(text(got, "HWFirmwareVersion"), "Veldra Physical Drive:HPD7");
     EXPECT_EQ(text(got, "HWPhysicalLocation"), "Port 1I Box 1 Bay 3");
     EXPECT_EQ(text(got, "DeviceControllerLogicalLocation"), "Veldra VX in Slot 3");
-    EXPECT_EQ(texts(got, "VariableValues"), (Strings{"DiskDriveStatusChange", "2", "Too many media errors"}));
+    EXPECT_EQ(texts(got, "VariableValues"),
+              (Strings{"DiskDriveStatusChange", "2", "Too many media errors"}));
     EXPECT_EQ(number(got, "TrapID"), 3049);
     EXPECT_EQ(number(got, "zrqDaPhyDrvSSDWearStatus"), 5);
     EXPECT_EQ(number(got, "zrqDaPhyDrvType"), 3);
@@ -100,9 +105,9 @@ TEST_F(IndicationTest, DiskWearEventCarriesWearAndSixteenBitCode) {
     EXPECT_EQ(oids[14], "1.3.6.1.4.1.57913.3.2.5.1.1.73.1.65539");
     RecordedTrap const sent = trap();
     ASSERT_EQ(sent.variables.size(), 14u);
-    EXPECT_EQ(oidsOf(sent),
-              (Strings{"12", "veldra-host", "Veldra VX in Slot 3", "1", "65539", "Logical Volume 1 (RAID 5)", "3",
-                       "MB4000", "HPD7", "NoSerialNum-7", "0", "8", "1", "5"}));
+    EXPECT_EQ(oidsOf(sent), (Strings{"12", "veldra-host", "Veldra VX in Slot 3", "1", "65539",
+                                     "Logical Volume 1 (RAID 5)", "3", "MB4000", "HPD7",
+                                     "NoSerialNum-7", "0", "8", "1", "5"}));
     EXPECT_EQ(sent.variables[10].valueLength, 2);
     EXPECT_EQ(sent.variables[3].oidLength, 15);
     EXPECT_EQ(sent.variables[2].oidLength, 14);
@@ -146,8 +151,8 @@ TEST_F(IndicationTest, DiskStatusEventsAndTheSilentCases) {
 // swapped, and an event of the other enclosure class sending a trap.
 TEST_F(IndicationTest, EnclosureStatusColumnTellsFanFromPowerSupply) {
     QLN::QLN_VeldraStorageEnclosureIndication(logger, "root/mwq")
-        .sendIndication(5, "Port 1E Box 1", "Veldra VX in Slot 3", "ENC1", "D3700", "QLN", 1, 0, "encl-path",
-                        context);
+        .sendIndication(5, "Port 1E Box 1", "Veldra VX in Slot 3", "ENC1", "D3700", "QLN", 1, 0,
+                        "encl-path", context);
     CimInstance const got = delivered();
     EXPECT_EQ(text(got, "HWSerialNumber"), "Veldra Enclosure:ENC1");
     EXPECT_EQ(text(got, "HWLogicalLocation"), "Port 1E Box 1");
@@ -159,8 +164,8 @@ TEST_F(IndicationTest, EnclosureStatusColumnTellsFanFromPowerSupply) {
                        "1.3.6.1.4.1.57913.8.2.1.1.6.1.1", "1.3.6.1.4.1.57913.8.2.1.1.4.1.1",
                        "1.3.6.1.4.1.57913.8.2.1.1.17.1.1", "1.3.6.1.4.1.57913.8.2.1.1.7.1.1",
                        "1.3.6.1.4.1.57913.8.2.1.1.23.1.1"}));
-    EXPECT_EQ(oidsOf(trap()), (Strings{"12", "veldra-host", "Veldra VX in Slot 3", "1", "1", "QLN", "D3700",
-                                       "ENC1", "5", "Port 1E Box 1"}));
+    EXPECT_EQ(oidsOf(trap()), (Strings{"12", "veldra-host", "Veldra VX in Slot 3", "1", "1", "QLN",
+                                       "D3700", "ENC1", "5", "Port 1E Box 1"}));
 
     sink->clear();
     trapRecorder() = TrapRecorder{};
@@ -179,8 +184,9 @@ TEST_F(IndicationTest, EnclosureStatusColumnTellsFanFromPowerSupply) {
 )"));
     QLN::QLN_VeldraStorageEnclosureIndication(logger, "root/mwq")
         .sendIndication(7, "p", "c", "s", "m", "v", 0, 0, "", context);
-    EXPECT_EQ(texts(delivered(), "IndicationOIDs"), (Strings{"-1", "<null>", "<null>", "<null>", "<null>", "<null>",
-                                                             "<null>", "<null>", "<null>", "<null>", "<null>"}));
+    EXPECT_EQ(texts(delivered(), "IndicationOIDs"),
+              (Strings{"-1", "<null>", "<null>", "<null>", "<null>", "<null>", "<null>", "<null>",
+                       "<null>", "<null>", "<null>"}));
     EXPECT_TRUE(trapRecorder().traps.empty());
 }
 

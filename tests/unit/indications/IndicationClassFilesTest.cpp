@@ -50,14 +50,16 @@ std::string mofType(CimValue const& value) {
 // another type (a trap number as uint32 where sint32 goes out).
 TEST_F(IndicationTest, EveryPropertySentIsDeclaredWithItsType) {
     QLN::QLN_VeldraIndication(logger, "root/mwq")
-        .sendIndication(10, 1, 3, "fw", "ctl", "QLN", "S", "M", "ControllerCacheStateChange", 1024, "C", "p", context);
+        .sendIndication(10, 1, 3, "fw", "ctl", "QLN", "S", "M", "ControllerCacheStateChange", 1024,
+                        "C", "p", context);
     QLN::QLN_VeldraCntlrIndication(logger, "root/mwq")
-        .sendIndication(1, 1, 3, "fw", "ctl", "QLN", "S", "M", "ControllerStateChange", 1024, "C", "p", context);
+        .sendIndication(1, 1, 3, "fw", "ctl", "QLN", "S", "M", "ControllerStateChange", 1024, "C",
+                        "p", context);
     QLN::QLN_VeldraStorageVolumeIndication(logger, "root/mwq")
         .sendIndication(2, "v", 1, 0, 4, {2}, {6, 4}, "StorageVolumeStateChange", "p", context);
     QLN::QLN_VeldraDiskDriveIndication(logger, "root/mwq")
-        .sendIndication(6, 1, 5, "fw", "v", "b", "c", "S", "M", 1, 3, 2, 7, 1, "t", "DiskDriveSSDStatusChange", "p",
-                        context);
+        .sendIndication(6, 1, 5, "fw", "v", "b", "c", "S", "M", 1, 3, 2, 7, 1, "t",
+                        "DiskDriveSSDStatusChange", "p", context);
     QLN::QLN_VeldraStorageEnclosureIndication(logger, "root/mwq")
         .sendIndication(3, "paths", "ctl", "S", "M", "QLN", 1, 0, "p", context);
     QLN::QLN_VeldraStorageEnclosureTempIndication(logger, "root/mwq")
@@ -71,7 +73,8 @@ TEST_F(IndicationTest, EveryPropertySentIsDeclaredWithItsType) {
             std::string key = name;
             std::transform(key.begin(), key.end(), key.begin(), ::tolower);
             auto const found = properties.find(key);
-            ASSERT_NE(found, properties.end()) << indication.className() << "." << name << " is not in the MOF";
+            ASSERT_NE(found, properties.end())
+                << indication.className() << "." << name << " is not in the MOF";
             EXPECT_EQ(found->second, mofType(value)) << indication.className() << "." << name;
         }
     }
@@ -84,16 +87,19 @@ TEST(IndicationRegistration, SixClassesAreIndicationProvidersEverywhere) {
     std::string const sfcb = readText(dir + "QLNVeldra.reg");
     std::string const pegasus = readText(dir + "QLNVeldraPegasus.mof");
     std::string const cimd = readText(dir + "veldra-cimd.yaml");
-    for (char const* name : {"QLN_VeldraIndication", "QLN_VeldraCntlrIndication", "QLN_VeldraStorageVolumeIndication",
-                             "QLN_VeldraDiskDriveIndication", "QLN_VeldraStorageEnclosureIndication",
-                             "QLN_VeldraStorageEnclosureTempIndication"}) {
+    for (char const* name :
+         {"QLN_VeldraIndication", "QLN_VeldraCntlrIndication", "QLN_VeldraStorageVolumeIndication",
+          "QLN_VeldraDiskDriveIndication", "QLN_VeldraStorageEnclosureIndication",
+          "QLN_VeldraStorageEnclosureTempIndication"}) {
         std::string const n(name);
-        EXPECT_TRUE(std::regex_search(sfcb, std::regex("\\[" + n + "\\]\\s+provider: QLNVeldra\\s+location: "
-                                                           "QLNVeldra\\s+type: indication\\n")))
+        EXPECT_TRUE(std::regex_search(sfcb, std::regex("\\[" + n +
+                                                       "\\]\\s+provider: QLNVeldra\\s+location: "
+                                                       "QLNVeldra\\s+type: indication\\n")))
             << n;
-        EXPECT_TRUE(std::regex_search(pegasus, std::regex("ClassName = \"" + n +
-                                                          "\";\\s+Namespaces = \\{\"root/mwq\"\\};\\s+"
-                                                          "ProviderType = \\{4\\};")))
+        EXPECT_TRUE(
+            std::regex_search(pegasus, std::regex("ClassName = \"" + n +
+                                                  "\";\\s+Namespaces = \\{\"root/mwq\"\\};\\s+"
+                                                  "ProviderType = \\{4\\};")))
             << n;
         EXPECT_NE(cimd.find("      - " + n + "\n"), std::string::npos) << n;
     }

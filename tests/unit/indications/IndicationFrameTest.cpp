@@ -8,9 +8,11 @@
 
 namespace {
 
-void sendControllerEvent(Logger& logger, CMPIContext const* context, int event, std::string const& text = "ctl") {
+void sendControllerEvent(Logger& logger, CMPIContext const* context, int event,
+                         std::string const& text = "ctl") {
     QLN::QLN_VeldraCntlrIndication(logger, "root/mwq")
-        .sendIndication(event, 0, 1, "", text, "", "", "", "ControllerStateChange", 0, "", "", context);
+        .sendIndication(event, 0, 1, "", text, "", "", "", "ControllerStateChange", 0, "", "",
+                        context);
 }
 
 class RefusingSink : public IndicationSink {
@@ -58,12 +60,14 @@ TEST_F(IndicationTest, FailuresOfTrapOrDeliveryStayInside) {
 TEST_F(IndicationTest, OverlongTrapTextIsCutToItsField) {
     std::string const longText(60, 'L');
     QLN::QLN_VeldraIndication(logger, "root/mwq")
-        .sendIndication(12, 0, 0, "", longText, "", "", "", "ControllerCacheStateChange", 0, "", "", context);
+        .sendIndication(12, 0, 0, "", longText, "", "", "", "ControllerCacheStateChange", 0, "", "",
+                        context);
     RecordedTrap const sent = trap();
     ASSERT_GE(sent.variables.size(), 3u);
     varbind const& location = sent.variables[2];
     EXPECT_EQ(location.valueLength, 47);
     EXPECT_EQ(valueOf(location), std::string(47, 'L'));
     EXPECT_EQ(text(delivered(), "zrqDaCtrlrHwLocation"), longText);
-    EXPECT_NE(log().find("trap variable zrqDaCtrlrHwLocation cut to 47 bytes"), std::string::npos) << log();
+    EXPECT_NE(log().find("trap variable zrqDaCtrlrHwLocation cut to 47 bytes"), std::string::npos)
+        << log();
 }

@@ -76,7 +76,8 @@ public:
     static std::vector<std::string> texts(CimInstance const& instance, char const* property) {
         std::vector<std::string> out;
         CimValue const* value = instance.property(property);
-        if (value == nullptr || value->isNull()) return out;
+        if (value == nullptr || value->isNull())
+            return out;
         for (CimValue const& element : value->elements()) {
             out.push_back(element.isNull() ? std::string("<null>") : element.toText());
         }
@@ -85,7 +86,8 @@ public:
 
     static std::string oidOf(varbind const& v) {
         std::string out;
-        for (int i = 0; i < v.oidLength; ++i) out += (i ? "." : "") + std::to_string(v.oid[i]);
+        for (int i = 0; i < v.oidLength; ++i)
+            out += (i ? "." : "") + std::to_string(v.oid[i]);
         return out;
     }
     // The value as the receiver would read it: "text" or a decimal number.
@@ -106,7 +108,8 @@ public:
     // "oid=value" per varbind, the shape the tests compare.
     static std::vector<std::string> varbinds(RecordedTrap const& trap) {
         std::vector<std::string> out;
-        for (varbind const& v : trap.variables) out.push_back(oidOf(v) + "=" + valueOf(v));
+        for (varbind const& v : trap.variables)
+            out.push_back(oidOf(v) + "=" + valueOf(v));
         return out;
     }
 

@@ -1,5 +1,5 @@
-#include "MPMRASMIF.h"
 #include "RecordingTrapSender.h"
+#include "MPMRASMIF.h"
 
 TrapRecorder& trapRecorder() {
     static TrapRecorder recorder;
@@ -10,7 +10,8 @@ MPMRASMIF::MPMRASMIF(Logger& logger) : _logger(logger) {}
 
 MPMRASMIF::~MPMRASMIF() = default;
 
-int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId, std::vector<varbind> const& variables) {
+int MPMRASMIF::sentSnmpTrapPassThrough(unsigned int const& trapId,
+                                       std::vector<varbind> const& variables) {
     trapRecorder().traps.push_back({trapId, variables});
     return trapRecorder().result;
 }

@@ -61,7 +61,7 @@ TEST_F(MPMRASMIFTest, ReceiverSeesTheTrapWithItsVariablesInOrder) {
     varbind code = number({1, 3, 6, 1, 4, 1, 57913, 3, 2, 5, 1, 1, 55, 0, 65539}, 0);
     std::uint16_t const failureCode = 0x1234;
     std::memcpy(code.value, &failureCode, sizeof failureCode);
-    code.value[2] = 0x7f;  // beyond the two bytes that count
+    code.value[2] = 0x7f; // beyond the two bytes that count
     code.valueLength = 2;
     std::vector<varbind> const variables = {
         number({1, 3, 6, 1, 4, 1, 57913, 11, 2, 11, 1}, 16),
@@ -98,7 +98,8 @@ TEST_F(MPMRASMIFTest, TextNeverReadsPastItsField) {
     TrapReceiver receiver;
     env.set("VELDRA_TRAP_DESTINATIONS", receiver.destination());
     // The record is followed in memory by another whose text must not leak in.
-    std::vector<varbind> variables = {text({1, 3, 6, 1, 2, 1, 1, 5}, ""), text({1, 3, 6, 1, 2, 1, 1, 5}, "LEAK")};
+    std::vector<varbind> variables = {text({1, 3, 6, 1, 2, 1, 1, 5}, ""),
+                                      text({1, 3, 6, 1, 2, 1, 1, 5}, "LEAK")};
     std::memset(variables[0].value, 'x', sizeof variables[0].value);
     variables[0].valueLength = 200;
     ASSERT_EQ(MPMRASMIF(logger).sentSnmpTrapPassThrough(8031, variables), 0) << log();
