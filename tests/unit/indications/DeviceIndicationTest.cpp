@@ -72,13 +72,35 @@ TEST_F(IndicationTest, VolumeWithoutChangeNameKeepsItsTrapAndLateEventsHaveNone)
     EXPECT_EQ(number(got, "zqrDaLogDrvIndex"), 5);
     EXPECT_EQ(trap().trapId, 3034u);
 
+    // The last event of the table, then one past it that has a record.
     sink->clear();
     trapRecorder() = TrapRecorder{};
-    env.set("VELDRA_LOG", dir.file("log2"));
     QLN::QLN_VeldraStorageVolumeIndication(logger, "root/mwq")
         .sendIndication(13, "v", 0, 0, 0, {}, {}, "StorageVolumeStateChange", "", context);
     EXPECT_EQ(number(delivered(), "zrqDaLogDrvStatus"), 1);
     EXPECT_EQ(number(delivered(), "zrqHoTrapFlags"), 12);
+
+    sink->clear();
+    trapRecorder() = TrapRecorder{};
+    env.set("VELDRA_INDICATION_DB", dir.write("db.yaml", R"(classes:
+  QLN_VeldraStorageVolumeIndication:
+    14: {providerName: P, eventID: E, indicationNumber: 1, description: D, summary: S, eventCategory: 4,
+         alertType: 5, probableCause: 1, probableCauseDescription: C, recommendedActions: R}
+)"));
+    QLN::QLN_VeldraStorageVolumeIndication(logger, "root/mwq")
+        .sendIndication(14, "v", 0, 0, 0, {}, {}, "StorageVolumeStateChange", "", context);
+    EXPECT_EQ(texts(delivered(), "IndicationOIDs")[0], "-1");
+    EXPECT_EQ(delivered().property("TrapID"), nullptr);
+    EXPECT_TRUE(trapRecorder().traps.empty());
+    // Only the two events with a trap logged it.
+    std::string const lines = log();
+    std::size_t count = 0;
+    for (auto at = lines.find("Veldra Storage Volume sending SNMP trap info");
+         at != std::string::npos;
+         at = lines.find("Veldra Storage Volume sending SNMP trap info", at + 1)) {
+        ++count;
+    }
+    EXPECT_EQ(count, 2u) << lines;
 }
 
 // Catches: the wear trap without its wear variable, the 16-bit failure code
