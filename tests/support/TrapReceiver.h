@@ -35,55 +35,17 @@ public:
         if (mkdtemp(pattern) == nullptr)
             throw std::runtime_error("mkdtemp failed");
         _dir = pattern;
-        _port = freeUdpPort();
-        std::string const out = _dir + "/traps.log";
-        std::vector<std::string> args = {
-            "snmptrapd", "-f",       "-Lo", "-C", "-c", "/dev/null", "--disableAuthorization=yes",
-            "-F",        "TRAP %v\n"};
-        if (mibDirs.empty()) {
-            args.insert(args.end(), {"-On", "-m", ""});
-        } else {
-            args.insert(args.end(), {"-M", mibDirs, "-m", "ALL"});
-        }
-        args.push_back("udp:127.0.0.1:" + std::to_string(_port));
-        _pid = fork();
-        if (_pid == 0) {
-            setenv("SNMP_PERSISTENT_DIR", _dir.c_str(), 1);
-            if (std::freopen(out.c_str(), "w", stdout) == nullptr)
-                _exit(126);
-            if (std::freopen((_dir + "/stderr.log").c_str(), "w", stderr) == nullptr)
-                _exit(126);
-            std::vector<char*> argv;
-            for (auto& a : args)
-                argv.push_back(a.data());
-            argv.push_back(nullptr);
-            execvp(argv[0], argv.data());
-            _exit(127);
-        }
-        // snmptrapd says its version once it listens.
-        for (int i = 0; i < 200; ++i) {
-            if (_read("traps.log").find("NET-SNMP version") != std::string::npos)
+        std::string why;
+        // The port was free a moment ago; another process may have taken it since.
+        for (int attempt = 0; attempt < 3; ++attempt) {
+            if (_start(mibDirs, why))
                 return;
-            int status = 0;
-            if (waitpid(_pid, &status, WNOHANG) == _pid) {
-                _pid = -1;
-                throw std::runtime_error("snmptrapd exited at start-up: " + _read("stderr.log") +
-                                         _read("traps.log"));
-            }
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
         }
-        throw std::runtime_error("snmptrapd did not start: " + _read("stderr.log"));
+        _cleanup();
+        throw std::runtime_error(why);
     }
 
-    ~TrapReceiver() {
-        if (_pid > 0) {
-            kill(_pid, SIGTERM);
-            int status = 0;
-            waitpid(_pid, &status, 0);
-        }
-        std::error_code ec;
-        std::filesystem::remove_all(_dir, ec);
-    }
+    ~TrapReceiver() { _cleanup(); }
 
     TrapReceiver(TrapReceiver const&) = delete;
     TrapReceiver& operator=(TrapReceiver const&) = delete;
@@ -151,6 +113,64 @@ public:
     }
 
 private:
+    bool _start(std::string const& mibDirs, std::string& why) {
+        _port = freeUdpPort();
+        std::string const out = _dir + "/traps.log";
+        std::vector<std::string> args = {
+            "snmptrapd", "-f",       "-Lo", "-C", "-c", "/dev/null", "--disableAuthorization=yes",
+            "-F",        "TRAP %v\n"};
+        if (mibDirs.empty()) {
+            args.insert(args.end(), {"-On", "-m", ""});
+        } else {
+            args.insert(args.end(), {"-M", mibDirs, "-m", "ALL"});
+        }
+        args.push_back("udp:127.0.0.1:" + std::to_string(_port));
+        _pid = fork();
+        if (_pid == 0) {
+            setenv("SNMP_PERSISTENT_DIR", _dir.c_str(), 1);
+            if (std::freopen(out.c_str(), "w", stdout) == nullptr)
+                _exit(126);
+            if (std::freopen((_dir + "/stderr.log").c_str(), "w", stderr) == nullptr)
+                _exit(126);
+            std::vector<char*> argv;
+            for (auto& a : args)
+                argv.push_back(a.data());
+            argv.push_back(nullptr);
+            execvp(argv[0], argv.data());
+            _exit(127);
+        }
+        // snmptrapd says its version once it listens.
+        for (int i = 0; i < 200; ++i) {
+            if (_read("traps.log").find("NET-SNMP version") != std::string::npos)
+                return true;
+            int status = 0;
+            if (waitpid(_pid, &status, WNOHANG) == _pid) {
+                _pid = -1;
+                why = "snmptrapd exited at start-up: " + _read("stderr.log") + _read("traps.log");
+                return false;
+            }
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        why = "snmptrapd did not start: " + _read("stderr.log");
+        _stopProcess();
+        return false;
+    }
+
+    void _stopProcess() {
+        if (_pid > 0) {
+            kill(_pid, SIGTERM);
+            int status = 0;
+            waitpid(_pid, &status, 0);
+            _pid = -1;
+        }
+    }
+
+    void _cleanup() {
+        _stopProcess();
+        std::error_code ec;
+        std::filesystem::remove_all(_dir, ec);
+    }
+
     std::string _read(std::string const& name) const {
         std::ifstream in(_dir + "/" + name);
         std::stringstream text;
