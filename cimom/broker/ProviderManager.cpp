@@ -499,6 +499,18 @@ void ProviderManager::enableIndications() {
     _switchCall(&CMPIIndicationMIFT::enableIndications, "enableIndications");
 }
 
+std::vector<std::pair<std::string, std::string>> ProviderManager::indicationClasses() const {
+    std::shared_lock<std::shared_mutex> lock(_lifecycle);
+    std::vector<std::pair<std::string, std::string>> out;
+    for (const auto& p : _providers) {
+        if (p->indicationMI() == nullptr) continue;
+        const ProviderRegistration& reg = p->registration();
+        for (const std::string& ns : reg.namespaces)
+            for (const std::string& cls : reg.classes) out.emplace_back(ns, cls);
+    }
+    return out;
+}
+
 void ProviderManager::disableIndications() {
     _switchCall(&CMPIIndicationMIFT::disableIndications, "disableIndications");
 }

@@ -95,6 +95,8 @@ public:
                           bool lastActivation);
     void enableIndications();
     void disableIndications();
+    // The (namespace, class) pairs that indication providers registered.
+    std::vector<std::pair<std::string, std::string>> indicationClasses() const;
 
     void shutdown();
 

@@ -42,6 +42,7 @@ public:
         invalidClass = 5,
         notFound = 6,
         notSupported = 7,
+        alreadyExists = 11,
         methodNotFound = 17,
     };
 

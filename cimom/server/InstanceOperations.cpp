@@ -7,6 +7,7 @@
 #include "CimOperationHandler.h"
 #include "InstanceXml.h"
 #include "ProviderManager.h"
+#include "SubscriptionOperations.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -105,6 +106,14 @@ void InstanceOperations::registerWith(CimOperationHandler& handler) const {
         _checkParams(request, {"ObjectName", "ResultClass", "Role"});
         _references(request, out, true);
     });
+    handler.addOperation("CreateInstance", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"NewInstance"});
+        _createInstance(request, out);
+    });
+    handler.addOperation("DeleteInstance", [this](const CimRequest& request, CimXmlWriter& out) {
+        _checkParams(request, {"InstanceName"});
+        _deleteInstance(request, out);
+    });
     handler.setMethodCall([this](const CimRequest& request, CimXmlWriter& out) { invokeMethod(request, out); });
 }
 
@@ -121,8 +130,49 @@ InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(const CimReque
     return options;
 }
 
+bool InstanceOperations::_enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names,
+                                                 CimXmlWriter& out) const {
+    if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), className)) return false;
+    InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
+    out.open("IRETURNVALUE");
+    for (const CimInstance& instance : _subscriptions->instances(className)) {
+        if (names) {
+            InstanceXml::writeInstanceName(out, instance.path(), _host);
+            continue;
+        }
+        options.cls = _classes.find(request.nameSpace(), instance.className());
+        out.open("VALUE.NAMEDINSTANCE");
+        InstanceXml::writeInstanceName(out, instance.path(), _host);
+        InstanceXml::writeInstance(out, instance, options);
+        out.close();
+    }
+    out.close();
+    return true;
+}
+
+void InstanceOperations::_createInstance(const CimRequest& request, CimXmlWriter& out) const {
+    const CimRequest::Param* p = request.param("NewInstance");
+    std::string cls = p ? p->node.child("INSTANCE").attribute("CLASSNAME").value() : "";
+    if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), cls))
+        fail(CimOperationError::notSupported, "instances of " + (cls.empty() ? std::string("this class") : cls) +
+                                                  " in " + request.nameSpace() + " cannot be created");
+    CimObjectPath made = _subscriptions->create(request);
+    out.open("IRETURNVALUE");
+    InstanceXml::writeInstanceName(out, made, _host);
+    out.close();
+}
+
+void InstanceOperations::_deleteInstance(const CimRequest& request, CimXmlWriter& out) const {
+    CimObjectPath path = _objectName(request, "InstanceName");
+    if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), path.className()))
+        fail(CimOperationError::notSupported, "instances of " + path.className() + " cannot be deleted");
+    _subscriptions->remove(path);
+    (void)out;  // DeleteInstance answers with no return value
+}
+
 void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const {
     std::string className = _requireClass(request, "ClassName");
+    if (_enumerateSubscriptions(request, className, true, out)) return;
     PathSet seen;
     out.open("IRETURNVALUE");
     for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
@@ -141,6 +191,7 @@ void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimX
 
 void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWriter& out) const {
     std::string className = _requireClass(request, "ClassName");
+    if (_enumerateSubscriptions(request, className, false, out)) return;
     bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
     CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
     InstanceXml::InstanceOptions options = _instanceOptions(request, true);
@@ -194,6 +245,12 @@ void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& o
     CimOperationHandler::boolParam(request, "LocalOnly", false);
     InstanceXml::InstanceOptions options = _instanceOptions(request, true);
     options.cls = _classes.find(request.nameSpace(), path.className());
+    if (_subscriptions && _subscriptions->serves(request.nameSpace(), path.className())) {
+        out.open("IRETURNVALUE");
+        InstanceXml::writeInstance(out, _subscriptions->get(path), options);
+        out.close();
+        return;
+    }
     if (!_providers.hasInstanceProvider(request.nameSpace(), path.className()))
         fail(CimOperationError::notFound, "no provider serves " + path.className());
     auto providerList = toList(options.propertyList);

@@ -13,6 +13,7 @@
 class ClassRepository;
 class CimOperationHandler;
 class ProviderManager;
+class SubscriptionOperations;
 
 // The instance, association and method operations: reads their parameters,
 // asks the providers of the class and its subclasses through the
@@ -24,6 +25,10 @@ public:
     // HOST written into INSTANCEPATHs ("127.0.0.1:5988").
     void setHost(std::string host) { _host = std::move(host); }
 
+    // The subscription classes of root/interop, which the object manager
+    // serves itself; without them CreateInstance and DeleteInstance are refused.
+    void setSubscriptions(SubscriptionOperations* subscriptions) { _subscriptions = subscriptions; }
+
     // Adds the instance, association and method operations to the handler's table.
     void registerWith(CimOperationHandler& handler) const;
 
@@ -33,6 +38,11 @@ private:
     void _enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const;
     void _enumerateInstances(const CimRequest& request, CimXmlWriter& out) const;
     void _getInstance(const CimRequest& request, CimXmlWriter& out) const;
+    void _createInstance(const CimRequest& request, CimXmlWriter& out) const;
+    void _deleteInstance(const CimRequest& request, CimXmlWriter& out) const;
+    // True when the subscription classes answered the enumeration.
+    bool _enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names,
+                                 CimXmlWriter& out) const;
     void _associators(const CimRequest& request, CimXmlWriter& out, bool names) const;
     void _references(const CimRequest& request, CimXmlWriter& out, bool names) const;
 
@@ -52,5 +62,6 @@ private:
 
     const ClassRepository& _classes;
     ProviderManager& _providers;
+    SubscriptionOperations* _subscriptions = nullptr;
     std::string _host = "localhost";
 };

@@ -3,7 +3,10 @@
 #include "ClassRepository.h"
 #include "CimHttpServer.h"
 #include "CimOperationHandler.h"
+#include "IndicationDispatcher.h"
 #include "InstanceOperations.h"
+#include "SubscriptionOperations.h"
+#include "SubscriptionStore.h"
 #include "MofError.h"
 #include "PasswordFile.h"
 #include "ProviderManager.h"
@@ -14,6 +17,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -38,6 +42,7 @@ struct Options {
     std::string scenario;
     std::string registration = VELDRA_DEFAULT_REGISTRATION;
     std::string mofDir = VELDRA_DEFAULT_MOF_DIR;
+    std::string interopMof = VELDRA_DEFAULT_INTEROP_MOF;
     std::vector<std::string> mofFiles;
     std::string providerDir;
     std::string users;
@@ -53,6 +58,9 @@ struct Options {
     size_t maxConnections = 512;
     size_t maxPerClient = 64;
     int shutdownGrace = 10;
+    std::string stateFile;
+    int deliveryAttempts = 8;
+    int deliveryPauseMs = 500;
 };
 
 }  // namespace
@@ -67,6 +75,8 @@ int main(int argc, char** argv) {
     app.add_option("--scenario", o.scenario, "simulated hardware scenario (sets VELDRA_SCENARIO)");
     app.add_option("--registration", o.registration, "provider registration file")->capture_default_str();
     app.add_option("--mof-dir", o.mofDir, "folder of MOF class files")->capture_default_str();
+    app.add_option("--interop-mof", o.interopMof, "MOF of the subscription classes in root/interop; empty for none")
+        ->capture_default_str();
     app.add_option("--mof", o.mofFiles, "extra MOF file (repeatable)");
     app.add_option("--provider-dir", o.providerDir, "folder of provider libraries (default <bin>/../lib)");
     app.add_option("--users", o.users, "users file for HTTP Basic authentication (see veldra-passwd)");
@@ -82,6 +92,12 @@ int main(int argc, char** argv) {
     app.add_option("--max-connections", o.maxConnections, "most connections open at once")->check(CLI::Range(1, 100000));
     app.add_option("--max-connections-per-client", o.maxPerClient, "most connections open at once from one address")->check(CLI::Range(1, 100000));
     app.add_option("--shutdown-grace", o.shutdownGrace, "seconds running requests may take to finish at shutdown")->check(CLI::Range(0, 3600));
+    app.add_option("--state-file", o.stateFile,
+                   "where subscriptions are kept across restarts (default <bin>/../var/veldra-cimd/subscriptions.json)");
+    app.add_option("--delivery-attempts", o.deliveryAttempts, "sends of one indication to a listener at most")
+        ->check(CLI::Range(1, 100));
+    app.add_option("--delivery-pause-ms", o.deliveryPauseMs, "pause after a failed send, doubled each time up to 5 s")
+        ->check(CLI::Range(1, 60000));
     CLI11_PARSE(app, argc, argv);
 
     ServerLog::Level level = ServerLog::Level::Info;
@@ -112,10 +128,24 @@ int main(int argc, char** argv) {
     ClassRepository classes;
     std::optional<PasswordFile> users;
     std::unique_ptr<ProviderManager> providers;
+    if (o.stateFile.empty())
+        o.stateFile = (executableDir() / ".." / "var" / "veldra-cimd" / "subscriptions.json").lexically_normal().string();
+    SubscriptionStore subscriptionStore(o.stateFile);
+    ListenerQueue::Settings delivery;
+    delivery.attempts = o.deliveryAttempts;
+    delivery.firstPause = std::chrono::milliseconds(o.deliveryPauseMs);
+    auto dispatcher = std::make_shared<IndicationDispatcher>(
+        subscriptionStore,
+        [&classes](const std::string& ns, const std::string& cls, const std::string& base) {
+            return classes.isA(ns, cls, base);
+        },
+        delivery);
     try {
         if (!o.mofDir.empty() && std::filesystem::is_directory(o.mofDir)) classes.loadDirectory(o.mofDir, "root/mwq");
         else if (!o.mofDir.empty()) ServerLog::warn("MOF folder " + o.mofDir + " not found");
         for (const auto& f : o.mofFiles) classes.loadFile(f, "root/mwq");
+        // The object manager's own classes: subscriptions to indications.
+        if (!o.interopMof.empty()) classes.loadFile(o.interopMof, "root/interop");
         if (!o.users.empty()) users = PasswordFile::load(o.users);
         classes.resolve();
         ProviderManager::Options managerOptions;
@@ -132,6 +162,7 @@ int main(int argc, char** argv) {
                 default: ServerLog::debug(text); break;
             }
         };
+        managerOptions.indicationSink = dispatcher;
         providers = std::make_unique<ProviderManager>(managerOptions);
         if (!o.registration.empty()) {
             if (!std::filesystem::exists(o.registration))
@@ -150,7 +181,12 @@ int main(int argc, char** argv) {
         return 1;
     }
 
+    char systemName[256] = {};
+    if (gethostname(systemName, sizeof systemName - 1) != 0) std::strcpy(systemName, "localhost");
+    SubscriptionOperations subscriptions(subscriptionStore, *providers, classes, systemName);
+    subscriptions.activate();
     InstanceOperations instances(classes, *providers);
+    instances.setSubscriptions(&subscriptions);
     CimOperationHandler handler(classes, CimOperationHandler::Settings{o.maxDepth});
     instances.registerWith(handler);
     CimHttpServer::Settings settings;
