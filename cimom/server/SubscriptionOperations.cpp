@@ -159,6 +159,8 @@ CimObjectPath SubscriptionOperations::create(const CimRequest& request) {
         } else {
             fail(CimOperationError::notSupported, "instances of " + cls + " cannot be created here");
         }
+    } catch (const CimOperationError&) {
+        throw;
     } catch (const std::invalid_argument& e) {
         std::string what = e.what();
         fail(what.find("exists") != std::string::npos ? CimOperationError::alreadyExists
@@ -187,9 +189,9 @@ void SubscriptionOperations::remove(const CimObjectPath& path) {
                 removed = _store.removeSubscription(keyText(filter->asReference(), "Name"),
                                                     keyText(handler->asReference(), "Name"));
         }
-    } catch (const std::invalid_argument& e) {
-        fail(CimOperationError::failed, e.what());
-    } catch (const std::runtime_error& e) {
+    } catch (const CimOperationError&) {
+        throw;
+    } catch (const std::exception& e) {
         fail(CimOperationError::failed, e.what());
     }
     if (!removed) fail(CimOperationError::notFound, "no such " + cls);
