@@ -3,7 +3,6 @@
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDDiskDrive.h"
 #include "QLN_VDStorageVolume.h"
-#include "QLN_VeldraIndication.h"
 #include "CmpiBroker.h"
 #include "CmpiObjectPath.h"
 #include "CmpiStatus.h"
@@ -21,8 +20,6 @@ std::uint32_t const methodNotFound = 17;
 char const* const diskDriveClass = "QLN_VDDiskDrive";
 char const* const storageVolumeClass = "QLN_VDStorageVolume";
 char const* const arraySystemClass = "QLN_VDArraySystem";
-char const* const heartbeatNameSpace = "root/mwq";
-int const heartbeatEvent = 100;
 int const physlocHandle = 255;
 
 // Holds the provider mutex for one scope, also when an exception passes.
@@ -184,6 +181,15 @@ void QLNVeldraProvider::invokeMethod(CmpiContext const& context, CmpiObjectPath 
 
 int QLNVeldraProvider::getProviderKind() { return 2; }
 
+std::vector<std::string> QLNVeldraProvider::instancePaths() const {
+    ProviderLock lock(_providerMutex);
+    std::vector<std::string> paths;
+    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+        paths.push_back(_managedInstances.getManagedInstance(i)->getPath().str());
+    }
+    return paths;
+}
+
 // An instance found under a method class's name that is not of that class
 // is as good as not found.
 template <typename MethodClass>
@@ -218,23 +224,6 @@ std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& p
         return _invokeOn<QLN_VDStorageVolume>(instance, method, in);
     }
     return _invokeOn<QLN_VDArraySystem>(instance, method, in);
-}
-
-std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiContext const& context) {
-    _logger.info("::_backgroundWorker");
-    if (_indicationsEnabled) {
-        _workerEnteredWithIndications = true;
-        // Before the lock and before any controller: a subscriber hears from
-        // a running system even when no hardware changes.
-        if (_heartbeatEnabled) {
-            _logger.info("Send heartbeat indication");
-            QLN_VeldraIndication heartbeat(_logger, heartbeatNameSpace);
-            heartbeat.sendIndication(heartbeatEvent, 0, 0, "", "", "", "", "", "", 0, "", "", context);
-        }
-    }
-    ProviderLock lock(_providerMutex);
-    // The reconcile steps join with the controller model; a pass has nothing to compare yet.
-    return 0;
 }
 
 } // namespace QLN

@@ -22,7 +22,9 @@
 
 namespace QLN {
 
+class QLN_VDArrayController;
 class QLN_VDArraySystem;
+struct WorkerPass;
 class QLN_VDPhysicalPackage;
 class QLN_VDSCSIProtocolController;
 class QLN_VDISASSCSIProtocolEndpoint;
@@ -84,6 +86,8 @@ public:
     bool indicationsEnabled() const { return _indicationsEnabled; }
     bool heartbeatEnabled() const { return _heartbeatEnabled; }
     unsigned int instanceCount() const { return _managedInstances.size(); }
+    // Every path of the graph, in collection order.
+    std::vector<std::string> instancePaths() const;
 
 private:
     // Fields that were kept in the provider's layout; nothing reads them.
@@ -117,6 +121,15 @@ private:
                                         std::vector<CmpiManagedInstance*>& newInstances);
     void _createViewClassInstances(int number, VeldraController* controller);
     std::uint32_t _backgroundWorker(CmpiCpp::CmpiContext const& context);
+    // The steps of one pass (worker/), in the order the pass calls them.
+    void _handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,
+                           CmpiCpp::CmpiContext const& context);
+    void _scanForController(WorkerPass& pass, QLN_VDArrayController* arrayController);
+    void _createNewDevices(WorkerPass& pass, QLN_VDArrayController* arrayController);
+    void _addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController* arrayController);
+    void _reconcileMembership(WorkerPass& pass, QLN_VDArrayController* arrayController);
+    void _releaseOrphanedExtents(WorkerPass& pass);
+    void _applyPending(WorkerPass& pass);
     template <typename MethodClass>
     static std::uint32_t _invokeOn(CmpiManagedInstance* instance, CmpiCpp::CmpiName const& method,
                                    CmpiCpp::CmpiArgs const& in);
@@ -134,7 +147,7 @@ private:
     std::atomic<bool> _workerEnteredWithIndications;
     bool _heartbeatEnabled;
     InternalVeldraControllerMRA* _internalVDControllerMRA;
-    pthread_mutex_t _providerMutex;
+    mutable pthread_mutex_t _providerMutex;
     // The volume objects that only lend their paths to cache-pair
     // associations; not in the collection, so the provider frees them.
     std::vector<std::unique_ptr<CmpiManagedInstance>> _cachePairEnds;

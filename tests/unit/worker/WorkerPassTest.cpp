@@ -1,0 +1,131 @@
+// Worker passes against a scenario that veldra-sim changes: after each kind
+// of hardware change, one pass must leave exactly the graph that a provider
+// started fresh on the changed scenario builds.
+#include "CapturedMethodResult.h"
+#include "CmpiArgs.h"
+#include "ProviderTestSupport.h"
+#include "QLNVeldraProvider.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <set>
+
+using namespace provider_test;
+using CmpiCpp::CmpiBroker;
+using CmpiCpp::CmpiContext;
+using CmpiCpp::CmpiName;
+
+namespace {
+
+class WorkingCopy {
+public:
+    explicit WorkingCopy(std::string const& scenario) {
+        _dir = std::filesystem::temp_directory_path() /
+               ("veldra-worker-" + std::to_string(::getpid()) + "-" + std::to_string(_next++));
+        std::filesystem::create_directories(_dir);
+        _file = _dir / "scenario.yaml";
+        std::filesystem::copy_file(std::string(VELDRA_DATA_DIR) + "/scenarios/" + scenario, _file);
+        ::setenv("VELDRA_SCENARIO", _file.c_str(), 1);
+    }
+    ~WorkingCopy() { std::filesystem::remove_all(_dir); }
+
+    void sim(std::string const& command) const {
+        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + _file.string() + " " +
+                                 command + " > /dev/null";
+        ASSERT_EQ(std::system(line.c_str()), 0) << line;
+    }
+
+private:
+    static inline int _next = 0;
+    std::filesystem::path _dir;
+    std::filesystem::path _file;
+};
+
+std::unique_ptr<QLN::QLNVeldraProvider> startProvider() {
+    Logger logger("QLNVeldra");
+    return std::make_unique<QLN::QLNVeldraProvider>(CmpiBroker(), logger);
+}
+
+void pass(QLN::QLNVeldraProvider& provider) {
+    CmpiCpp::CmpiObjectPath const path = CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDArraySystem");
+    QLN::CapturedMethodResult result;
+    provider.invokeMethod(CmpiContext(), path, CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+    ASSERT_EQ(result.returnValue().value_or(99), 0u);
+}
+
+std::multiset<std::string> graphOf(QLN::QLNVeldraProvider const& provider) {
+    std::vector<std::string> const paths = provider.instancePaths();
+    return {paths.begin(), paths.end()};
+}
+
+// What one side has and the other lacks, one path a line, for a readable failure.
+std::string difference(std::multiset<std::string> const& left, std::multiset<std::string> const& right) {
+    std::vector<std::string> only;
+    std::set_difference(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(only));
+    std::string text;
+    for (std::string const& path : only) {
+        text += "  " + path + "\n";
+    }
+    return text;
+}
+
+void expectSameGraph(QLN::QLNVeldraProvider const& worked) {
+    auto fresh = startProvider();
+    auto const have = graphOf(worked);
+    auto const want = graphOf(*fresh);
+    EXPECT_EQ(have, want) << "kept by the pass but not made fresh:\n"
+                          << difference(have, want) << "made fresh but missing after the pass:\n"
+                          << difference(want, have);
+}
+
+struct Change {
+    char const* name;
+    std::vector<std::string> commands;
+};
+
+void PrintTo(Change const& change, std::ostream* out) { *out << change.name; }
+
+class HardwareChange : public ::testing::TestWithParam<Change> {};
+
+} // namespace
+
+TEST(WorkerPass, QuietPassChangesNothing) {
+    WorkingCopy copy("demo.yaml");
+    auto provider = startProvider();
+    auto const before = graphOf(*provider);
+    pass(*provider);
+    pass(*provider);
+    EXPECT_EQ(graphOf(*provider), before);
+}
+
+// Each change gets a pass of its own, as when an operator types the commands
+// some seconds apart.
+TEST_P(HardwareChange, OnePassFollowsTheHardware) {
+    WorkingCopy copy("demo.yaml");
+    auto provider = startProvider();
+    for (std::string const& command : GetParam().commands) {
+        copy.sim(command);
+        pass(*provider);
+    }
+    expectSameGraph(*provider);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Demo, HardwareChange,
+    ::testing::Values(Change{"PullDisk", {"pull-disk NR8K1000"}},
+                      Change{"PullAndInsertDisk", {"pull-disk NR8K1000", "insert-disk NR8K1000"}},
+                      Change{"InsertNewDisk", {"insert-disk --controller 1 --box 2 --bay 12 --serial NEWDISK1"}},
+                      Change{"FailDisk", {"fail-disk NR8K1001"}},
+                      Change{"ActivateSpare", {"fail-disk NR8M3000", "activate-spare 600508B1001C7E110000000000000001"}},
+                      Change{"DeleteVolume", {"delete-volume 600508B1001C4D2A0000000000000005"}},
+                      Change{"DeleteVolumeWithSpare", {"delete-volume 600508B1001C4D2A0000000000000001"}},
+                      Change{"AddEnclosure", {"add-enclosure --controller 2 --box 7 --serial VNEWBOX7"}},
+                      Change{"RemoveEnclosure", {"remove-enclosure 1:2"}},
+                      Change{"CreateVolume",
+                             {"delete-volume 600508B1001C4D2A0000000000000005",
+                              "create-volume --controller 1 --serial 600508B1001C4D2A00000000000000AA "
+                              "--disks KS2T2010,KS2T2011 --spares KS2T2012"}}),
+    [](auto const& info) { return std::string(info.param.name); });

@@ -1,0 +1,157 @@
+// One worker pass: heartbeat, then each controller reports what changed and
+// the graph is reconciled under the provider lock; deletions and additions
+// reach the collection only at the end, in one batch.
+#include "QLNVeldraProvider.h"
+
+#include "QLNUtil.h"
+#include "QLN_VDArrayController.h"
+#include "QLN_VDArraySystem.h"
+#include "QLN_VDStoragePool.h"
+#include "QLN_VDStorageRedundancySet.h"
+#include "QLN_VDStorageSpecificCollection.h"
+#include "QLN_VeldraIndication.h"
+#include "WorkerPass.h"
+
+namespace QLN {
+
+namespace {
+char const* const heartbeatNameSpace = "root/mwq";
+int const heartbeatEvent = 100;
+} // namespace
+
+std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& context) {
+    _logger.info("::_backgroundWorker");
+    if (_indicationsEnabled) {
+        _workerEnteredWithIndications = true;
+        // Before the lock and before any controller: a subscriber hears from
+        // a running system even when no hardware changes.
+        if (_heartbeatEnabled) {
+            _logger.info("Send heartbeat indication");
+            QLN_VeldraIndication heartbeat(_logger, heartbeatNameSpace);
+            heartbeat.sendIndication(heartbeatEvent, 0, 0, "", "", "", "", "", "", 0, "", "", context);
+        }
+    }
+
+    WorkerPass pass;
+    bool locked = false;
+    pthread_mutex_lock(&_providerMutex);
+    locked = true;
+    // The one handler of the pass: whatever throws, the lock is given back and
+    // the caller of PerformWork hears of it. Nothing pending reaches the graph.
+    try {
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+            auto* arrayController = dynamic_cast<QLN_VDArrayController*>(_managedInstances.getManagedInstance(i));
+            if (arrayController != nullptr) {
+                _logger.info("handling controller");
+                _handleController(pass, arrayController, context);
+            }
+        }
+        _applyPending(pass);
+
+        _logger.info("starting array system manage dynamic");
+        std::vector<QLN_VDArraySystem*> arraySystems;
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+            if (auto* system = dynamic_cast<QLN_VDArraySystem*>(_managedInstances.getManagedInstance(i))) {
+                system->manageDynamic(_indicationsEnabled, context);
+                arraySystems.push_back(system);
+            }
+        }
+        // The group's status is made from the systems', so they go first.
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+            if (auto* group = dynamic_cast<QLN_VDStorageSpecificCollection*>(_managedInstances.getManagedInstance(i))) {
+                group->manageDynamic(_indicationsEnabled, context, arraySystems);
+            }
+        }
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+            if (auto* set = dynamic_cast<QLN_VDStorageRedundancySet*>(_managedInstances.getManagedInstance(i))) {
+                set->manageDynamic(_indicationsEnabled, context);
+            }
+        }
+        locked = false;
+        pthread_mutex_unlock(&_providerMutex);
+
+        // Posted on every pass, changed or not; the collection guards its own
+        // lookups, so no provider lock is needed for this walk.
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+            if (auto* group = dynamic_cast<QLN_VDStorageSpecificCollection*>(_managedInstances.getManagedInstance(i))) {
+                QLNUtil::postStatus(_logger, context, group->getInstance());
+            }
+        }
+    } catch (...) {
+        _logger.info("caught exception in manageDynamic");
+        // Instances made for the graph but never handed over belong to nobody.
+        for (CmpiManagedInstance* instance : pass.pendingAdditions) {
+            delete instance;
+        }
+        pass.pendingAdditions.clear();
+        if (locked) {
+            pthread_mutex_unlock(&_providerMutex);
+        }
+        throw;
+    }
+    return 0;
+}
+
+void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,
+                                          CmpiCpp::CmpiContext const& context) {
+    pass.clearController();
+    VeldraController* controller = arrayController->getController();
+    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+        auto* pool = dynamic_cast<QLN_VDStoragePool*>(_managedInstances.getManagedInstance(i));
+        if (pool != nullptr && pool->getController() == controller) {
+            _logger.info("found storage pool");
+            pass.pools.push_back(PoolEntry{pool->getArrayId(), pool});
+        }
+    }
+
+    arrayController->manageDynamic(_indicationsEnabled, context, pass.currentEnclosures, pass.newEnclosures,
+                                   pass.removedEnclosures, pass.pathChangeEnclosures, pass.currentLogicals,
+                                   pass.newLogicals, pass.removedLogicals, pass.currentPhysicals,
+                                   pass.newPhysicals, pass.removedPhysicals, pass.configChangedPhysicals,
+                                   pass.spareStateChangePhysicals, pass.pathChangePhysicals);
+    _logger.info("returned from manage dynamic");
+    auto logSize = [this](char const* format, std::size_t size) { _logger.info(format, static_cast<int>(size)); };
+    logSize("number of current enclosures %d:", pass.currentEnclosures.size());
+    logSize("number of new enclosures %d:", pass.newEnclosures.size());
+    logSize("number of removed enclosures %d:", pass.removedEnclosures.size());
+    logSize("number of path change enclosures %d:", pass.pathChangeEnclosures.size());
+    logSize("number of current logical disks %d:", pass.currentLogicals.size());
+    logSize("number of new logical disks %d:", pass.newLogicals.size());
+    logSize("number of removed logical disks %d:", pass.removedLogicals.size());
+    logSize("number of current physical disks %d:", pass.currentPhysicals.size());
+    logSize("number of new physical disks %d:", pass.newPhysicals.size());
+    logSize("number of removed physical disks %d:", pass.removedPhysicals.size());
+    logSize("number of config changed physical disks %d:", pass.configChangedPhysicals.size());
+    logSize("number of spare state change physical disks %d:", pass.spareStateChangePhysicals.size());
+    logSize("number of path change physical disks %d:", pass.pathChangePhysicals.size());
+
+    // Every controller has one concrete pool, array "1".
+    VeldraCFUArray array;
+    array.setArrayID("1");
+    pass.arrays.push_back(array);
+    std::vector<VeldraPhysicalDisk> dataDisks;
+    std::vector<VeldraPhysicalDisk> spareDisks;
+    for (VeldraCFUArray& entry : pass.arrays) {
+        for (VeldraPhysicalDisk const& disk : pass.currentPhysicals) {
+            if (disk.getConfiguration() == PD_CONFIG_DATA) {
+                dataDisks.push_back(disk);
+            }
+            if (disk.getConfiguration() == PD_CONFIG_SPARE) {
+                spareDisks.push_back(disk);
+            }
+        }
+        entry.setLastDataDisks(dataDisks);
+        entry.setLastSpareDisks(spareDisks);
+    }
+
+    // Config, spare and path changes alone never need the scan: they only
+    // move associations, which the two steps after it handle.
+    if (pass.structuralChange()) {
+        _scanForController(pass, arrayController);
+        _createNewDevices(pass, arrayController);
+    }
+    _addNewDiskPaths(pass, arrayController);
+    _reconcileMembership(pass, arrayController);
+}
+
+} // namespace QLN
