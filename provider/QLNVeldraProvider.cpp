@@ -213,17 +213,18 @@ std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& p
     if (!(diskDrive || storageVolume || arraySystem)) {
         return outcome;
     }
-    CmpiManagedInstance* instance = _managedInstances.getManagedInstance(path);
+    // Held, not borrowed: a worker pass may delete the instance meanwhile.
+    std::shared_ptr<CmpiManagedInstance> const instance = _managedInstances.shareManagedInstance(path);
     if (instance == nullptr) {
         return outcome;
     }
     if (diskDrive) {
-        return _invokeOn<QLN_VDDiskDrive>(instance, method, in);
+        return _invokeOn<QLN_VDDiskDrive>(instance.get(), method, in);
     }
     if (storageVolume) {
-        return _invokeOn<QLN_VDStorageVolume>(instance, method, in);
+        return _invokeOn<QLN_VDStorageVolume>(instance.get(), method, in);
     }
-    return _invokeOn<QLN_VDArraySystem>(instance, method, in);
+    return _invokeOn<QLN_VDArraySystem>(instance.get(), method, in);
 }
 
 } // namespace QLN

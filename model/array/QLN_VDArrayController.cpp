@@ -238,7 +238,7 @@ std::string serialOf(VeldraControllerData const& data) {
 namespace QLN {
 
 void QLN_VDArrayController::manageDynamic(
-    bool indicationsEnabled, CmpiCpp::CmpiContext const&, std::vector<VeldraEnclosure>& currentEnclosures,
+    bool indicationsEnabled, CmpiCpp::CmpiContext const& context, std::vector<VeldraEnclosure>& currentEnclosures,
     std::vector<VeldraEnclosure>& newEnclosures, std::vector<VeldraEnclosure>& removedEnclosures,
     std::vector<VeldraEnclosure>& pathChangeEnclosures, std::vector<VeldraLogicalDisk>& currentLogicals,
     std::vector<VeldraLogicalDisk>& newLogicals, std::vector<VeldraLogicalDisk>& removedLogicals,
@@ -262,11 +262,12 @@ void QLN_VDArrayController::manageDynamic(
     configChangedPhysicals.clear();
     spareStateChangePhysicals.clear();
 
+    DeviceEvents events(_logger, getControllerIndex(), context);
     if (_firstStatus) {
-        _firstStatusPass();
+        _firstStatusPass(events, indicationsEnabled);
     }
     _logger.info("after first_status check");
-    _controllerDataStage();
+    _controllerDataStage(events, indicationsEnabled);
     _logger.info("after controller check");
 
     VeldraController* controller = getController();
@@ -281,10 +282,10 @@ void QLN_VDArrayController::manageDynamic(
     _logger.info("Disk vector count changed: Old: %d New: %d",
                  static_cast<int>(controller->getConsumedDiskVectorCount()), static_cast<int>(count));
     std::string const serial = serialOf(_lastData());
-    _enclosurePass(serial, currentEnclosures, newEnclosures, removedEnclosures, pathChangeEnclosures);
-    _physicalPass(serial, currentPhysicals, newPhysicals, removedPhysicals, configChangedPhysicals,
+    _enclosurePass(events, indicationsEnabled, serial, currentEnclosures, newEnclosures, removedEnclosures, pathChangeEnclosures);
+    _physicalPass(events, indicationsEnabled, serial, currentPhysicals, newPhysicals, removedPhysicals, configChangedPhysicals,
                   spareStateChangePhysicals, pathChangePhysicals);
-    _logicalPass(serial, currentPhysicals, currentLogicals, newLogicals, removedLogicals);
+    _logicalPass(events, indicationsEnabled, serial, currentPhysicals, currentLogicals, newLogicals, removedLogicals);
     // Written only after all three lists are stored: a pass that throws half
     // way sees the counter moved again and compares once more.
     controller->setConsumedDiskVectorCount(count);
@@ -296,24 +297,225 @@ void QLN_VDArrayController::manageDynamic(
 }
 
 // Works on the stored snapshots, which the graph was built from, so that
-// what was already bad before the first pass is told once.
-void QLN_VDArrayController::_firstStatusPass() {
+// what was already bad before the first pass is told once. Cleared first:
+// a survey that throws is not repeated.
+void QLN_VDArrayController::_firstStatusPass(DeviceEvents& events, bool indicationsEnabled) {
     _firstStatus = false;
-    _logger.info("ControllerPath: %s", getPath().str().c_str());
+    VeldraControllerData const data = _lastData();
+    int const controllerIndex = static_cast<int>(getControllerIndex());
+    controllerOperationalStatusEnum operational{};
+    data.getControllerOperationalStatus(operational);
+    std::string const controllerPath = getPath().str();
+    _logger.info("ControllerPath: %s", controllerPath.c_str());
+
+    if (indicationsEnabled && operational != 1 && operational != 4) {
+        _logger.info("send controller %s operational status not OK", serialOf(data).c_str());
+        controllerStatusEnum state{};
+        data.getControllerStatus(state);
+        if (state == 3) {
+            events.sendControllerState(2, data, "ControllerStateChange", controllerPath);
+        }
+        cacheStatusEnum cache{};
+        data.getCacheStatus(cache);
+        if (cache >= 2 && cache <= 4) {
+            events.sendController(static_cast<int>(cache) + 8, data, "ControllerCacheStateChange", controllerPath);
+        }
+        batteryStatusEnum battery{};
+        data.getBatteryStatus(battery);
+        if (battery == 2 || battery == 3) {
+            events.sendController(battery == 2 ? 8 : 7, data, "ControllerBatteryStateChange", controllerPath);
+        }
+        EncryptSelfTestStatusEnum selfTest{};
+        data.getEncryptionSelfTestStatus(selfTest);
+        if (selfTest == 3) {
+            events.sendController(14, data, "ControllerEncryptionSelfTest", controllerPath);
+        }
+        EncryptCSPNvramStatusEnum nvram{};
+        data.getEncryptionCSPNvramStatus(nvram);
+        if (nvram == 3) {
+            events.sendController(16, data, "ControllerEncryptionCSPNVRAM", controllerPath);
+        }
+    }
+
+    VeldraController* controller = getController();
+    _logger.info("before enclosure check");
+    std::vector<VeldraEnclosure> const enclosures = controller->getLastAllEnclosures();
+    for (std::size_t i = 0; i < enclosures.size(); ++i) {
+        VeldraEnclosure const& enclosure = enclosures[i];
+        _logger.info("Enclosure %d path: %s", static_cast<int>(i),
+                     makeStorageEnclosurePath(controllerIndex, enclosure).str().c_str());
+        EnclosureStatusTypeEnum const overall = enclosure.getOverallStatus();
+        if (overall == 2 || !indicationsEnabled) {
+            continue;
+        }
+        _logger.info("send VD Enclosure %d Status bad indication %s (%d)", static_cast<int>(i),
+                     enclosure.OverallStatusToStr(overall), static_cast<int>(overall));
+        std::string const pathText = makeEnclosureProcessorPath(controllerIndex, enclosure).str();
+        if (int const event = DeviceEvents::fanEvent(enclosure.getFanStatus(), true); event > 0) {
+            events.sendEnclosure(event, enclosure, data, pathText);
+        }
+        if (int const event = DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), true); event > 0) {
+            events.sendEnclosure(event, enclosure, data, pathText);
+        }
+        if (int const event = DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), true); event > 0) {
+            events.sendEnclosureTemperature(event, enclosure, pathText);
+        }
+    }
+
+    _logger.info("before logical disk check");
+    std::vector<VeldraLogicalDisk> logicals;
+    controller->getLastLogicalDisks(logicals);
+    for (std::size_t i = 0; i < logicals.size(); ++i) {
+        VeldraLogicalDisk const& logical = logicals[i];
+        std::string const path = makeStorageVolumePath(data, controllerIndex, logical).str();
+        _logger.info("Logical disk %d path: %s", static_cast<int>(i), path.c_str());
+        if (logical.getStatus() == 2 || !indicationsEnabled) {
+            continue;
+        }
+        _logger.info("send VD Logical %s Disk Status bad indication %s (%d)", logical.getSerialNumber().c_str(),
+                     logical.statusToStr(logical.getStatus()), static_cast<int>(logical.getStatus()));
+        DeviceEvents::VolumeEvent const what = DeviceEvents::volumeEvent(logical.getStatus());
+        if (what.event > 0) {
+            // Always the first volume's path: the alert has carried it so.
+            events.sendVolume(logical, what, {}, "LogicalVolumeStateChange",
+                              makeStorageVolumePath(data, controllerIndex, logicals.front()).str());
+        }
+    }
+
+    _logger.info("before physical disk check");
+    std::vector<VeldraPhysicalDisk> const physicals = controller->getLastAllPhysicalDisks();
+    for (std::size_t i = 0; i < physicals.size(); ++i) {
+        VeldraPhysicalDisk const& disk = physicals[i];
+        std::string const path = makeDiskDrivePath(data, controllerIndex, disk).str();
+        _logger.info("Physical disk %d path: %s", static_cast<int>(i), path.c_str());
+        if (!indicationsEnabled) {
+            continue;
+        }
+        VeldraPhysicalDiskStatusEnum const status = disk.getStatus();
+        if (status != 1) {
+            _logger.info("VD Physical Disk %s Status not OK: %s (%d)", disk.getSerialNumber().c_str(),
+                         disk.diskStatusToStr(status), static_cast<int>(status));
+            if (int const event = DeviceEvents::diskStatusEvent(status, true); event > 0) {
+                events.sendDisk(event, 1, static_cast<std::uint16_t>(status), disk, data, "DiskDriveStatusChange",
+                                path);
+            }
+        }
+        VeldraPhysicalDiskSSDWearStatusEnum const wear = disk.getSSDWearStatus();
+        if (wear != 1 && disk.getSupportsGasGauge()) {
+            _logger.info("VD Physical Disk %s SSD Wearout Status not OK: %s (%d)", disk.getSerialNumber().c_str(),
+                         disk.SSDWearStatusToStr(wear), static_cast<int>(wear));
+            if (int const event = DeviceEvents::wearEvent(wear); event > 0) {
+                events.sendDisk(event, 1, static_cast<std::uint16_t>(wear), disk, data,
+                                "DiskDriveSSDWearOutStatusChange", path);
+            }
+        }
+    }
 }
 
-void QLN_VDArrayController::_controllerDataStage() {
+namespace {
+
+template <typename Enum>
+Enum read(VeldraControllerData const& data, int (VeldraControllerData::*getter)(Enum&) const) {
+    Enum value{};
+    (data.*getter)(value);
+    return value;
+}
+
+} // namespace
+
+void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indicationsEnabled) {
     VeldraController* controller = getController();
+    VeldraControllerData const last = _lastData();
+    std::string const serial = serialOf(last);
+    char const* const s = serial.c_str();
     u32 const count = controller->getControllerDataCount();
     if (controller->getConsumedControllerDataCount() == count) {
         return;
     }
+    _logger.info("Controller Data count changed: Old: %d New: %d",
+                 static_cast<int>(controller->getConsumedControllerDataCount()), static_cast<int>(count));
     VeldraControllerData const fresh = controller->getVDData();
-    controller->setLastVDData(fresh);
+    u32 const mask = fresh.compare(last);
+    if (mask != 0) {
+        _logger.info("Controller data changed");
+        std::string const pathText = getPath().str();
+        if (mask & VeldraControllerData::changeUnexpected) {
+            _logger.info("Unexpected VD %s Data Changed ChangeMask: 0x%x", s, mask);
+        }
+        if (mask & VeldraControllerData::changeOperationalStatus) {
+            auto const before = read(last, &VeldraControllerData::getControllerOperationalStatus);
+            auto const after = read(fresh, &VeldraControllerData::getControllerOperationalStatus);
+            _logger.info("VD %s Data Op Status Change Old: %s (%d), New: %s (%d)", s,
+                         last.operationalStatusToStr(before), static_cast<int>(before),
+                         fresh.operationalStatusToStr(after), static_cast<int>(after));
+            int const event = after == 1 ? 1 : after == 3 ? 2 : 0;
+            if (before != after && indicationsEnabled && event > 0) {
+                _logger.info("send controller operational status changed indication");
+                events.sendControllerState(event, fresh, "ControllerStateChange", pathText);
+            }
+        }
+        auto textLine = [&](u32 bit, char const* format, int (VeldraControllerData::*getter)(std::string&) const) {
+            if (mask & bit) {
+                std::string before;
+                std::string after;
+                (last.*getter)(before);
+                (fresh.*getter)(after);
+                _logger.info(format, s, before.c_str(), after.c_str());
+            }
+        };
+        textLine(VeldraControllerData::changeFirmware, "VD %s Data FW Change Old: %s, New: %s",
+                 &VeldraControllerData::getFWVersion);
+        textLine(VeldraControllerData::changeManufacturer, "VD %s Data Mfg Change Old: %s, New: %s",
+                 &VeldraControllerData::getManufacturer);
+        textLine(VeldraControllerData::changeModel, "VD %s Data Model Change Old: %s, New: %s",
+                 &VeldraControllerData::getModel);
+        // Battery, cache and encryption go out whether or not indications
+        // were switched on: the trap is their main reader.
+        if (mask & VeldraControllerData::changeBatteryStatus) {
+            auto before = read(last, &VeldraControllerData::getBatteryStatus);
+            auto after = read(fresh, &VeldraControllerData::getBatteryStatus);
+            _logger.info("VD %s Data Battery Status Change Old: %s (%d), New: %s (%d)", s,
+                         last.batteryStatusToStr(before), static_cast<int>(before), fresh.batteryStatusToStr(after),
+                         static_cast<int>(after));
+            int const event = after == 1 ? 6 : after == 2 ? 8 : after == 3 ? 7 : 0;
+            if (event > 0) {
+                events.sendController(event, fresh, "ControllerBatteryStateChange", pathText);
+            }
+        }
+        if (mask & VeldraControllerData::changeCacheStatusOrSCSIBuses) {
+            auto before = read(last, &VeldraControllerData::getCacheStatus);
+            auto after = read(fresh, &VeldraControllerData::getCacheStatus);
+            _logger.info("VD %s Data Cache Status Change Old: %s (%d), New: %s (%d)", s, last.cacheStatusToStr(before),
+                         static_cast<int>(before), fresh.cacheStatusToStr(after), static_cast<int>(after));
+            if (after >= 1 && after <= 4) {
+                events.sendController(static_cast<int>(after) + 8, fresh, "ControllerCacheStateChange", pathText);
+            }
+        }
+        if (mask & VeldraControllerData::changeEncryptionSelfTest) {
+            auto before = read(last, &VeldraControllerData::getEncryptionSelfTestStatus);
+            auto after = read(fresh, &VeldraControllerData::getEncryptionSelfTestStatus);
+            _logger.info("VD %s Data Encrypt Self Test Status Change Old: %d, New: %d", s, static_cast<int>(before),
+                         static_cast<int>(after));
+            if (after == 3) {
+                events.sendController(14, fresh, "ControllerEncryptionSelfTest", pathText);
+            }
+        }
+        if (mask & VeldraControllerData::changeEncryptionCSPNvram) {
+            auto before = read(last, &VeldraControllerData::getEncryptionCSPNvramStatus);
+            auto after = read(fresh, &VeldraControllerData::getEncryptionCSPNvramStatus);
+            _logger.info("VD %s Data Encrypt CSPNvram Status Change Old: %d, New: %d", s, static_cast<int>(before),
+                         static_cast<int>(after));
+            int const event = after == 1 ? 15 : after == 3 ? 16 : 0;
+            if (event > 0) {
+                events.sendController(event, fresh, "ControllerEncryptionCSPNVRAM", pathText);
+            }
+        }
+    }
     controller->setConsumedControllerDataCount(count);
+    controller->setLastVDData(fresh);
 }
 
-void QLN_VDArrayController::_enclosurePass(std::string const& serial, std::vector<VeldraEnclosure>& current,
+void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraEnclosure>& current,
                                            std::vector<VeldraEnclosure>& added,
                                            std::vector<VeldraEnclosure>& removed,
                                            std::vector<VeldraEnclosure>& pathChanged) {
@@ -332,13 +534,20 @@ void QLN_VDArrayController::_enclosurePass(std::string const& serial, std::vecto
     for (VeldraEnclosure const& enclosure : added) {
         _logger.info("VD %s Added Enclosure: %s", serial.c_str(), enclosure.getSerialNumber().c_str());
     }
-    for (VeldraEnclosure const& enclosure : current) {
+    VeldraControllerData const lastData = _lastData();
+    int const controllerIndex = static_cast<int>(getControllerIndex());
+    for (std::size_t at = 0; at < current.size(); ++at) {
+        VeldraEnclosure const& enclosure = current[at];
         u32 index = 0;
         u32 const mask = enclosure.compare(old, index);
         if (!changed(mask)) {
             continue;
         }
         VeldraEnclosure const& before = old[index];
+        // The path of the old record at this position, not of the match:
+        // kept as the alerts have always carried it.
+        std::string const pathText =
+            at < old.size() ? makeEnclosureProcessorPath(controllerIndex, old[at]).str() : std::string();
         _logger.info("VD %s Changed Enclosure : %s", serial.c_str(), enclosure.getSerialNumber().c_str());
         if (mask & VeldraEnclosure::changeBoxNumber) {
             _logger.info("VD Enclosure Box Change Old: %d, New: %d", before.getBoxNumber(), enclosure.getBoxNumber());
@@ -359,6 +568,10 @@ void QLN_VDArrayController::_enclosurePass(std::string const& serial, std::vecto
                          before.FanStatusToStr(before.getFanStatus()), static_cast<int>(before.getFanStatus()),
                          enclosure.FanStatusToStr(enclosure.getFanStatus()),
                          static_cast<int>(enclosure.getFanStatus()));
+            int const event = DeviceEvents::fanEvent(enclosure.getFanStatus(), false);
+            if (indicationsEnabled && event > 0) {
+                events.sendEnclosure(event, enclosure, lastData, pathText);
+            }
         }
         if (mask & VeldraEnclosure::changePowerSupplyStatus) {
             _logger.info("VD Enclosure Power Supply Status Change Old: %s (%d), New: %s (%d)",
@@ -366,6 +579,10 @@ void QLN_VDArrayController::_enclosurePass(std::string const& serial, std::vecto
                          static_cast<int>(before.getPowerSupplyStatus()),
                          enclosure.PowerSupplyStatusToStr(enclosure.getPowerSupplyStatus()),
                          static_cast<int>(enclosure.getPowerSupplyStatus()));
+            int const event = DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), false);
+            if (indicationsEnabled && event > 0) {
+                events.sendEnclosure(event, enclosure, lastData, pathText);
+            }
         }
         if (mask & VeldraEnclosure::changeTempSensorStatus) {
             _logger.info("VD Enclosure Temp Sensor Status Change Old: %s (%d), New: %s (%d)",
@@ -373,13 +590,17 @@ void QLN_VDArrayController::_enclosurePass(std::string const& serial, std::vecto
                          static_cast<int>(before.getTempSensorStatus()),
                          enclosure.TempSensorStatusToStr(enclosure.getTempSensorStatus()),
                          static_cast<int>(enclosure.getTempSensorStatus()));
+            int const event = DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), false);
+            if (indicationsEnabled && event > 0) {
+                events.sendEnclosureTemperature(event, enclosure, pathText);
+            }
         }
     }
     controller->setLastAllEnclosures(current);
     _logger.info("after enclosure check");
 }
 
-void QLN_VDArrayController::_physicalPass(std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
+void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
                                           std::vector<VeldraPhysicalDisk>& added,
                                           std::vector<VeldraPhysicalDisk>& removed,
                                           std::vector<VeldraPhysicalDisk>& configChanged,
@@ -400,13 +621,18 @@ void QLN_VDArrayController::_physicalPass(std::string const& serial, std::vector
     for (VeldraPhysicalDisk const& disk : added) {
         _logger.info("VD %s Added Physical Disk: %s", serial.c_str(), disk.getSerialNumber().c_str());
     }
-    for (VeldraPhysicalDisk const& disk : current) {
+    VeldraControllerData const lastData = _lastData();
+    int const controllerIndex = static_cast<int>(getControllerIndex());
+    for (std::size_t at = 0; at < current.size(); ++at) {
+        VeldraPhysicalDisk const& disk = current[at];
         u32 index = 0;
         u32 const mask = disk.compare(old, index);
         if (!changed(mask)) {
             continue;
         }
         VeldraPhysicalDisk const& before = old[index];
+        std::string const pathText =
+            at < old.size() ? makeDiskDrivePath(lastData, controllerIndex, old[at]).str() : std::string();
         _logger.info("VD %s Changed Physical Disk: %s", serial.c_str(), disk.getSerialNumber().c_str());
         if (mask & VeldraPhysicalDisk::changeBox) {
             _logger.info("VD Physical Disk Box Change Old: %d, New: %d", before.getBox(), disk.getBox());
@@ -424,12 +650,24 @@ void QLN_VDArrayController::_physicalPass(std::string const& serial, std::vector
             _logger.info("VD Physical Disk Status Change Old: %s (%d), New: %s (%d)",
                          before.diskStatusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
                          disk.diskStatusToStr(disk.getStatus()), static_cast<int>(disk.getStatus()));
+            int const event = DeviceEvents::diskStatusEvent(disk.getStatus(), false);
+            if (indicationsEnabled && event > 0) {
+                events.sendDisk(event, static_cast<std::uint16_t>(before.getStatus()),
+                                static_cast<std::uint16_t>(disk.getStatus()), disk, lastData, "DiskDriveStatusChange",
+                                pathText);
+            }
         }
         if (mask & VeldraPhysicalDisk::changeSSDWear) {
             _logger.info("VD Physical Disk SSD Status Change Old: %s (%d), New: %s (%d)",
                          before.SSDWearStatusToStr(before.getSSDWearStatus()),
                          static_cast<int>(before.getSSDWearStatus()),
                          disk.SSDWearStatusToStr(disk.getSSDWearStatus()), static_cast<int>(disk.getSSDWearStatus()));
+            int const event = DeviceEvents::wearEvent(disk.getSSDWearStatus());
+            if (indicationsEnabled && event > 0) {
+                events.sendDisk(event, static_cast<std::uint16_t>(before.getSSDWearStatus()),
+                                static_cast<std::uint16_t>(disk.getSSDWearStatus()), disk, lastData,
+                                "DiskDriveSSDStatusChange", pathText);
+            }
         }
         if (mask & VeldraPhysicalDisk::changeConfiguration) {
             _logger.info("VD Physical Disk Config Change Old: %d, New: %d", static_cast<int>(before.getConfiguration()),
@@ -454,7 +692,7 @@ void QLN_VDArrayController::_physicalPass(std::string const& serial, std::vector
     _logger.info("after physical disk check");
 }
 
-void QLN_VDArrayController::_logicalPass(std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
+void QLN_VDArrayController::_logicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
                                          std::vector<VeldraLogicalDisk>& current,
                                          std::vector<VeldraLogicalDisk>& added,
                                          std::vector<VeldraLogicalDisk>& removed) {
@@ -475,6 +713,8 @@ void QLN_VDArrayController::_logicalPass(std::string const& serial, std::vector<
     for (VeldraLogicalDisk const& logical : added) {
         _logger.info("VD %s Added Logical Disk: %s", serial.c_str(), logical.getSerialNumber().c_str());
     }
+    VeldraControllerData const lastData = _lastData();
+    int const controllerIndex = static_cast<int>(getControllerIndex());
     for (std::size_t i = 0; i < current.size(); ++i) {
         VeldraLogicalDisk const& logical = current[i];
         u32 index = 0;
@@ -503,6 +743,12 @@ void QLN_VDArrayController::_logicalPass(std::string const& serial, std::vector<
             _logger.info("VD Logical Disk Status Change Old: %s (%d), New: %s (%d)",
                          before.statusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
                          logical.statusToStr(logical.getStatus()), static_cast<int>(logical.getStatus()));
+            DeviceEvents::VolumeEvent const what = DeviceEvents::volumeChangeEvent(before.getStatus(), logical.getStatus());
+            if (indicationsEnabled && what.event > 0) {
+                events.sendVolume(logical, what, DeviceEvents::previousVolumeStatus(before.getStatus()),
+                                  "StorageVolumeStateChange",
+                                  makeStorageVolumePath(lastData, controllerIndex, before).str());
+            }
         }
     }
     controller->setLastLogicalDisks(current);

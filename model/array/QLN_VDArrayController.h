@@ -4,6 +4,7 @@
 // whose getter cannot answer is left out rather than guessed.
 #include "CmpiContext.h"
 #include "ControllerManagedInstance.h"
+#include "DeviceEvents.h"
 #include "Logger.h"
 #include "VeldraController.h"
 
@@ -42,17 +43,17 @@ public:
                        std::vector<VeldraPhysicalDisk>& pathChangePhysicals);
 
 private:
-    void _firstStatusPass();
-    void _controllerDataStage();
-    void _enclosurePass(std::string const& serial, std::vector<VeldraEnclosure>& current,
+    void _firstStatusPass(DeviceEvents& events, bool indicationsEnabled);
+    void _controllerDataStage(DeviceEvents& events, bool indicationsEnabled);
+    void _enclosurePass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraEnclosure>& current,
                         std::vector<VeldraEnclosure>& added, std::vector<VeldraEnclosure>& removed,
                         std::vector<VeldraEnclosure>& pathChanged);
-    void _physicalPass(std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
+    void _physicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
                        std::vector<VeldraPhysicalDisk>& added, std::vector<VeldraPhysicalDisk>& removed,
                        std::vector<VeldraPhysicalDisk>& configChanged,
                        std::vector<VeldraPhysicalDisk>& spareStateChanged,
                        std::vector<VeldraPhysicalDisk>& pathChanged);
-    void _logicalPass(std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
+    void _logicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
                       std::vector<VeldraLogicalDisk>& current, std::vector<VeldraLogicalDisk>& added,
                       std::vector<VeldraLogicalDisk>& removed);
 

@@ -233,6 +233,14 @@ CmpiManagedInstanceCollection::getManagedInstance(CmpiObjectPath const& path) co
     return found == _byPath.end() ? nullptr : found->second->instance.get();
 }
 
+std::shared_ptr<CmpiManagedInstance>
+CmpiManagedInstanceCollection::shareManagedInstance(CmpiObjectPath const& path) const {
+    std::string key = path.canonicalKey();
+    std::shared_lock lock(_mutex);
+    auto found = _byPath.find(key);
+    return found == _byPath.end() ? nullptr : found->second->instance;
+}
+
 CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(unsigned int index) const {
     std::shared_lock lock(_mutex);
     return index < _entries.size() ? _entries[index]->instance.get() : nullptr;

@@ -48,6 +48,9 @@ public:
     // Removes and deletes; false (and nothing else) when no instance has the path.
     bool deleteInstance(CmpiCpp::CmpiObjectPath const& path);
     CmpiManagedInstance* getManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
+    // For callers without the provider lock (methods): the instance stays
+    // alive as long as they hold it, even when a worker pass deletes it.
+    std::shared_ptr<CmpiManagedInstance> shareManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
     // Null past the end, since the size may have changed under the caller.
     CmpiManagedInstance* getManagedInstance(unsigned int index) const;
     unsigned int size() const;
@@ -124,7 +127,7 @@ private:
         std::string key;
     };
     struct Entry {
-        std::unique_ptr<CmpiManagedInstance> instance;
+        std::shared_ptr<CmpiManagedInstance> instance;
         CmpiCpp::CmpiName className;
         std::string key;                   // empty when getPath() failed at insertion
         std::vector<Reference> references; // reference keys, for associations only

@@ -1,10 +1,7 @@
 // Worker passes against a scenario that veldra-sim changes: after each kind
 // of hardware change, one pass must leave exactly the graph that a provider
 // started fresh on the changed scenario builds.
-#include "CapturedMethodResult.h"
-#include "CmpiArgs.h"
-#include "ProviderTestSupport.h"
-#include "QLNVeldraProvider.h"
+#include "WorkerTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -13,53 +10,12 @@
 #include <memory>
 #include <set>
 
-using namespace provider_test;
+using namespace worker_test;
 using CmpiCpp::CmpiBroker;
 using CmpiCpp::CmpiContext;
 using CmpiCpp::CmpiName;
 
 namespace {
-
-class WorkingCopy {
-public:
-    explicit WorkingCopy(std::string const& scenario) {
-        _dir = std::filesystem::temp_directory_path() /
-               ("veldra-worker-" + std::to_string(::getpid()) + "-" + std::to_string(_next++));
-        std::filesystem::create_directories(_dir);
-        _file = _dir / "scenario.yaml";
-        std::filesystem::copy_file(std::string(VELDRA_DATA_DIR) + "/scenarios/" + scenario, _file);
-        ::setenv("VELDRA_SCENARIO", _file.c_str(), 1);
-    }
-    ~WorkingCopy() { std::filesystem::remove_all(_dir); }
-
-    void sim(std::string const& command) const {
-        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + _file.string() + " " +
-                                 command + " > /dev/null";
-        ASSERT_EQ(std::system(line.c_str()), 0) << line;
-    }
-
-private:
-    static inline int _next = 0;
-    std::filesystem::path _dir;
-    std::filesystem::path _file;
-};
-
-std::unique_ptr<QLN::QLNVeldraProvider> startProvider() {
-    Logger logger("QLNVeldra");
-    return std::make_unique<QLN::QLNVeldraProvider>(CmpiBroker(), logger);
-}
-
-void pass(QLN::QLNVeldraProvider& provider) {
-    CmpiCpp::CmpiObjectPath const path = CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDArraySystem");
-    QLN::CapturedMethodResult result;
-    provider.invokeMethod(CmpiContext(), path, CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
-    ASSERT_EQ(result.returnValue().value_or(99), 0u);
-}
-
-std::multiset<std::string> graphOf(QLN::QLNVeldraProvider const& provider) {
-    std::vector<std::string> const paths = provider.instancePaths();
-    return {paths.begin(), paths.end()};
-}
 
 // What one side has and the other lacks, one path a line, for a readable failure.
 std::string difference(std::multiset<std::string> const& left, std::multiset<std::string> const& right) {
