@@ -8,6 +8,7 @@
 #include "CmpiStatus.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
+#include "ProviderLock.h"
 
 #include <stdexcept>
 
@@ -21,18 +22,6 @@ char const* const diskDriveClass = "QLN_VDDiskDrive";
 char const* const storageVolumeClass = "QLN_VDStorageVolume";
 char const* const arraySystemClass = "QLN_VDArraySystem";
 int const physlocHandle = 255;
-
-// Holds the provider mutex for one scope, also when an exception passes.
-class ProviderLock {
-public:
-    explicit ProviderLock(pthread_mutex_t& mutex) : _mutex(mutex) { pthread_mutex_lock(&_mutex); }
-    ~ProviderLock() { pthread_mutex_unlock(&_mutex); }
-    ProviderLock(ProviderLock const&) = delete;
-    ProviderLock& operator=(ProviderLock const&) = delete;
-
-private:
-    pthread_mutex_t& _mutex;
-};
 } // namespace
 
 namespace QLN {

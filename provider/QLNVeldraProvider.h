@@ -120,6 +120,9 @@ private:
                                         std::vector<ExtentEntry> const& nonSparePaths,
                                         std::vector<CmpiManagedInstance*>& newInstances);
     void _createViewClassInstances(int number, VeldraController* controller);
+    // Rebuilds the view volumes and extents of controllers whose disks may
+    // have changed; takes the provider mutex, so call it without holding it.
+    void _updateViewClassInstances();
     std::uint32_t _backgroundWorker(CmpiCpp::CmpiContext const& context);
     // The steps of one pass (worker/), in the order the pass calls them.
     void _handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,

@@ -70,6 +70,9 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
         locked = false;
         pthread_mutex_unlock(&_providerMutex);
 
+        // Takes the provider lock itself, so only after the unlock.
+        _updateViewClassInstances();
+
         // Posted on every pass, changed or not; the collection guards its own
         // lookups, so no provider lock is needed for this walk.
         for (unsigned int i = 0; i < _managedInstances.size(); ++i) {

@@ -88,14 +88,17 @@ TEST(RegistrationFiles, SfcbAndPegasusNameWhatVeldraCimdNames) {
         std::string const reg = readText(registrationDir + provider + ".reg");
         EXPECT_EQ(matches(reg, std::regex(R"(^\[(\w+)\])", std::regex::multiline)), expected)
             << provider;
-        // Each section must keep the provider resident and in its namespace.
+        // Each section must keep the provider resident and in its namespace:
+        // the host view lives in root/cimv2, the rest in root/mwq.
         std::regex const section(
             R"(\[(\w+)\]\s+provider: (\w+)\s+location: (\w+)\s+type: [a-z ]+\s+)"
-            R"(namespace: root/mwq\s+unload: never)");
+            R"(namespace: (root/\w+)\s+unload: never)");
         std::set<std::string> complete;
         for (std::sregex_iterator it(reg.begin(), reg.end(), section), end; it != end; ++it) {
             EXPECT_EQ((*it)[2].str(), provider);
             EXPECT_EQ((*it)[3].str(), provider);
+            bool const view = (*it)[1].str().rfind("DRSV_", 0) == 0;
+            EXPECT_EQ((*it)[4].str(), view ? "root/cimv2" : "root/mwq") << (*it)[1].str();
             complete.insert((*it)[1].str());
         }
         EXPECT_EQ(complete, expected) << provider;

@@ -1,0 +1,152 @@
+// What the host view shows for a controller: names with the controller's
+// index, the texts built from fresh reads, and which instances exist.
+#include "DRSV_VDStorageExtent.h"
+#include "DRSV_VDStorageVolume.h"
+#include "ViewScenario.h"
+
+#include <gtest/gtest.h>
+
+using namespace view_test;
+
+namespace {
+
+std::vector<std::string> column(std::vector<CmpiCpp::CmpiInstance> const& rows, char const* property) {
+    std::vector<std::string> values;
+    for (auto const& row : rows) {
+        values.push_back(text(row, property));
+    }
+    return values;
+}
+
+} // namespace
+
+TEST(ViewClasses, DemoControllersAreNamedByIndexAndSlot) {
+    ViewScenario scenario("demo.yaml");
+    auto provider = startProvider();
+    auto const controllers = enumerate(*provider, "DRSV_VDController");
+    EXPECT_EQ(column(controllers, "Name"), (std::vector<std::string>{"vmwControllerDRVD1", "vmwControllerDRVD2"}));
+    EXPECT_EQ(column(controllers, "ElementName"),
+              (std::vector<std::string>{"QLNVeldra 8e Controller : Slot 3 : DRVD1",
+                                        "QLNVeldra 8i Controller : Embedded : DRVD2"}));
+    auto const firmware = enumerate(*provider, "DRSV_VDControllerFirmware");
+    ASSERT_EQ(firmware.size(), 2u);
+    EXPECT_EQ(text(firmware[0], "InstanceID"), "MWQ:Veldra Controller DRVD1");
+    EXPECT_EQ(text(firmware[1], "Name"), "Veldra Controller DRVD2 Firmware");
+    EXPECT_EQ(text(firmware[1], "VersionString"), "4.12");
+    // Both demo caches have the default battery.
+    EXPECT_EQ(column(enumerate(*provider, "DRSV_VDBattery"), "DeviceID"),
+              (std::vector<std::string>{"Battery on DRVD1", "Battery on DRVD2"}));
+    // One volume per logical disk and one extent per physical disk.
+    EXPECT_EQ(enumerate(*provider, "DRSV_VDStorageVolume").size(), 6u);
+    EXPECT_EQ(enumerate(*provider, "DRSV_VDStorageExtent").size(),
+              distinctDisks(scenario, 1) + distinctDisks(scenario, 2));
+    // The view lives beside the main model, not in it.
+    EXPECT_EQ(enumerate(*provider, "DRSV_VDController")[0].getPath().getNameSpace(), "root/cimv2");
+}
+
+TEST(ViewClasses, VolumeAndExtentTextsFollowTheDisks) {
+    ViewScenario scenario("minimal.yaml");
+    YAML::Node controller = scenario.controller(1);
+    // A second volume that is too small for a whole gigabyte and has no members.
+    YAML::Node tiny;
+    tiny["number"] = 1;
+    tiny["serialNumber"] = "TINY 0001";
+    tiny["tolerance"] = 2;
+    tiny["totalBlocks"] = 100;
+    controller["logicalDisks"].push_back(tiny);
+    controller["physicalDisks"][3]["configuration"] = 4;
+    scenario.write();
+    auto provider = startProvider();
+
+    auto const volumes = elementNames(*provider, "DRSV_VDStorageVolume");
+    ASSERT_EQ(volumes.size(), 2u);
+    // 3907029168 blocks of 512 bytes: 3726 units of 2^20 blocks, 1863 GB.
+    // Members are disk positions counted from 1, the spare after the data disks.
+    std::string const mirror = volumes.at("DRSV_VDStorageVolume-600508B1001CMIN00000000000000001");
+    EXPECT_EQ(mirror.rfind("Logical Volume 1 on DRVD1 : ", 0), 0u) << mirror;
+    EXPECT_NE(mirror.find(" : 1863GB : Disk 1,2,3 : "), std::string::npos) << mirror;
+    // Blanks leave the serial in the key; the text has no member part.
+    std::string const small = volumes.at("DRSV_VDStorageVolume-TINY0001");
+    EXPECT_NE(small.find("Logical Volume 2 on DRVD1 : "), std::string::npos) << small;
+    EXPECT_NE(small.find(" : 0GB : "), std::string::npos) << small;
+    EXPECT_EQ(small.find("Disk"), std::string::npos) << small;
+
+    auto const extents = enumerate(*provider, "DRSV_VDStorageExtent");
+    ASSERT_EQ(extents.size(), 4u);
+    EXPECT_EQ(text(extents[0], "DeviceID"), "DRSV_VDStorageExtent-NR4000SAS-MD0000");
+    EXPECT_EQ(text(extents[0], "Caption"), "Disk 1 on DRVD1");
+    EXPECT_EQ(text(extents[0], "Name"), "MD0000");
+    EXPECT_TRUE(extents[0].getProperty("Primordial").getBool());
+    EXPECT_EQ(extents[0].getProperty("NumberOfBlocks").getUint64(), 3907029168u);
+    EXPECT_NE(text(extents[0], "ElementName").find("Disk 1 on DRVD1 : Port 1I Box 1 Bay 1 : 1863GB : Data Disk : "),
+              std::string::npos)
+        << text(extents[0], "ElementName");
+    EXPECT_NE(text(extents[2], "ElementName").find(" : Spare Disk : "), std::string::npos);
+    // Configuration 4 has no role part; a disk without serial has an empty Name.
+    EXPECT_EQ(text(extents[3], "ElementName").find(" Disk : "), std::string::npos) << text(extents[3], "ElementName");
+    EXPECT_EQ(text(extents[3], "Name"), "");
+}
+
+TEST(ViewClasses, BatteryOnlyWhenTheCacheReportsOne) {
+    struct Case {
+        char const* what;
+        int hasBattery;
+        bool readFails;
+        std::size_t batteries;
+    };
+    for (Case const& c : {Case{"present", 1, false, 1}, Case{"absent", 0, false, 0}, Case{"other value", 2, false, 0},
+                          Case{"read fails", 1, true, 0}}) {
+        ViewScenario scenario("minimal.yaml");
+        YAML::Node controller = scenario.controller(1);
+        controller["cacheHasBattery"] = c.hasBattery;
+        controller["batteryStatus"] = 3;
+        if (c.readFails) {
+            controller["fail"].push_back("getCacheHasBattery");
+        }
+        scenario.write();
+        auto provider = startProvider();
+        auto const batteries = enumerate(*provider, "DRSV_VDBattery");
+        ASSERT_EQ(batteries.size(), c.batteries) << c.what;
+        if (c.batteries == 1) {
+            EXPECT_EQ(text(batteries[0], "DeviceID"), "Battery on DRVD1");
+            EXPECT_EQ(text(batteries[0], "SystemCreationClassName"), "QLN_ComputerSystem");
+            // Charging: degraded health, partially charged.
+            EXPECT_EQ(batteries[0].getProperty("HealthState").getUint16(), 10);
+            EXPECT_EQ(batteries[0].getProperty("BatteryStatus").getUint16(), 11);
+        }
+    }
+}
+
+TEST(ViewClasses, ControllerWithoutSlotReadAndDegraded) {
+    ViewScenario scenario("minimal.yaml");
+    scenario.controller(1)["fail"].push_back("getPCISlotNumber");
+    scenario.controller(1)["operationalStatus"] = 2;
+    scenario.write();
+    auto provider = startProvider();
+    auto const controllers = enumerate(*provider, "DRSV_VDController");
+    ASSERT_EQ(controllers.size(), 1u);
+    EXPECT_EQ(text(controllers[0], "ElementName"), "QLNVeldra 8i Controller : DRVD1");
+    EXPECT_EQ(controllers[0].getProperty("HealthState").getUint16(), 10);
+}
+
+// The edges of the status ranges, where an off-by-one would hide.
+TEST(ViewClasses, HealthMapsAtTheirRangeEdges) {
+    using QLN::DRSV_VDStorageExtent;
+    using QLN::DRSV_VDStorageVolume;
+    std::map<u32, unsigned short> const volume{{0, 0},       {2, 5},       {3, 25},      {4, 25},     {0x7fff, 0},
+                                               {0x8000, 10}, {0x800D, 10}, {0x800E, 25}, {0x800F, 0}, {0x8010, 25},
+                                               {0x8012, 10}, {0x8013, 5},  {0x8014, 5},  {0x8015, 10}, {0x8018, 10},
+                                               {0x8019, 0}};
+    for (auto const& [status, health] : volume) {
+        EXPECT_EQ(DRSV_VDStorageVolume::healthOf(status), health) << std::hex << status;
+    }
+    std::map<u32, unsigned short> const extent{{0, 0},       {1, 5},       {2, 10},      {3, 25},     {4, 25},
+                                               {5, 0},       {0x8000, 10}, {0x8004, 10}, {0x8005, 5}, {0x8006, 10},
+                                               {0x8007, 10}, {0x8008, 0}};
+    for (auto const& [status, health] : extent) {
+        EXPECT_EQ(DRSV_VDStorageExtent::healthOf(status), health) << std::hex << status;
+    }
+    // 2^20 blocks of 1024 bytes are exactly one gigabyte; one block less is none.
+    EXPECT_EQ(QLN::ViewInstance::sizeInGB(1u << 20, 1024), 1u);
+    EXPECT_EQ(QLN::ViewInstance::sizeInGB((1u << 20) - 1, 1024), 0u);
+}
