@@ -14,14 +14,12 @@ DRSV_VDStorageVolume::DRSV_VDStorageVolume(Logger& logger, std::string const& na
     : ViewInstance(logger, className, nameSpace, controllerIndex, controller), _volumeNumber(volumeNumber) {
     _logger.info("DRSV_VDStorageVolume::DRSV_VDStorageVolume");
     std::optional<VeldraLogicalDisk> const disk = _findDisk();
-    if (disk) {
-        _deviceId = std::string(className) + "-" + removeWhitespace(disk->getSerialNumber());
-    } else {
-        _deviceId = "Logical Volume" + std::to_string(_volumeNumber + 1) + _drvd(true);
-    }
     if (!disk) {
+        // No blank before the number: this key has always been written so.
+        _deviceId = "Logical Volume" + std::to_string(_volumeNumber + 1) + _drvd(true);
         return;
     }
+    _deviceId = std::string(className) + "-" + removeWhitespace(disk->getSerialNumber());
     std::vector<VeldraPhysicalDisk> const physicals = _controller->getAllPhysicalDisks();
     auto addPosition = [&](u32 id) {
         for (std::size_t i = 0; i < physicals.size(); ++i) {

@@ -2,6 +2,7 @@
 // index, the texts built from fresh reads, and which instances exist.
 #include "DRSV_VDStorageExtent.h"
 #include "DRSV_VDStorageVolume.h"
+#include "InternalVeldraControllerMRA.h"
 #include "ViewScenario.h"
 
 #include <gtest/gtest.h>
@@ -149,4 +150,30 @@ TEST(ViewClasses, HealthMapsAtTheirRangeEdges) {
     // 2^20 blocks of 1024 bytes are exactly one gigabyte; one block less is none.
     EXPECT_EQ(QLN::ViewInstance::sizeInGB(1u << 20, 1024), 1u);
     EXPECT_EQ(QLN::ViewInstance::sizeInGB((1u << 20) - 1, 1024), 0u);
+}
+
+// A volume or extent whose disk is not there (gone before a pass rebuilt
+// the view) is still served under its keys, without what only the disk
+// could tell; its keys then take the fallback texts.
+TEST(ViewClasses, MissingDisksKeepKeysAndLoseTheRest) {
+    ViewScenario scenario("minimal.yaml");
+    Logger logger("QLNVeldra");
+    std::unique_ptr<InternalVeldraControllerMRA> root(internalVeldraControllerMRAFactory(logger));
+    ASSERT_NE(root, nullptr);
+    VeldraController* controller = root->getFirstData();
+    ASSERT_NE(controller, nullptr);
+
+    QLN::DRSV_VDStorageVolume const volume(logger, "root/cimv2", 1, 7, controller);
+    CmpiCpp::CmpiInstance const v = volume.getInstance();
+    EXPECT_EQ(text(v, "DeviceID"), "Logical Volume8 on DRVD1");
+    EXPECT_EQ(text(v, "ElementName"), "Logical Volume 8 on DRVD1");
+    EXPECT_FALSE(v.hasProperty("HealthState"));
+
+    QLN::DRSV_VDStorageExtent const extent(logger, "root/cimv2", 1, 9, controller);
+    CmpiCpp::CmpiInstance const e = extent.getInstance();
+    EXPECT_EQ(text(e, "DeviceID"), "Disk 10on DRVD1");
+    EXPECT_EQ(text(e, "ElementName"), "Disk 10 on DRVD1");
+    EXPECT_EQ(text(e, "Name"), "");
+    EXPECT_TRUE(e.getProperty("Primordial").getBool());
+    EXPECT_FALSE(e.hasProperty("NumberOfBlocks"));
 }
