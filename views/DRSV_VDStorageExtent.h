@@ -15,9 +15,9 @@ public:
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
+private:
     static unsigned short healthOf(u32 physicalStatus);
 
-private:
     std::optional<VeldraPhysicalDisk> _findDisk() const;
 
     unsigned int const _diskPosition;

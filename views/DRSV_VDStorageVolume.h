@@ -17,9 +17,9 @@ public:
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;
 
+private:
     static unsigned short healthOf(u32 logicalStatus);
 
-private:
     std::optional<VeldraLogicalDisk> _findDisk() const;
 
     // Positions in the physical disk list of the members, data then spares.

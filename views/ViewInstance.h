@@ -22,11 +22,11 @@ public:
     VeldraController* getController() const { return _controller; }
     bool isMyControllerIndex(unsigned int index) const { return index == _controllerIndex; }
 
+protected:
     // Whole gigabytes as the host view shows them: blocks in units of 2^20
     // first, then bytes in units of 2^10, each step truncated.
     static std::uint64_t sizeInGB(std::uint64_t totalBlocks, std::uint64_t blockSize);
 
-protected:
     // className must outlive the instance (the classes pass a literal).
     ViewInstance(Logger& logger, char const* className, std::string const& nameSpace, unsigned int controllerIndex,
                  VeldraController* controller);

@@ -130,28 +130,6 @@ TEST(ViewClasses, ControllerWithoutSlotReadAndDegraded) {
     EXPECT_EQ(controllers[0].getProperty("HealthState").getUint16(), 10);
 }
 
-// The edges of the status ranges, where an off-by-one would hide.
-TEST(ViewClasses, HealthMapsAtTheirRangeEdges) {
-    using QLN::DRSV_VDStorageExtent;
-    using QLN::DRSV_VDStorageVolume;
-    std::map<u32, unsigned short> const volume{{0, 0},       {2, 5},       {3, 25},      {4, 25},     {0x7fff, 0},
-                                               {0x8000, 10}, {0x800D, 10}, {0x800E, 25}, {0x800F, 0}, {0x8010, 25},
-                                               {0x8012, 10}, {0x8013, 5},  {0x8014, 5},  {0x8015, 10}, {0x8018, 10},
-                                               {0x8019, 0}};
-    for (auto const& [status, health] : volume) {
-        EXPECT_EQ(DRSV_VDStorageVolume::healthOf(status), health) << std::hex << status;
-    }
-    std::map<u32, unsigned short> const extent{{0, 0},       {1, 5},       {2, 10},      {3, 25},     {4, 25},
-                                               {5, 0},       {0x8000, 10}, {0x8004, 10}, {0x8005, 5}, {0x8006, 10},
-                                               {0x8007, 10}, {0x8008, 0}};
-    for (auto const& [status, health] : extent) {
-        EXPECT_EQ(DRSV_VDStorageExtent::healthOf(status), health) << std::hex << status;
-    }
-    // 2^20 blocks of 1024 bytes are exactly one gigabyte; one block less is none.
-    EXPECT_EQ(QLN::ViewInstance::sizeInGB(1u << 20, 1024), 1u);
-    EXPECT_EQ(QLN::ViewInstance::sizeInGB((1u << 20) - 1, 1024), 0u);
-}
-
 // A volume or extent whose disk is not there (gone before a pass rebuilt
 // the view) is still served under its keys, without what only the disk
 // could tell; its keys then take the fallback texts.
