@@ -101,9 +101,15 @@ void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayControlle
     VeldraController* controller = arrayController->getController();
     for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
         auto* pool = dynamic_cast<QLN_VDStoragePool*>(_managedInstances.getManagedInstance(i));
-        if (pool != nullptr && pool->getController() == controller) {
+        if (pool == nullptr) {
+            continue;
+        }
+        if (pool->getController() == controller) {
             _logger.info("found storage pool");
             pass.pools.push_back(PoolEntry{pool->getArrayId(), pool});
+        }
+        if (pool->getControllerIndex() <= arrayController->getControllerIndex()) {
+            pass.inheritedPools.push_back(PoolEntry{pool->getArrayId(), pool});
         }
     }
 

@@ -154,7 +154,11 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
                 }
             }
         }
-        if (added.empty() && removed.empty() && activeSpares.empty() && passiveSpares.empty()) {
+        // A member that left the system is in neither list (the poll gave
+        // the logical disk its members of this pass), yet it may have been
+        // the last spare: such a pass looks at the redundancy set too.
+        if (added.empty() && removed.empty() && activeSpares.empty() && passiveSpares.empty() &&
+            pass.removedPhysicals.empty()) {
             continue;
         }
 
@@ -239,22 +243,32 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
             for (ExtentEntry const& entry : newData) {
                 pass.pendingAdditions.push_back(
                     new QLN_VDStorageExtentStorageVolume(_logger, ns, entry.extent, volumes.front()));
-                for (std::size_t a = 0; a < pass.arrays.size() && a < pass.pools.size(); ++a) {
-                    if (pass.pools[a].arrayID == "1") {
+                for (PoolEntry const& pool : pass.inheritedPools) {
+                    if (pool.arrayID == "1") {
                         pass.pendingAdditions.push_back(
-                            new QLN_VDStoragePoolStorageExtent(_logger, ns, pass.pools[a].pool, entry.extent));
+                            new QLN_VDStoragePoolStorageExtent(_logger, ns, pool.pool, entry.extent));
                     }
                 }
             }
         }
+        std::vector<ExtentEntry> setMembers = newData;
         if (!newSpares.empty() && redundancySets.empty()) {
             auto* set = new QLN_VDStorageRedundancySet(_logger, ns, index, logical, controller);
             pass.pendingAdditions.push_back(set);
             _logger.info("create new redundancy set ");
             redundancySets.push_back(set);
+            // A new set gathers every data member, not only those new in this pass.
+            setMembers.clear();
+            for (VeldraPhysicalDisk const& disk : current) {
+                for (ExtentEntry const& member : members) {
+                    if (disk.getConfiguration() == PD_CONFIG_DATA && member.diskID == disk.getId()) {
+                        setMembers.push_back(member);
+                    }
+                }
+            }
         }
         if (!redundancySets.empty()) {
-            for (ExtentEntry const& entry : newData) {
+            for (ExtentEntry const& entry : setMembers) {
                 _logger.info("create new redundancy set data storage extent");
                 pass.pendingAdditions.push_back(
                     new QLN_VDStorageRedundancySetStorageExtent(_logger, ns, redundancySets.front(), entry.extent));
@@ -290,8 +304,12 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
                 }
             }
         }
-        // The last spare gone: the set goes, and its associations with it.
-        if (!redundancySets.empty() && logical.spareDiskIDs.empty()) {
+        // The last spare gone: the set goes, and its associations with it. A
+        // spare that the volume still lists but that was pulled is gone too.
+        bool const spareLeft = std::any_of(current.begin(), current.end(), [](VeldraPhysicalDisk const& disk) {
+            return disk.getConfiguration() == PD_CONFIG_SPARE;
+        });
+        if (!redundancySets.empty() && (logical.spareDiskIDs.empty() || !spareLeft)) {
             pass.pendingDeletions.push_back(redundancySets.front()->getPath());
         }
     }

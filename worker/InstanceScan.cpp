@@ -216,6 +216,25 @@ void QLNVeldraProvider::_createNewDevices(WorkerPass& pass, QLN_VDArrayControlle
         return;
     }
 
+    // The first graph hands its cage and pool lists on from one controller to
+    // the next, so a disk also hangs in the cages and pools of the same box
+    // and array on every earlier controller. Devices made here follow the
+    // same rule, or a pass would build a graph that a restart would not.
+    std::vector<CageEntry> cages;
+    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+        auto* cage = dynamic_cast<QLN_VDDriveCage*>(_managedInstances.getManagedInstance(i));
+        if (cage == nullptr || cage->getControllerIndex() > arrayController->getControllerIndex()) {
+            continue;
+        }
+        CmpiCpp::CmpiObjectPath const path = cage->getPath();
+        // A cage on its way out must not gain a disk that would point at it.
+        if (std::none_of(pass.pendingDeletions.begin(), pass.pendingDeletions.end(),
+                         [&](CmpiCpp::CmpiObjectPath const& gone) { return gone.str() == path.str(); })) {
+            cages.push_back(CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
+        }
+    }
+    std::vector<PoolEntry> const& pools = pass.inheritedPools;
+
     // Enclosures first: new disks hang in their cages, new volumes on extents.
     std::vector<CageEntry> newCages;
     _logger.info("calling createEnclosure");
@@ -224,16 +243,17 @@ void QLNVeldraProvider::_createNewDevices(WorkerPass& pass, QLN_VDArrayControlle
     _logger.info("return from create enclosures");
     keep();
     pass.cages.insert(pass.cages.end(), newCages.begin(), newCages.end());
+    cages.insert(cages.end(), newCages.begin(), newCages.end());
 
     _logger.info("calling createPhysical");
-    _createAllPhysicalDiskInstances(number, controller, pass.newPhysicals, pass.arraySystem, pass.pools, pass.arrays,
-                                    pass.cages, pass.initiatorEndpoints, pass.spareExtents, pass.dataExtents, made);
+    _createAllPhysicalDiskInstances(number, controller, pass.newPhysicals, pass.arraySystem, pools, pass.arrays,
+                                    cages, pass.initiatorEndpoints, pass.spareExtents, pass.dataExtents, made);
     _logger.info("return from create physical");
     keep();
 
     _logger.info("calling createLogical");
     _createAllLogicalDiskInstances(number, controller, pass.newLogicals, pass.arraySystem, pass.protocolController,
-                                   pass.pools, pass.spareExtents, pass.dataExtents, made);
+                                   pools, pass.spareExtents, pass.dataExtents, made);
     _logger.info("return from create logical");
     keep();
 }

@@ -38,6 +38,9 @@ struct WorkerPass {
     // Per controller, cleared at its head.
     std::vector<QLN_VDISASSCSIProtocolEndpoint*> initiatorEndpoints;
     std::vector<PoolEntry> pools;
+    // This controller's pools and those of every earlier controller: the
+    // first graph links a disk to all of them, and so do the devices a pass makes.
+    std::vector<PoolEntry> inheritedPools;
     std::vector<ExtentEntry> spareExtents;
     std::vector<ExtentEntry> dataExtents;
     std::vector<VeldraCFUArray> arrays;
@@ -59,6 +62,7 @@ struct WorkerPass {
     void clearController() {
         initiatorEndpoints.clear();
         pools.clear();
+        inheritedPools.clear();
         spareExtents.clear();
         dataExtents.clear();
         arrays.clear();

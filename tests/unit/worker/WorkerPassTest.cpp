@@ -17,26 +17,6 @@ using CmpiCpp::CmpiName;
 
 namespace {
 
-// What one side has and the other lacks, one path a line, for a readable failure.
-std::string difference(std::multiset<std::string> const& left, std::multiset<std::string> const& right) {
-    std::vector<std::string> only;
-    std::set_difference(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(only));
-    std::string text;
-    for (std::string const& path : only) {
-        text += "  " + path + "\n";
-    }
-    return text;
-}
-
-// A start numbers the host view's volumes by their place in the list, a
-// rebuild by their own volume numbers; once a volume is deleted the two
-// differ on purpose, so those are compared by count only.
-std::size_t takeViewVolumes(std::multiset<std::string>& graph) {
-    return std::erase_if(graph, [](std::string const& path) {
-        return path.find(":DRSV_VDStorageVolume.") != std::string::npos;
-    });
-}
-
 void expectSameGraph(QLN::QLNVeldraProvider const& worked) {
     auto fresh = startProvider();
     auto have = graphOf(worked);
