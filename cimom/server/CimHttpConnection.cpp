@@ -271,6 +271,7 @@ void CimHttpConnection<Stream>::_dispatch(Request request) {
     exchange.cimProtocolVersion = headerOf(request, "CIMProtocolVersion");
     exchange.contentType = headerOf(request, "Content-Type");
     exchange.body = std::move(request.body());
+    exchange.client = _client;
 
     std::uint64_t id = _shared.started(exchange.cimMethod.value_or("(no method)") + " on " +
                                        exchange.cimObject.value_or("(no object)") + " from " + _client);

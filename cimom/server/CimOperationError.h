@@ -31,6 +31,15 @@ public:
             case 15: return "CIM_ERR_INVALID_QUERY";
             case 16: return "CIM_ERR_METHOD_NOT_AVAILABLE";
             case 17: return "CIM_ERR_METHOD_NOT_FOUND";
+            case 20: return "CIM_ERR_NAMESPACE_NOT_EMPTY";
+            case 21: return "CIM_ERR_INVALID_ENUMERATION_CONTEXT";
+            case 22: return "CIM_ERR_INVALID_OPERATION_TIMEOUT";
+            case 23: return "CIM_ERR_PULL_HAS_BEEN_ABANDONED";
+            case 24: return "CIM_ERR_PULL_CANNOT_BE_ABANDONED";
+            case 25: return "CIM_ERR_FILTERED_ENUMERATION_NOT_SUPPORTED";
+            case 26: return "CIM_ERR_CONTINUATION_ON_ERROR_NOT_SUPPORTED";
+            case 27: return "CIM_ERR_SERVER_LIMITS_EXCEEDED";
+            case 28: return "CIM_ERR_SERVER_IS_SHUTTING_DOWN";
             default: return "CIM_ERR_FAILED";
         }
     }
@@ -44,6 +53,11 @@ public:
         notSupported = 7,
         alreadyExists = 11,
         methodNotFound = 17,
+        invalidEnumerationContext = 21,
+        invalidOperationTimeout = 22,
+        filteredEnumerationNotSupported = 25,
+        continuationOnErrorNotSupported = 26,
+        serverLimitsExceeded = 27,
     };
 
 private:

@@ -33,15 +33,15 @@ void openEnvelope(CimXmlWriter& out, const std::string& messageId) {
 CimOperationHandler::CimOperationHandler(const ClassRepository& classes, Settings settings)
     : _classes(classes), _settings(settings) {
     addOperation("EnumerateClassNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ClassName", "DeepInheritance"});
+        checkParams(request, {"ClassName", "DeepInheritance"});
         _enumerateClassNames(request, out);
     });
     addOperation("EnumerateClasses", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ClassName", "DeepInheritance", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin"});
+        checkParams(request, {"ClassName", "DeepInheritance", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin"});
         _enumerateClasses(request, out);
     });
     addOperation("GetClass", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ClassName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
+        checkParams(request, {"ClassName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
         _getClass(request, out);
     });
 }
@@ -109,7 +109,7 @@ std::optional<std::set<std::string>> CimOperationHandler::propertyListParam(cons
     return names;
 }
 
-void CimOperationHandler::_checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const {
+void CimOperationHandler::checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) {
     for (const auto& p : request.params()) {
         bool known = std::any_of(allowed.begin(), allowed.end(), [&](const char* a) { return sameName(p.name, a); });
         if (!known) invalidParameter("unknown parameter " + p.name + " for " + request.methodName());
@@ -146,6 +146,7 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
             throw CimProtocolError(400, "request-not-valid", "Content-Type " + *exchange.contentType + " is not XML");
         CimRequest request = CimRequest::parse(exchange.body, _settings.maxXmlDepth);
         _checkHeaders(exchange, request);
+        request.setClient(exchange.client);
         if (ServerLog::enabled(ServerLog::Level::Debug))
             ServerLog::debug("request " + request.methodName() + " in " + request.nameSpace());
 

@@ -37,11 +37,13 @@ public:
     static std::string stringParam(const CimRequest& request, const char* name);
     static std::optional<std::set<std::string>> propertyListParam(const CimRequest& request);
 
+    // Refuses a parameter the operation does not take.
+    static void checkParams(const CimRequest& request, std::initializer_list<const char*> allowed);
+
     static std::string percentDecode(const std::string& text);
 
 private:
     void _checkHeaders(const CimHttpExchange& exchange, const CimRequest& request) const;
-    void _checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const;
     void _dispatch(const CimRequest& request, CimXmlWriter& out) const;
     void _enumerateClassNames(const CimRequest& request, CimXmlWriter& out) const;
     void _enumerateClasses(const CimRequest& request, CimXmlWriter& out) const;

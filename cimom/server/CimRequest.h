@@ -32,6 +32,10 @@ public:
     const std::vector<Param>& params() const { return _params; }
     const Param* param(const std::string& name) const;
 
+    // Who sent it (the peer's address), for state kept per client.
+    const std::string& client() const { return _client; }
+    void setClient(std::string client) { _client = std::move(client); }
+
     // "a/b" from <LOCALNAMESPACEPATH><NAMESPACE NAME="a"/><NAMESPACE NAME="b"/>.
     static std::string namespaceOf(pugi::xml_node localNamespacePath);
 
@@ -45,4 +49,5 @@ private:
     std::string _nameSpace;
     pugi::xml_node _target;
     std::vector<Param> _params;
+    std::string _client;
 };

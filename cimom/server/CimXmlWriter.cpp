@@ -111,6 +111,7 @@ void CimXmlWriter::_startTag(std::string_view tag, const Attributes& attributes)
 }
 
 CimXmlWriter& CimXmlWriter::open(std::string_view tag, const Attributes& attributes) {
+    if (_spans && _open.size() == _spanDepth) _spans->push_back({_out.size(), _out.size()});
     _startTag(tag, attributes);
     _out += '>';
     _open.push_back(tag);
@@ -123,6 +124,7 @@ CimXmlWriter& CimXmlWriter::close() {
     _out += _open.back();
     _out += '>';
     _open.pop_back();
+    if (_spans && _open.size() == _spanDepth) _spans->back().end = _out.size();
     return *this;
 }
 

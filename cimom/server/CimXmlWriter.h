@@ -54,6 +54,24 @@ public:
     // <tag>content</tag> in one call.
     CimXmlWriter& element(std::string_view tag, std::string_view content, const Attributes& attributes = {});
 
+    // Already written CIM-XML, such as a part of an earlier answer.
+    CimXmlWriter& raw(std::string_view xml) {
+        _out += xml;
+        return *this;
+    }
+
+    // Where one element begins and ends in the text.
+    struct Span {
+        std::size_t begin;
+        std::size_t end;
+    };
+    // From now on, records the span of every element opened at this depth,
+    // so that a caller can hand the elements out one by one later.
+    void recordSpans(std::vector<Span>* spans, std::size_t depth) {
+        _spans = spans;
+        _spanDepth = depth;
+    }
+
     Mark mark() const { return {_out.size(), _open.size()}; }
     // Drops everything written since the mark.
     void rollback(const Mark& mark);
@@ -78,4 +96,6 @@ private:
 
     std::string _out;
     std::vector<std::string_view> _open;
+    std::vector<Span>* _spans = nullptr;
+    std::size_t _spanDepth = 0;
 };

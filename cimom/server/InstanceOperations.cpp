@@ -43,13 +43,6 @@ std::optional<std::vector<std::string>> toList(const std::optional<std::set<std:
 InstanceOperations::InstanceOperations(const ClassRepository& classes, ProviderManager& providers)
     : _classes(classes), _providers(providers) {}
 
-void InstanceOperations::_checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const {
-    for (const auto& p : request.params()) {
-        bool known = std::any_of(allowed.begin(), allowed.end(), [&](const char* a) { return CimName::equal(p.name, a); });
-        if (!known) fail(CimOperationError::invalidParameter, "unknown parameter " + p.name + " for " + request.methodName());
-    }
-}
-
 std::string InstanceOperations::_requireClass(const CimRequest& request, const char* param) const {
     std::string name = CimOperationHandler::classNameParam(request, param);
     if (name.empty()) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
@@ -76,42 +69,42 @@ CimObjectPath InstanceOperations::_objectName(const CimRequest& request, const c
 
 void InstanceOperations::registerWith(CimOperationHandler& handler) const {
     handler.addOperation("EnumerateInstanceNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ClassName"});
-        _enumerateInstanceNames(request, out);
+        CimOperationHandler::checkParams(request, {"ClassName"});
+        enumerateInstanceNames(request, out, Form::classic);
     });
     handler.addOperation("EnumerateInstances", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ClassName", "LocalOnly", "DeepInheritance", "IncludeQualifiers", "IncludeClassOrigin",
+        CimOperationHandler::checkParams(request, {"ClassName", "LocalOnly", "DeepInheritance", "IncludeQualifiers", "IncludeClassOrigin",
                                "PropertyList"});
-        _enumerateInstances(request, out);
+        enumerateInstances(request, out, Form::classic);
     });
     handler.addOperation("GetInstance", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"InstanceName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
+        CimOperationHandler::checkParams(request, {"InstanceName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
         _getInstance(request, out);
     });
     handler.addOperation("Associators", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole", "IncludeQualifiers",
+        CimOperationHandler::checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole", "IncludeQualifiers",
                                "IncludeClassOrigin", "PropertyList"});
-        _associators(request, out, false);
+        associators(request, out, false, Form::classic);
     });
     handler.addOperation("AssociatorNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole"});
-        _associators(request, out, true);
+        CimOperationHandler::checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole"});
+        associators(request, out, true, Form::classic);
     });
     handler.addOperation("References", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ObjectName", "ResultClass", "Role", "IncludeQualifiers", "IncludeClassOrigin",
+        CimOperationHandler::checkParams(request, {"ObjectName", "ResultClass", "Role", "IncludeQualifiers", "IncludeClassOrigin",
                                "PropertyList"});
-        _references(request, out, false);
+        references(request, out, false, Form::classic);
     });
     handler.addOperation("ReferenceNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"ObjectName", "ResultClass", "Role"});
-        _references(request, out, true);
+        CimOperationHandler::checkParams(request, {"ObjectName", "ResultClass", "Role"});
+        references(request, out, true, Form::classic);
     });
     handler.addOperation("CreateInstance", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"NewInstance"});
+        CimOperationHandler::checkParams(request, {"NewInstance"});
         _createInstance(request, out);
     });
     handler.addOperation("DeleteInstance", [this](const CimRequest& request, CimXmlWriter& out) {
-        _checkParams(request, {"InstanceName"});
+        CimOperationHandler::checkParams(request, {"InstanceName"});
         _deleteInstance(request, out);
     });
     handler.setMethodCall([this](const CimRequest& request, CimXmlWriter& out) { invokeMethod(request, out); });
@@ -131,18 +124,18 @@ InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(const CimReque
 }
 
 bool InstanceOperations::_enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names,
-                                                 CimXmlWriter& out) const {
+                                                 Form form, CimXmlWriter& out) const {
     if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), className)) return false;
     InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
     out.open("IRETURNVALUE");
     for (const CimInstance& instance : _subscriptions->instances(className)) {
         if (names) {
-            InstanceXml::writeInstanceName(out, instance.path(), _host);
+            _writeName(out, instance.path(), request.nameSpace(), form);
             continue;
         }
         options.cls = _classes.find(request.nameSpace(), instance.className());
-        out.open("VALUE.NAMEDINSTANCE");
-        InstanceXml::writeInstanceName(out, instance.path(), _host);
+        out.open(form == Form::classic ? "VALUE.NAMEDINSTANCE" : "VALUE.INSTANCEWITHPATH");
+        _writeName(out, instance.path(), request.nameSpace(), form);
         InstanceXml::writeInstance(out, instance, options);
         out.close();
     }
@@ -170,9 +163,28 @@ void InstanceOperations::_deleteInstance(const CimRequest& request, CimXmlWriter
     (void)out;  // DeleteInstance answers with no return value
 }
 
-void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const {
+void InstanceOperations::_writeName(CimXmlWriter& out, const CimObjectPath& path, const std::string& nameSpace,
+                                    Form form) const {
+    switch (form) {
+        case Form::classic:
+            InstanceXml::writeInstanceName(out, path, _host);
+            return;
+        case Form::pulled: {
+            if (!path.nameSpace().empty()) {
+                InstanceXml::writeInstancePath(out, path, _host);
+                return;
+            }
+            CimObjectPath full = path;
+            full.setNameSpace(nameSpace);
+            InstanceXml::writeInstancePath(out, full, _host);
+            return;
+        }
+    }
+}
+
+void InstanceOperations::enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out, Form form) const {
     std::string className = _requireClass(request, "ClassName");
-    if (_enumerateSubscriptions(request, className, true, out)) return;
+    if (_enumerateSubscriptions(request, className, true, form, out)) return;
     PathSet seen;
     out.open("IRETURNVALUE");
     for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
@@ -184,14 +196,14 @@ void InstanceOperations::_enumerateInstanceNames(const CimRequest& request, CimX
             if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
         }
         for (const CimObjectPath& path : paths)
-            if (seen.insert(path).second) InstanceXml::writeInstanceName(out, path, _host);
+            if (seen.insert(path).second) _writeName(out, path, request.nameSpace(), form);
     }
     out.close();
 }
 
-void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWriter& out) const {
+void InstanceOperations::enumerateInstances(const CimRequest& request, CimXmlWriter& out, Form form) const {
     std::string className = _requireClass(request, "ClassName");
-    if (_enumerateSubscriptions(request, className, false, out)) return;
+    if (_enumerateSubscriptions(request, className, false, form, out)) return;
     bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
     CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
     InstanceXml::InstanceOptions options = _instanceOptions(request, true);
@@ -228,8 +240,8 @@ void InstanceOperations::_enumerateInstances(const CimRequest& request, CimXmlWr
             // up again only when an instance of another one comes.
             if (!options.cls || !CimName::equal(options.cls->name, instance.className()))
                 options.cls = _classes.find(request.nameSpace(), instance.className());
-            out.open("VALUE.NAMEDINSTANCE");
-            InstanceXml::writeInstanceName(out, instance.path(), _host);
+            out.open(form == Form::classic ? "VALUE.NAMEDINSTANCE" : "VALUE.INSTANCEWITHPATH");
+            _writeName(out, instance.path(), request.nameSpace(), form);
             InstanceXml::writeInstance(out, instance, options);
             out.close();
             // Instances of one class are about the same size: room for the
@@ -270,8 +282,8 @@ std::vector<std::string> InstanceOperations::_associationClasses(const std::stri
     return classes;
 }
 
-void InstanceOperations::_associators(const CimRequest& request, CimXmlWriter& out, bool names) const {
-    CimObjectPath object = _objectName(request, "ObjectName");
+void InstanceOperations::associators(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const {
+    CimObjectPath object = _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
     std::string assocClass = CimOperationHandler::classNameParam(request, "AssocClass");
     std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
     std::string role = CimOperationHandler::stringParam(request, "Role");
@@ -288,21 +300,21 @@ void InstanceOperations::_associators(const CimRequest& request, CimXmlWriter& o
             auto paths = viaProvider([&] {
                 return _providers.associatorNames(object, assoc, resultClass, role, resultRole);
             });
-            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), seen);
+            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), form, seen);
         } else {
             auto instances = viaProvider([&] {
                 return _providers.associators(object, assoc, resultClass, role, resultRole,
                                               providerList ? &*providerList : nullptr);
             });
             for (CimInstance& instance : instances)
-                _writeObjectWithPath(out, instance, request.nameSpace(), options, seen);
+                _writeObjectWithPath(out, instance, request.nameSpace(), options, form, seen);
         }
     }
     out.close();
 }
 
-void InstanceOperations::_references(const CimRequest& request, CimXmlWriter& out, bool names) const {
-    CimObjectPath object = _objectName(request, "ObjectName");
+void InstanceOperations::references(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const {
+    CimObjectPath object = _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
     std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
     std::string role = CimOperationHandler::stringParam(request, "Role");
     if (!resultClass.empty() && !_classes.knowsClassName(request.nameSpace(), resultClass))
@@ -315,35 +327,42 @@ void InstanceOperations::_references(const CimRequest& request, CimXmlWriter& ou
     for (const std::string& assoc : _associationClasses(request.nameSpace(), resultClass)) {
         if (names) {
             auto paths = viaProvider([&] { return _providers.referenceNames(object, assoc, role); });
-            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), seen);
+            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), form, seen);
         } else {
             auto instances = viaProvider([&] {
                 return _providers.references(object, assoc, role, providerList ? &*providerList : nullptr);
             });
             for (CimInstance& instance : instances)
-                _writeObjectWithPath(out, instance, request.nameSpace(), options, seen);
+                _writeObjectWithPath(out, instance, request.nameSpace(), options, form, seen);
         }
     }
     out.close();
 }
 
 void InstanceOperations::_writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace,
-                                          PathSet& seen) const {
+                                          Form form, PathSet& seen) const {
     if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
     if (!seen.insert(path).second) return;
-    out.open("OBJECTPATH");
-    InstanceXml::writeInstancePath(out, path, _host);
-    out.close();
+    switch (form) {
+        case Form::classic:
+            out.open("OBJECTPATH");
+            InstanceXml::writeInstancePath(out, path, _host);
+            out.close();
+            return;
+        case Form::pulled:
+            InstanceXml::writeInstancePath(out, path, _host);
+            return;
+    }
 }
 
 void InstanceOperations::_writeObjectWithPath(CimXmlWriter& out, const CimInstance& instance,
                                               const std::string& nameSpace, InstanceXml::InstanceOptions& options,
-                                              PathSet& seen) const {
+                                              Form form, PathSet& seen) const {
     CimObjectPath path = instance.path();
     if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
     if (!seen.insert(path).second) return;
     options.cls = _classes.find(path.nameSpace(), path.className());
-    out.open("VALUE.OBJECTWITHPATH");
+    out.open(form == Form::classic ? "VALUE.OBJECTWITHPATH" : "VALUE.INSTANCEWITHPATH");
     InstanceXml::writeInstancePath(out, path, _host);
     InstanceXml::writeInstance(out, instance, options);
     out.close();

@@ -34,17 +34,23 @@ public:
 
     void invokeMethod(const CimRequest& request, CimXmlWriter& out) const;
 
+    // The classic operations name instances as their clients expect;
+    // pulled enumerations give every instance its full path, and the
+    // associations take their object as InstanceName.
+    enum class Form { classic, pulled };
+    // Each writes an IRETURNVALUE with one element per result.
+    void enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out, Form form) const;
+    void enumerateInstances(const CimRequest& request, CimXmlWriter& out, Form form) const;
+    void associators(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const;
+    void references(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const;
+
 private:
-    void _enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out) const;
-    void _enumerateInstances(const CimRequest& request, CimXmlWriter& out) const;
     void _getInstance(const CimRequest& request, CimXmlWriter& out) const;
     void _createInstance(const CimRequest& request, CimXmlWriter& out) const;
     void _deleteInstance(const CimRequest& request, CimXmlWriter& out) const;
     // True when the subscription classes answered the enumeration.
-    bool _enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names,
+    bool _enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names, Form form,
                                  CimXmlWriter& out) const;
-    void _associators(const CimRequest& request, CimXmlWriter& out, bool names) const;
-    void _references(const CimRequest& request, CimXmlWriter& out, bool names) const;
 
     std::string _requireClass(const CimRequest& request, const char* param) const;
     CimObjectPath _objectName(const CimRequest& request, const char* param) const;
@@ -52,13 +58,14 @@ private:
     // Association classes to ask: the given one and its subclasses, or every
     // association class of the namespace.
     std::vector<std::string> _associationClasses(const std::string& nameSpace, const std::string& assocClass) const;
-    void _checkParams(const CimRequest& request, std::initializer_list<const char*> allowed) const;
 
     // Results of several providers may overlap; each path is written once.
     using PathSet = std::unordered_set<CimObjectPath, CimObjectPathHash>;
-    void _writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace, PathSet& seen) const;
+    void _writeName(CimXmlWriter& out, const CimObjectPath& path, const std::string& nameSpace, Form form) const;
+    void _writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace, Form form,
+                          PathSet& seen) const;
     void _writeObjectWithPath(CimXmlWriter& out, const CimInstance& instance, const std::string& nameSpace,
-                              InstanceXml::InstanceOptions& options, PathSet& seen) const;
+                              InstanceXml::InstanceOptions& options, Form form, PathSet& seen) const;
 
     const ClassRepository& _classes;
     ProviderManager& _providers;

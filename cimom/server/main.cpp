@@ -5,6 +5,7 @@
 #include "CimOperationHandler.h"
 #include "IndicationDispatcher.h"
 #include "InstanceOperations.h"
+#include "PullOperations.h"
 #include "SubscriptionOperations.h"
 #include "SubscriptionStore.h"
 #include "MofError.h"
@@ -189,6 +190,8 @@ int main(int argc, char** argv) {
     instances.setSubscriptions(&subscriptions);
     CimOperationHandler handler(classes, CimOperationHandler::Settings{o.maxDepth});
     instances.registerWith(handler);
+    PullOperations pulls(instances, PullOperations::Settings{});
+    pulls.registerWith(handler);
     CimHttpServer::Settings settings;
     settings.listen = o.listen;
     settings.port = o.port.value_or(o.cert.empty() ? 5988 : 5989);
