@@ -1,9 +1,10 @@
-# veldra_add_test(NAME SOURCES a.cpp ... LIBS lib ... [LABELS label] [CONCURRENCY])
+# veldra_add_test(NAME SOURCES a.cpp ... LIBS lib ... [LABELS label] [TIMEOUT s] [CONCURRENCY])
 # A GoogleTest executable registered with CTest. CONCURRENCY marks it for the
-# second run under the thread sanitizer that scripts/test does.
+# second run under the thread sanitizer that scripts/test does. TIMEOUT caps
+# each of its tests, for tests whose failure may be a hang.
 include(GoogleTest)
 function(veldra_add_test name)
-  cmake_parse_arguments(T "CONCURRENCY" "" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(T "CONCURRENCY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest_main GTest::gmock Threads::Threads)
   target_compile_definitions(${name} PRIVATE
@@ -19,5 +20,9 @@ function(veldra_add_test name)
     set(label concurrency)
     set_property(GLOBAL APPEND PROPERTY VELDRA_TSAN_TARGETS ${name})
   endif()
-  gtest_discover_tests(${name} PROPERTIES LABELS ${label} DISCOVERY_TIMEOUT 120)
+  set(timeout)
+  if(T_TIMEOUT)
+    set(timeout TIMEOUT ${T_TIMEOUT})
+  endif()
+  gtest_discover_tests(${name} PROPERTIES LABELS ${label} ${timeout} DISCOVERY_TIMEOUT 120)
 endfunction()

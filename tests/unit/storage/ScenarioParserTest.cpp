@@ -2,9 +2,13 @@
 // with the field and the line, and fail lists make exactly those getters fail.
 #include "LocatorLog.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
+#include <future>
 #include "ScenarioParser.h"
 #include "SimulatedControllerMRA.h"
 #include "StorageTestSupport.h"
@@ -183,8 +187,14 @@ TEST(BadScenarios, AFileThatIsNotRegularIsRefusedAtOnce) {
     TempDir dir;
     std::string fifo = dir.file("s.yaml");
     ASSERT_EQ(::mkfifo(fifo.c_str(), 0600), 0);
+    auto parsing = std::async(std::launch::async, [&] { ScenarioParser::parseFile(fifo); });
+    if (parsing.wait_for(std::chrono::seconds(10)) != std::future_status::ready) {
+        // Hand the reader an end of file so that the test ends with its failure.
+        ::close(::open(fifo.c_str(), O_WRONLY));
+        FAIL() << "start-up waited on a FIFO";
+    }
     try {
-        ScenarioParser::parseFile(fifo);
+        parsing.get();
         ADD_FAILURE() << "a FIFO was read as a scenario";
     } catch (ScenarioError const& e) {
         EXPECT_NE(std::string(e.what()).find("not a regular file"), std::string::npos) << e.what();
