@@ -7,7 +7,11 @@
 #   - the instances of every class (EnumerateInstanceNames through wbemcli);
 #   - EnumerateInstances of QLN_VDDiskDrive with wrk, in instances per second;
 #   - the latency of Associators of one disk and of one array system (wrk,
-#     one connection, so the percentiles are those of single requests).
+#     one connection, so the percentiles are those of single requests);
+#   - EnumerateInstances of every class, twice, with the rate of the largest
+#     association classes and the memory afterwards;
+#   - the memory while every instance is pulled 1,000 at a time;
+# and ends with one line per target, the target beside it.
 #
 #   bench/model/run.sh [--build DIR] [--controllers N] [--disks M]
 #                      [--duration 10s] [--connections 4] [--threads 2] [--class-limit 60]
@@ -112,7 +116,14 @@ disk_count=$(wbemcli ein "$url:QLN_VDDiskDrive" | grep -c .)
 echo "== EnumerateInstances QLN_VDDiskDrive ($disk_count instances), $duration, $connections connections"
 load EnumerateInstances "$work/ei.xml" "$connections" | tee "$work/ei.out" | grep -E "Requests/sec|Latency|requests:|50%|99%"
 rate=$(awk '/Requests\/sec/ {print $2}' "$work/ei.out")
-python3 -c "print('instances per second: %.0f (target 50000)' % ($rate * $disk_count))"
+ei_rate=$(python3 -c "print('%.0f' % ($rate * $disk_count))")
+ei_p99=$(awk '$1 == "99%" {print $2}' "$work/ei.out" | python3 -c '
+import sys
+t = sys.stdin.read().strip()
+scale = {"us": 0.001, "ms": 1, "s": 1000, "m": 60000}
+unit = t.lstrip("0123456789.")
+print("%.0f" % (float(t[:len(t) - len(unit)]) * scale[unit]))')
+echo "instances per second: $ei_rate"
 
 for cls in QLN_VDDiskDrive QLN_VDArraySystem; do
   envelope Associators "<IPARAMVALUE NAME=\"ObjectName\">$(first_instance_name "$cls")</IPARAMVALUE>" >"$work/assoc.xml"
@@ -121,17 +132,52 @@ for cls in QLN_VDDiskDrive QLN_VDArraySystem; do
   echo "== Associators of one $cls ($found instances), $duration, 1 connection"
   load Associators "$work/assoc.xml" 1 | grep -E "Requests/sec|Latency|requests:|50%|90%|99%"
 done
+classes=$(wbemcli -nl ecn "$url" | sed 's/.*://')
 total=0
 incomplete=""
-echo "instances per class (EnumerateInstanceNames through wbemcli, time per class):"
-for cls in $(wbemcli -nl ecn "$url" | sed 's/.*://'); do
-  began=$(now_ms)
-  # A class whose enumeration outlasts the limit is reported, not waited for.
-  if timeout "$class_limit" wbemcli ein "$url:$cls" >"$work/names" 2>&1; then note=""
-  else note="  NOT ANSWERED within ${class_limit}s"; incomplete="$incomplete $cls"; fi
-  n=$(grep -c "$cls\." "$work/names" || true)
-  total=$((total + n))
-  printf '  %-62s %7d %7d ms%s\n' "$cls" "$n" "$(( $(now_ms) - began ))" "$note"
+biggest=""
+echo "instances per class (EnumerateInstances, time per class; the sweep runs twice, the second is shown):"
+for round in 1 2; do
+  total=0
+  for cls in $classes; do
+    envelope EnumerateInstances "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$cls\"/></IPARAMVALUE>" >"$work/cls.xml"
+    began=$(now_ms)
+    # A class whose enumeration outlasts the limit is reported, not waited for.
+    if curl -s --max-time "$class_limit" -X POST "http://127.0.0.1:$port/cimom" \
+        -H 'Content-Type: application/xml; charset="utf-8"' -H "CIMOperation: MethodCall" \
+        -H "CIMMethod: EnumerateInstances" -H "CIMObject: root%2Fmwq" --data-binary "@$work/cls.xml" >"$work/answer"
+    then note=""; else note="  NOT ANSWERED within ${class_limit}s"; incomplete="$incomplete $cls"; fi
+    took=$(( $(now_ms) - began ))
+    n=$(grep -o "<VALUE.NAMEDINSTANCE>" "$work/answer" | wc -l || true)
+    total=$((total + n))
+    [ "$round" = 2 ] || continue
+    printf '  %-62s %7d %7d ms%s\n' "$cls" "$n" "$took" "$note"
+    biggest="$biggest$n $took $cls"$'\n'
+  done
 done
 echo "instances of all classes: $total${incomplete:+ (incomplete:$incomplete)}"
-echo "resident memory at the end: $(( $(rss_kb "$cimd_pid") / 1024 )) MiB"
+rss_swept=$(rss_kb "$cimd_pid")
+echo "resident memory after every class was enumerated twice: $((rss_swept / 1024)) MiB"
+
+read -r pulled pulls rss_pull < <(python3 "$root/bench/model/pull.py" "$port" "$cimd_pid" 1000 $classes)
+echo "pulled $pulled instances of all classes 1,000 at a time ($pulls requests); resident memory at most $rss_pull MiB"
+
+# One line per target: the figure, the target, and whether it is met.
+verdict() { python3 -c "import sys; print('met' if $1 else 'NOT met')"; }
+echo "== targets"
+printf '  %-58s %12s   target %-14s %s\n' \
+  "EnumerateInstances QLN_VDDiskDrive, $connections connections" "$ei_rate/s" ">= 150000/s" "$(verdict "$ei_rate >= 150000")" \
+  "p99 per $disk_count-instance answer" "$ei_p99 ms" "< 100 ms" "$(verdict "$ei_p99 < 100")"
+printf "%s" "$biggest" | sort -rn | sed -n 1,2p | while read -r n took cls; do
+  per_s=$(python3 -c "print('%.0f' % ($n * 1000 / max($took, 1)))")
+  printf '  %-58s %12s   target %-14s %s\n' "EnumerateInstances $cls ($n)" "$per_s/s" ">= 100000/s" \
+    "$(verdict "$per_s >= 100000")"
+done
+build_ms=$((answered - started))
+printf '  %-58s %12s   target %-14s %s\n' \
+  "graph build (launch to first answer)" "$build_ms ms" "< 1000 ms" "$(verdict "$build_ms < 1000")" \
+  "resident memory after the build" "$((rss_built / 1024)) MiB" "< 120 MiB" "$(verdict "$rss_built < 120 * 1024")" \
+  "resident memory after every class enumerated twice" "$((rss_swept / 1024)) MiB" "< 150 MiB" \
+  "$(verdict "$rss_swept < 150 * 1024")" \
+  "resident memory while pulling every instance by 1,000" "$rss_pull MiB" "bounded" \
+  "(pulled $pulled of $total)"
