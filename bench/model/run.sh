@@ -173,9 +173,15 @@ printf "%s" "$biggest" | sort -rn | sed -n 1,2p | while read -r n took cls; do
   printf '  %-58s %12s   target %-14s %s\n' "EnumerateInstances $cls ($n)" "$per_s/s" ">= 100000/s" \
     "$(verdict "$per_s >= 100000")"
 done
-build_ms=$((answered - started))
+# The build runs from the provider's first factory log line to its last graph line.
+build_ms=$(grep -E "_cmpiManagedInstanceFactory|return _createAllLogicalDiskInstances" "$work/stderr" | python3 -c '
+import sys
+from datetime import datetime
+stamps = [datetime.strptime(line.split()[0], "%Y-%m-%dT%H:%M:%S.%fZ") for line in sys.stdin]
+print(round((stamps[-1] - stamps[0]).total_seconds() * 1000) if len(stamps) > 1 else -1)')
 printf '  %-58s %12s   target %-14s %s\n' \
-  "graph build (launch to first answer)" "$build_ms ms" "< 1000 ms" "$(verdict "$build_ms < 1000")" \
+  "graph build (first factory to last graph log line)" "$build_ms ms" "< 1000 ms" \
+  "$(verdict "0 <= $build_ms < 1000")" \
   "resident memory after the build" "$((rss_built / 1024)) MiB" "< 120 MiB" "$(verdict "$rss_built < 120 * 1024")" \
   "resident memory after every class enumerated twice" "$((rss_swept / 1024)) MiB" "< 150 MiB" \
   "$(verdict "$rss_swept < 150 * 1024")" \

@@ -6,10 +6,14 @@
 #include "CimXmlWriter.h"
 #include "InstanceOperations.h"
 
+#include <malloc.h>
+
 #include <charconv>
 #include <optional>
 
 namespace {
+
+constexpr std::size_t largeResult = 1 << 20;
 
 using Form = InstanceOperations::Form;
 
@@ -131,6 +135,13 @@ void PullOperations::_open(const CimRequest& request, CimXmlWriter& out, Kind ki
     all.recordSpans(&results.objects, 1);
     enumerate(all);
     results.text = all.take();
+    if (results.text.size() >= largeResult) {
+        // The context keeps only the text, at its own size. Building it left
+        // several times that freed in this worker's malloc arena, and the
+        // small first answer would not have it handed back.
+        results.text.shrink_to_fit();
+        malloc_trim(0);
+    }
     _writeBatch(out, _contexts.open({request.client(), request.nameSpace()}, std::move(results), timeout, max));
 }
 
