@@ -25,6 +25,8 @@ namespace QLN {
 class QLN_VDArrayController;
 class QLN_VDArraySystem;
 struct WorkerPass;
+struct PassRoster;
+class QLN_VDStoragePool;
 class QLN_VDPhysicalPackage;
 class QLN_VDSCSIProtocolController;
 class QLN_VDISASSCSIProtocolEndpoint;
@@ -125,8 +127,9 @@ private:
     void _updateViewClassInstances();
     std::uint32_t _backgroundWorker(CmpiCpp::CmpiContext const& context);
     // The steps of one pass (worker/), in the order the pass calls them.
+    PassRoster _rosterOf() const;
     void _handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,
-                           CmpiCpp::CmpiContext const& context);
+                           std::vector<QLN_VDStoragePool*> const& pools, CmpiCpp::CmpiContext const& context);
     void _scanForController(WorkerPass& pass, QLN_VDArrayController* arrayController);
     void _createNewDevices(WorkerPass& pass, QLN_VDArrayController* arrayController);
     void _addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController* arrayController);

@@ -39,33 +39,30 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
     // The one handler of the pass: whatever throws, the lock is given back and
     // the caller of PerformWork hears of it. Nothing pending reaches the graph.
     try {
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            auto* arrayController = dynamic_cast<QLN_VDArrayController*>(_managedInstances.getManagedInstance(i));
-            if (arrayController != nullptr) {
-                _logger.info("handling controller");
-                _handleController(pass, arrayController, context);
-            }
+        // One walk finds what every step needs; the graph changes only in the
+        // batch, so only a pass with a batch walks again after it. A quiet
+        // pass on a large graph is then one walk, not one per controller.
+        PassRoster roster = _rosterOf();
+        for (QLN_VDArrayController* arrayController : roster.controllers) {
+            _logger.info("handling controller");
+            _handleController(pass, arrayController, roster.pools, context);
         }
+        bool const graphChanges = !pass.pendingDeletions.empty() || !pass.pendingAdditions.empty();
         _applyPending(pass);
+        if (graphChanges) {
+            roster = _rosterOf();
+        }
 
         _logger.info("starting array system manage dynamic");
-        std::vector<QLN_VDArraySystem*> arraySystems;
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            if (auto* system = dynamic_cast<QLN_VDArraySystem*>(_managedInstances.getManagedInstance(i))) {
-                system->manageDynamic(_indicationsEnabled, context);
-                arraySystems.push_back(system);
-            }
+        for (QLN_VDArraySystem* system : roster.arraySystems) {
+            system->manageDynamic(_indicationsEnabled, context);
         }
         // The group's status is made from the systems', so they go first.
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            if (auto* group = dynamic_cast<QLN_VDStorageSpecificCollection*>(_managedInstances.getManagedInstance(i))) {
-                group->manageDynamic(_indicationsEnabled, context, arraySystems);
-            }
+        for (QLN_VDStorageSpecificCollection* group : roster.groups) {
+            group->manageDynamic(_indicationsEnabled, context, roster.arraySystems);
         }
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            if (auto* set = dynamic_cast<QLN_VDStorageRedundancySet*>(_managedInstances.getManagedInstance(i))) {
-                set->manageDynamic(_indicationsEnabled, context);
-            }
+        for (QLN_VDStorageRedundancySet* set : roster.redundancySets) {
+            set->manageDynamic(_indicationsEnabled, context);
         }
         locked = false;
         pthread_mutex_unlock(&_providerMutex);
@@ -73,12 +70,10 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
         // Takes the provider lock itself, so only after the unlock.
         _updateViewClassInstances();
 
-        // Posted on every pass, changed or not; the collection guards its own
-        // lookups, so no provider lock is needed for this walk.
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            if (auto* group = dynamic_cast<QLN_VDStorageSpecificCollection*>(_managedInstances.getManagedInstance(i))) {
-                QLNUtil::postStatus(_logger, context, group->getInstance());
-            }
+        // Posted on every pass, changed or not. The groups are never deleted
+        // by a pass, so the pointers of the roster are still good here.
+        for (QLN_VDStorageSpecificCollection* group : roster.groups) {
+            QLNUtil::postStatus(_logger, context, group->getInstance());
         }
     } catch (...) {
         _logger.info("caught exception in manageDynamic");
@@ -95,15 +90,31 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
     return 0;
 }
 
+PassRoster QLNVeldraProvider::_rosterOf() const {
+    PassRoster roster;
+    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
+        CmpiManagedInstance* instance = _managedInstances.getManagedInstance(i);
+        if (auto* controller = dynamic_cast<QLN_VDArrayController*>(instance)) {
+            roster.controllers.push_back(controller);
+        } else if (auto* pool = dynamic_cast<QLN_VDStoragePool*>(instance)) {
+            roster.pools.push_back(pool);
+        } else if (auto* system = dynamic_cast<QLN_VDArraySystem*>(instance)) {
+            roster.arraySystems.push_back(system);
+        } else if (auto* group = dynamic_cast<QLN_VDStorageSpecificCollection*>(instance)) {
+            roster.groups.push_back(group);
+        } else if (auto* set = dynamic_cast<QLN_VDStorageRedundancySet*>(instance)) {
+            roster.redundancySets.push_back(set);
+        }
+    }
+    return roster;
+}
+
 void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,
+                                          std::vector<QLN_VDStoragePool*> const& pools,
                                           CmpiCpp::CmpiContext const& context) {
     pass.clearController();
     VeldraController* controller = arrayController->getController();
-    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-        auto* pool = dynamic_cast<QLN_VDStoragePool*>(_managedInstances.getManagedInstance(i));
-        if (pool == nullptr) {
-            continue;
-        }
+    for (QLN_VDStoragePool* pool : pools) {
         if (pool->getController() == controller) {
             _logger.info("found storage pool");
             pass.pools.push_back(PoolEntry{pool->getArrayId(), pool});

@@ -18,6 +18,20 @@ class QLN_VDPhysicalPackage;
 class QLN_VDSCSIProtocolController;
 class QLN_VDISASSCSIProtocolEndpoint;
 
+class QLN_VDArrayController;
+class QLN_VDStoragePool;
+class QLN_VDStorageRedundancySet;
+class QLN_VDStorageSpecificCollection;
+
+// The instances a pass works on, in collection order.
+struct PassRoster {
+    std::vector<QLN_VDArrayController*> controllers;
+    std::vector<QLN_VDStoragePool*> pools;
+    std::vector<QLN_VDArraySystem*> arraySystems;
+    std::vector<QLN_VDStorageSpecificCollection*> groups;
+    std::vector<QLN_VDStorageRedundancySet*> redundancySets;
+};
+
 struct WorkerPass {
     // Across all controllers of the pass.
     std::vector<CmpiCpp::CmpiObjectPath> pendingDeletions;
