@@ -114,7 +114,6 @@ void InstanceOperations::registerWith(CimOperationHandler& handler) const {
 // the operation takes them (the name-only operations do not).
 InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(const CimRequest& request, bool flags) const {
     InstanceXml::InstanceOptions options;
-    options.host = _host;
     if (flags) {
         options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
         options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
@@ -151,7 +150,7 @@ void InstanceOperations::_createInstance(const CimRequest& request, CimXmlWriter
                                                   " in " + request.nameSpace() + " cannot be created");
     CimObjectPath made = _subscriptions->create(request);
     out.open("IRETURNVALUE");
-    InstanceXml::writeInstanceName(out, made, _host);
+    InstanceXml::writeInstanceName(out, made);
     out.close();
 }
 
@@ -167,7 +166,7 @@ void InstanceOperations::_writeName(CimXmlWriter& out, const CimObjectPath& path
                                     Form form) const {
     switch (form) {
         case Form::classic:
-            InstanceXml::writeInstanceName(out, path, _host);
+            InstanceXml::writeInstanceName(out, path);
             return;
         case Form::pulled: {
             if (!path.nameSpace().empty()) {
@@ -408,14 +407,14 @@ void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& o
     if (result.isNull())
         out.element("VALUE", "");
     else
-        InstanceXml::writeValue(out, result, _host);
+        InstanceXml::writeValue(out, result);
     out.close();
     for (const auto& [name, value] : outArgs) {
         CimXmlWriter::Attributes attributes{{"NAME", name}};
         const std::string type = value.type() == CMPI_null ? "" : CimValue::typeName(value.elementType());
         if (value.type() != CMPI_null) attributes.add("PARAMTYPE", type);
         out.open("PARAMVALUE", attributes);
-        if (!value.isNull()) InstanceXml::writeValue(out, value, _host);
+        if (!value.isNull()) InstanceXml::writeValue(out, value);
         out.close();
     }
 }

@@ -61,12 +61,12 @@ void InstanceXml::writeLocalNamespacePath(CimXmlWriter& out, const std::string& 
     out.close();
 }
 
-void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path, const std::string& host) {
+void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path) {
     out.open("INSTANCENAME", {{"CLASSNAME", path.className()}});
     for (const auto& key : path.keys()) {
         out.open("KEYBINDING", {{"NAME", key.name}});
         if (key.value.type() == CMPI_ref && !key.value.isNull()) {
-            writeValue(out, key.value, host);
+            writeValue(out, key.value);
         } else {
             out.element("KEYVALUE", key.value.isNull() ? "" : key.value.toText(),
                         {{"VALUETYPE", keyValueType(key.value.type())}});
@@ -82,11 +82,11 @@ void InstanceXml::writeInstancePath(CimXmlWriter& out, const CimObjectPath& path
     out.element("HOST", path.host().empty() ? host : path.host());
     writeLocalNamespacePath(out, path.nameSpace());
     out.close();
-    writeInstanceName(out, path, host);
+    writeInstanceName(out, path);
     out.close();
 }
 
-void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std::string& host) {
+void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value) {
     if (value.isArray()) {
         bool refs = value.elementType() == CMPI_ref;
         out.open(refs ? "VALUE.REFARRAY" : "VALUE.ARRAY");
@@ -94,7 +94,7 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std
             if (e.isNull())
                 out.empty("VALUE.NULL");
             else
-                writeValue(out, e, host);
+                writeValue(out, e);
         }
         out.close();
         return;
@@ -103,9 +103,15 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value, const std
         const CimObjectPath& path = value.asReference();
         out.open("VALUE.REFERENCE");
         if (!path.nameSpace().empty()) {
-            writeInstancePath(out, path, host);
+            // Every reference we hand out points into our own namespaces, so it
+            // goes without HOST, as SFCB writes it: wbemcli then prints
+            // "root/mwq:Class.keys", a path a user can paste back.
+            out.open("LOCALINSTANCEPATH");
+            writeLocalNamespacePath(out, path.nameSpace());
+            writeInstanceName(out, path);
+            out.close();
         } else {
-            writeInstanceName(out, path, host);
+            writeInstanceName(out, path);
         }
         out.close();
         return;
@@ -158,7 +164,7 @@ void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, 
         }
         if (options.includeClassOrigin && decl) attributes.add("CLASSORIGIN", decl->classOrigin);
         out.open(tag, attributes);
-        if (!v.isNull()) writeValue(out, v, options.host);
+        if (!v.isNull()) writeValue(out, v);
         out.close();
     }
     out.close();

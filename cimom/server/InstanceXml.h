@@ -23,16 +23,15 @@ public:
         bool includeQualifiers = false;
         bool includeClassOrigin = false;
         std::optional<std::set<std::string>> propertyList;  // lower-case names
-        std::string host;  // HOST of reference values whose paths carry none
     };
 
-    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path, const std::string& host = "");
+    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path);
     // INSTANCEPATH: NAMESPACEPATH (HOST, LOCALNAMESPACEPATH) then INSTANCENAME.
     static void writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host);
     static void writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace);
     static void writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options);
-    // VALUE, VALUE.ARRAY or VALUE.REFERENCE for a non-null value.
-    static void writeValue(CimXmlWriter& out, const CimValue& value, const std::string& host);
+    // VALUE, VALUE.ARRAY or VALUE.REFERENCE (a LOCALINSTANCEPATH) for a non-null value.
+    static void writeValue(CimXmlWriter& out, const CimValue& value);
 
     // Reads an INSTANCENAME; key types follow the class's MOF when held.
     static CimObjectPath readInstanceName(pugi::xml_node node, const std::string& nameSpace,

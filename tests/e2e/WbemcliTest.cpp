@@ -72,8 +72,8 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
         "HOST/root/test:Test_Disk.Name=\"d1\" Name=\"d1\",Size=1000,Slot=1,Tags=\"fast\",\"d1\","
         "Created=20260101000000.000000+000,Healthy=TRUE\n";
     const std::string poolLine = "HOST/root/test:Test_Pool.InstanceID=\"p1\" InstanceID=\"p1\",ElementName=\"Pool One\"\n";
-    const std::string link = "HOST/root/test:Test_PoolDisk.Antecedent=HOST/root/testTest_Pool.InstanceID=\"p1\","
-                             "Dependent=HOST/root/testTest_Disk.Name=\"d1\"";
+    const std::string ends = "Antecedent=root/test:Test_Pool.InstanceID=\"p1\",Dependent=root/test:Test_Disk.Name=\"d1\"";
+    const std::string link = "HOST/root/test:Test_PoolDisk." + ends;
     const Row rows[] = {
         {"ecn " + url, 0,
          "HOST/root/test:Test_Alert\nHOST/root/test:Test_Disk\nHOST/root/test:Test_Pool\nHOST/root/test:Test_PoolDisk\n"},
@@ -92,7 +92,7 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
         {"ai -arc Test_Disk " + d1, 0, ""},
         {"ai -ar Antecedent " + d1, 0, ""},
         {"ain " + d1, 0, "HOST/root/test:Test_Pool.InstanceID=\"p1\"\n"},
-        {"ri " + d1, 0, link + " Antecedent=HOST/root/testTest_Pool.InstanceID=\"p1\",Dependent=HOST/root/testTest_Disk.Name=\"d1\"\n"},
+        {"ri " + d1, 0, link + " " + ends + "\n"},
         {"rin -arc Test_PoolDisk " + d1, 0, link + "\n"},
         // Sent untyped; the provider answers INVALID_PARAMETER unless it gets a CMPI uint32.
         {"cm " + d1 + " Identify.Duration=7", 0, "HOST/root/test:Test_Disk.Name=\"d1\" Identify: 7, Echo (uint32): 7\n"},
@@ -115,6 +115,29 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
         EXPECT_EQ(normalized(r.out, cimd.port()), row.output);
     }
     EXPECT_NE(readFile(trace).find("Identify 7"), std::string::npos) << readFile(trace);
+}
+
+// A reference as wbemcli prints it, pasted behind the server's URL, names the
+// instance again (an INSTANCEPATH printed as "host/root/testTest_Pool..." did not).
+TEST_F(Wbemcli, PrintedReferencesPasteBack) {
+    CimdProcess cimd(args());
+    const std::string server = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/";
+    CommandResult listed = runCommand("wbemcli ei " + server + "root/test:Test_PoolDisk");
+    ASSERT_EQ(listed.exitCode, 0) << listed.out;
+    // "<path> Antecedent=<ref>,Dependent=<ref>"
+    const std::string line = listed.out.substr(0, listed.out.find('\n'));
+    const std::string properties = line.substr(line.find(' ') + 1);
+    const size_t split = properties.find(",Dependent=");
+    ASSERT_EQ(properties.rfind("Antecedent=", 0), 0u) << line;
+    ASSERT_NE(split, std::string::npos) << line;
+    const std::string antecedent = properties.substr(11, split - 11);
+    const std::string dependent = properties.substr(split + 11);
+    for (const std::string& reference : {antecedent, dependent}) {
+        SCOPED_TRACE(reference);
+        CommandResult got = runCommand("wbemcli gi '" + server + reference + "'");
+        EXPECT_EQ(got.exitCode, 0) << got.out;
+        EXPECT_EQ(got.out.rfind(server.substr(7) + reference + " ", 0), 0u) << got.out;
+    }
 }
 
 // Catches a provider that is never cleaned up: SIGINT (as Ctrl-C in the demo)

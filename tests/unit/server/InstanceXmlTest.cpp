@@ -174,12 +174,12 @@ TEST_F(InstanceXmlTest, WritesInstancesInTheClientsShape) {
     EXPECT_EQ(body(path), "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH>"
                           "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
                           "<INSTANCENAME CLASSNAME=\"QLN_DiskLink\"><KEYBINDING NAME=\"Antecedent\"><VALUE.REFERENCE>"
-                          "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
-                          "<NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
+                          "<LOCALINSTANCEPATH><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
+                          "<NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH>"
                           "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"DeviceID\">"
                           "<KEYVALUE VALUETYPE=\"string\">d&lt;1&gt;</KEYVALUE></KEYBINDING>"
                           "<KEYBINDING NAME=\"Bay\"><KEYVALUE VALUETYPE=\"numeric\">3</KEYVALUE></KEYBINDING>"
-                          "</INSTANCENAME></INSTANCEPATH></VALUE.REFERENCE></KEYBINDING></INSTANCENAME></INSTANCEPATH>");
+                          "</INSTANCENAME></LOCALINSTANCEPATH></VALUE.REFERENCE></KEYBINDING></INSTANCENAME></INSTANCEPATH>");
 
     // What we write, we read back: the reference key survives a round trip.
     pugi::xml_document doc;
