@@ -169,7 +169,13 @@ CimObjectPath SubscriptionOperations::create(const CimRequest& request) {
     } catch (const std::runtime_error& e) {
         fail(CimOperationError::failed, e.what());
     }
-    ServerLog::info("subscriptions: created " + made.className() + " " + keyText(made, "Name"));
+    // A subscription has no Name; it is known by the two it joins.
+    std::string what = keyText(made, "Name");
+    const CimValue* filter = made.key("Filter");
+    const CimValue* handler = made.key("Handler");
+    if (what.empty() && filter && handler && filter->type() == CMPI_ref && handler->type() == CMPI_ref)
+        what = keyText(filter->asReference(), "Name") + " -> " + keyText(handler->asReference(), "Name");
+    ServerLog::info("subscriptions: created " + made.className() + " " + what);
     activate();
     return made;
 }
