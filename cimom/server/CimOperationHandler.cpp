@@ -24,7 +24,8 @@ std::string lower(std::string s) {
 
 void openEnvelope(CimXmlWriter& out, const std::string& messageId) {
     out.open("CIM", {{"CIMVERSION", "2.0"}, {"DTDVERSION", "2.0"}});
-    out.open("MESSAGE", {{"ID", messageId}, {"PROTOCOLVERSION", "1.0"}});
+    // The ID is echoed from the request, which may hold bytes that are not XML.
+    out.open("MESSAGE", {{"ID", CimXmlWriter::xmlSafe(messageId)}, {"PROTOCOLVERSION", "1.0"}});
     out.open("SIMPLERSP");
 }
 
