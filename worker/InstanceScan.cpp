@@ -5,7 +5,7 @@
 #include "QLNVeldraProvider.h"
 
 #include "CmpiManagedInstanceAssociation.h"
-#include "CmpiManagedInstanceMultiAssociation.h"
+#include "CmpiObjectPathResult.h"
 #include "QLN_VDArrayController.h"
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDDiskDrive.h"
@@ -274,24 +274,18 @@ void QLNVeldraProvider::_applyPending(WorkerPass& pass) {
             }
         }
     };
-    auto any = [](CmpiManagedInstance*) { return true; };
 
-    if (!pass.pendingDeletions.empty()) {
-        searchTwoEnded(pass.pendingDeletions, any);
-        // A multi-ended association is listed once per deleted end it touches.
-        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-            auto* association =
-                dynamic_cast<CmpiManagedInstanceMultiAssociation*>(_managedInstances.getManagedInstance(i));
-            if (association == nullptr) {
-                continue;
-            }
-            for (CmpiCpp::CmpiObjectPath const& end : pass.pendingDeletions) {
-                std::vector<CmpiCpp::CmpiObjectPath> const others = association->otherEnd(end);
-                if (std::any_of(others.begin(), others.end(), [](auto const& p) { return !p.empty(); })) {
-                    associationDeletions.push_back(association->getPath());
-                }
-            }
-        }
+    // Every association that names a deleted instance as an end, found
+    // through the collection's index of ends rather than by asking each
+    // association about each path: removing a whole controller's disks would
+    // otherwise cost associations times deletions.
+    struct Named : CmpiCpp::CmpiObjectPathResult {
+        explicit Named(std::vector<CmpiCpp::CmpiObjectPath>& into) : paths(into) {}
+        void returnObjectPath(CmpiCpp::CmpiObjectPath const& path) override { paths.push_back(path); }
+        std::vector<CmpiCpp::CmpiObjectPath>& paths;
+    } named(associationDeletions);
+    for (CmpiCpp::CmpiObjectPath const& end : pass.pendingDeletions) {
+        _managedInstances.referenceNames(named, CmpiCpp::CmpiContext(), end, CmpiCpp::CmpiName(), CmpiCpp::CmpiName());
     }
     if (!pass.passiveSpareEntries.empty()) {
         std::vector<CmpiCpp::CmpiObjectPath> extents;
