@@ -35,15 +35,23 @@ std::filesystem::path executableDir() {
     return ec ? std::filesystem::current_path() : self.parent_path();
 }
 
+// A data file of an installed tree (<prefix>/share/veldra/...) when there is
+// one beside this program, else the source tree's.
+std::string dataPath(const std::string& relative) {
+    auto installed = (executableDir() / ".." / "share" / "veldra" / relative).lexically_normal();
+    if (std::filesystem::exists(installed)) return installed.string();
+    return (std::filesystem::path(VELDRA_SOURCE_DATA_DIR) / relative).string();
+}
+
 struct Options {
     std::string listen = "127.0.0.1";
     std::optional<int> port;
     std::string portFile;
     std::string config;
     std::string scenario;
-    std::string registration = VELDRA_DEFAULT_REGISTRATION;
-    std::string mofDir = VELDRA_DEFAULT_MOF_DIR;
-    std::string interopMof = VELDRA_DEFAULT_INTEROP_MOF;
+    std::string registration = dataPath("registration/veldra-cimd.yaml");
+    std::string mofDir = dataPath("mof");
+    std::string interopMof = dataPath("interop/Interop.mof");
     std::vector<std::string> mofFiles;
     std::string providerDir;
     std::string users;
