@@ -10,6 +10,7 @@
 #include "DRSV_VDStorageVolume.h"
 
 #include "ProviderLock.h"
+#include "WorkerPass.h"
 
 #include <algorithm>
 
@@ -59,9 +60,8 @@ void QLNVeldraProvider::_updateViewClassInstances() {
     ProviderLock lock(_providerMutex);
 
     std::vector<DRSV_VDController*> rescan;
-    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-        auto* controller = dynamic_cast<DRSV_VDController*>(_managedInstances.getManagedInstance(i));
-        if (controller != nullptr && controller->needsRescan()) {
+    for (DRSV_VDController* controller : _rosterOf().viewControllers) {
+        if (controller->needsRescan()) {
             rescan.push_back(controller);
         }
     }

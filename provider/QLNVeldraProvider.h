@@ -144,6 +144,11 @@ private:
 
     Logger _logger;
     CmpiManagedInstanceCollection _managedInstances;
+    // What the last walk of the collection found for the worker, valid while
+    // the collection's generation stays the one it was made at: a quiet pass
+    // on a large graph then walks nothing.
+    mutable std::shared_ptr<PassRoster const> _roster;
+    mutable std::uint64_t _rosterGeneration = 0;
     std::vector<std::string> _reservedVector;
     ReservedRecord _reservedRecord;
     std::vector<VeldraController*> _controllers;

@@ -3,6 +3,7 @@
 // reach the collection only at the end, in one batch.
 #include "QLNVeldraProvider.h"
 
+#include "DRSV_VDController.h"
 #include "QLNUtil.h"
 #include "QLN_VDArrayController.h"
 #include "QLN_VDArraySystem.h"
@@ -90,7 +91,15 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
     return 0;
 }
 
+// The controllers, pools, systems, groups, redundancy sets and view
+// controllers in collection order, as a walk by index with a cast would find
+// them. The walk is kept until the collection changes, so a quiet pass on a
+// large graph looks at none of its other instances.
 PassRoster QLNVeldraProvider::_rosterOf() const {
+    std::uint64_t const generation = _managedInstances.generation();
+    if (_roster != nullptr && generation == _rosterGeneration) {
+        return *_roster;
+    }
     PassRoster roster;
     for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
         CmpiManagedInstance* instance = _managedInstances.getManagedInstance(i);
@@ -104,8 +113,12 @@ PassRoster QLNVeldraProvider::_rosterOf() const {
             roster.groups.push_back(group);
         } else if (auto* set = dynamic_cast<QLN_VDStorageRedundancySet*>(instance)) {
             roster.redundancySets.push_back(set);
+        } else if (auto* view = dynamic_cast<DRSV_VDController*>(instance)) {
+            roster.viewControllers.push_back(view);
         }
     }
+    _roster = std::make_shared<PassRoster const>(roster);
+    _rosterGeneration = generation;
     return roster;
 }
 

@@ -18,6 +18,7 @@ class QLN_VDPhysicalPackage;
 class QLN_VDSCSIProtocolController;
 class QLN_VDISASSCSIProtocolEndpoint;
 
+class DRSV_VDController;
 class QLN_VDArrayController;
 class QLN_VDStoragePool;
 class QLN_VDStorageRedundancySet;
@@ -30,6 +31,7 @@ struct PassRoster {
     std::vector<QLN_VDArraySystem*> arraySystems;
     std::vector<QLN_VDStorageSpecificCollection*> groups;
     std::vector<QLN_VDStorageRedundancySet*> redundancySets;
+    std::vector<DRSV_VDController*> viewControllers;
 };
 
 struct WorkerPass {

@@ -186,6 +186,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     std::unique_ptr<Entry> replaced;
     {
         std::unique_lock lock(_mutex);
+        ++_generation;
         if (!entry->key.empty()) {
             _servedClasses.insert(lowered(entry->className));
         }
@@ -215,6 +216,7 @@ bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
         if (found == _byPath.end()) {
             return false;
         }
+        ++_generation;
         std::size_t position = _positionOf(found->second);
         _unindex(found->second);
         gone = std::move(_entries[position]);
@@ -246,6 +248,11 @@ CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(unsigned 
     return index < _entries.size() ? _entries[index]->instance.get() : nullptr;
 }
 
+std::uint64_t CmpiManagedInstanceCollection::generation() const {
+    std::shared_lock lock(_mutex);
+    return _generation;
+}
+
 unsigned int CmpiManagedInstanceCollection::size() const {
     std::shared_lock lock(_mutex);
     return static_cast<unsigned int>(_entries.size());
@@ -266,6 +273,7 @@ unsigned int CmpiManagedInstanceCollection::cleanup() {
             }
         }
         _entries = std::move(kept);
+        if (!gone.empty()) ++_generation;
     }
     return static_cast<unsigned int>(gone.size());
 }

@@ -22,6 +22,7 @@
 #include "CmpiObjectPathResult.h"
 #include "Logger.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <shared_mutex>
@@ -54,6 +55,9 @@ public:
     // Null past the end, since the size may have changed under the caller.
     CmpiManagedInstance* getManagedInstance(unsigned int index) const;
     unsigned int size() const;
+    // Changes whenever an instance is added, replaced or removed, so that a
+    // caller may keep what it found by walking the collection until then.
+    std::uint64_t generation() const;
     // Removes and deletes every invisible instance; returns how many went.
     unsigned int cleanup();
 
@@ -156,6 +160,7 @@ private:
     ClassTest _classTest;
     mutable std::shared_mutex _mutex;
     std::vector<std::unique_ptr<Entry>> _entries;
+    std::uint64_t _generation = 0;
     // Keyed by views of the entries' own key texts: an entry never changes
     // its key and leaves this index before it is deleted. A copy per
     // instance would be a tenth of the graph's memory.

@@ -111,6 +111,34 @@ TEST_F(Collection, CleanupRemovesOnlyInvisible) {
     EXPECT_EQ(collection.cleanup(), 0u);
 }
 
+// Faults: a change that leaves the generation as it was lets a caller keep
+// pointers to freed instances; a read that moves it wastes every cache.
+TEST_F(Collection, GenerationMovesWithEveryChangeAndOnlyThen) {
+    auto moved = [this, last = collection.generation()]() mutable {
+        auto const now = collection.generation();
+        bool const changed = now != last;
+        last = now;
+        return changed;
+    };
+    add("QLN_Disk", "a1");
+    EXPECT_TRUE(moved()) << "add";
+    collection.createInstance(new TestInstance("QLN_Disk", "a1", &destroyed));
+    EXPECT_TRUE(moved()) << "replace";
+    auto* hidden = add("QLN_Disk", "a2");
+    moved();
+    InstanceSink rows;
+    collection.enumInstances(rows, context, classPath("QLN_Disk"), nullptr);
+    collection.getManagedInstance(0u);
+    EXPECT_EQ(collection.cleanup(), 0u);
+    EXPECT_FALSE(collection.deleteInstance(TestInstance::pathOf("QLN_Disk", "gone")));
+    EXPECT_FALSE(moved()) << "reads, an empty cleanup and a delete of nothing";
+    hidden->setVisible(false);
+    EXPECT_EQ(collection.cleanup(), 1u);
+    EXPECT_TRUE(moved()) << "cleanup";
+    EXPECT_TRUE(collection.deleteInstance(TestInstance::pathOf("QLN_Disk", "a1")));
+    EXPECT_TRUE(moved()) << "delete";
+}
+
 // Faults: the property list is not applied (or drops keys); a failing
 // instance ends the enumeration; a failing single get is swallowed.
 TEST_F(Collection, PropertyListsAndFailingInstances) {
