@@ -40,9 +40,8 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
     // The one handler of the pass: whatever throws, the lock is given back and
     // the caller of PerformWork hears of it. Nothing pending reaches the graph.
     try {
-        // One walk finds what every step needs; the graph changes only in the
-        // batch, so only a pass with a batch walks again after it. A quiet
-        // pass on a large graph is then one walk, not one per controller.
+        // The graph changes only in the batch, so only a pass with a batch
+        // walks the collection again after it.
         PassRoster roster = _rosterOf();
         for (QLN_VDArrayController* arrayController : roster.controllers) {
             _logger.info("handling controller");

@@ -58,13 +58,15 @@ u32 VeldraLogicalDisk::getReplacedDiskID(u32 diskId) const {
 }
 
 std::vector<VeldraPhysicalDisk> VeldraLogicalDisk::logicalToAllPhysicals(std::vector<VeldraPhysicalDisk>& all) const {
-    auto isMember = [this](u32 id) {
-        return std::find(_info->dataDisks.begin(), _info->dataDisks.end(), id) != _info->dataDisks.end() ||
-               std::find(_info->spareDisks.begin(), _info->spareDisks.end(), id) != _info->spareDisks.end();
-    };
+    // Every pass asks this of every logical disk against every disk of its
+    // controller: one mark per member id, not a search per disk.
+    std::vector<u32> ids(_info->dataDisks);
+    ids.insert(ids.end(), _info->spareDisks.begin(), _info->spareDisks.end());
+    std::sort(ids.begin(), ids.end());
     std::vector<VeldraPhysicalDisk> members;
+    members.reserve(ids.size());
     for (auto const& disk : all)
-        if (isMember(disk.getId())) members.push_back(disk);
+        if (std::binary_search(ids.begin(), ids.end(), disk.getId())) members.push_back(disk);
     return members;
 }
 
