@@ -131,18 +131,21 @@ template <class T> void read(YAML::Node const& map, char const* key, T& out, Con
     if (node.IsDefined()) convert(node, out, ctx, key);
 }
 
-std::set<std::string> readFail(YAML::Node const& map, std::vector<std::string> const& failable, Context const& ctx) {
+// A list of operations, each one that `failable` names: "fail" (returns
+// non-zero) or, for controllers, "throw".
+std::set<std::string> readFail(YAML::Node const& map, std::vector<std::string> const& failable, Context const& ctx,
+                               char const* key = "fail") {
     std::set<std::string> out;
-    YAML::Node node = map["fail"];
+    YAML::Node node = map[key];
     if (!node.IsDefined()) return out;
     std::vector<std::string> names;
-    convert(node, names, ctx, "fail");
+    convert(node, names, ctx, key);
     std::set<std::string> known(failable.begin(), failable.end());
     for (auto const& name : names) {
         if (!known.count(name)) {
             std::string list;
             for (auto const& k : failable) list += (list.empty() ? "" : ", ") + k;
-            ctx.fail(node, "fail", "'" + name + "' is no operation that can fail here (known: " + list + ")");
+            ctx.fail(node, key, "'" + name + "' is no operation that can fail here (known: " + list + ")");
         }
         out.insert(name);
     }
@@ -250,7 +253,8 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
         read(addr, "target", info->address.target, here);
         read(addr, "lun", info->address.lun, here);
     }
-    info->fail = readFail(map, ScenarioParser::controllerFailable(), ctx);
+    info->fail = readFail(map, ScenarioParser::controllerFailable(), ctx, "fail");
+    info->raise = readFail(map, ScenarioParser::controllerFailable(), ctx, "throw");
 
     VeldraControllerScenario controller;
     controller.data = info;
@@ -412,7 +416,7 @@ std::vector<std::string> const& ScenarioParser::logicalDiskFailable() {
 std::vector<std::string> const& ScenarioParser::controllerKeys() {
     static std::vector<std::string> const keys = [] {
         std::vector<std::string> k = {VELDRA_CONTROLLER_FIELDS(VELDRA_FIELD_NAME)};
-        for (char const* extra : {"pciInfo", "physloc", "address", "fail", "enclosures", "physicalDisks",
+        for (char const* extra : {"pciInfo", "physloc", "address", "fail", "throw", "enclosures", "physicalDisks",
                                   "logicalDisks", "pulled"})
             k.push_back(extra);
         return k;

@@ -3,6 +3,8 @@
 #include "LocatorLog.h"
 
 #include <ctime>
+#include <stdexcept>
+#include <string>
 
 SimulatedController::SimulatedController(std::shared_ptr<ScenarioStore> store, size_t index, Logger const& logger)
     : _store(std::move(store)), _index(index), _logger(logger) {}
@@ -41,7 +43,9 @@ bool SimulatedController::getSupportsLumenCarrierAuthentication() {
 
 int SimulatedController::_recordLocate(char const* operation, std::string const& what, u32 duration) {
     auto scenario = _store->current();
-    if (_state(scenario).data->fail.count(operation)) return -1;
+    auto const& data = *_state(scenario).data;
+    if (data.raise.count(operation)) throw std::runtime_error(std::string("simulated fault in ") + operation);
+    if (data.fail.count(operation)) return -1;
     char stamp[32];
     std::time_t now = std::time(nullptr);
     std::tm utc{};

@@ -3,6 +3,8 @@
 #include "VeldraRecordData.h"
 
 #include <cstring>
+#include <stdexcept>
+#include <string>
 
 VeldraControllerData::VeldraControllerData() = default;
 
@@ -12,6 +14,9 @@ VeldraControllerData::VeldraControllerData(std::shared_ptr<VeldraControllerInfo 
 VeldraControllerData::~VeldraControllerData() = default;
 
 bool VeldraControllerData::_failing(char const* operation) const {
+    if (!_info->raise.empty() && _info->raise.count(operation) != 0) {
+        throw std::runtime_error(std::string("simulated fault in ") + operation);
+    }
     return !_info->fail.empty() && _info->fail.count(operation) != 0;
 }
 

@@ -154,7 +154,8 @@ struct VeldraControllerInfo {
     VeldraControllerPCIInfo pciInfo;
     std::array<uint8_t, 8> physloc{}; // location record bytes, see physloc.h
     VeldraControllerAddress address;
-    std::set<std::string> fail; // names of the operations told to fail
+    std::set<std::string> fail;  // names of the operations told to fail
+    std::set<std::string> raise; // names of the operations told to throw, as a broken driver call might
     bool operator==(VeldraControllerInfo const&) const = default;
 };
 

@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include <algorithm>
 
 using namespace storagetest;
@@ -142,6 +144,19 @@ TEST(GetterFailures, FailListMakesExactlyThoseGettersFail) {
     EXPECT_EQ(pd, PD_ENCRYPTION_ENCRYPTED);
     EncryptionLDStatusEnum ld = LD_ENCRYPTION_NONE;
     EXPECT_NE(VeldraLogicalDisk(disks.controllers[0].logicalDisks[0]).getEncryptionStatus(ld), 0);
+}
+
+TEST(GetterFailures, ThrowListMakesThoseGettersThrowAndIsCheckedLikeFail) {
+    VeldraScenario s = ScenarioParser::parseText(
+        "controllers:\n"
+        "  - {serialNumber: A, model: M, throw: [getModel]}\n",
+        "t.yaml");
+    VeldraControllerData raising(s.controllers[0].data);
+    std::string text;
+    EXPECT_THROW(raising.getModel(text), std::runtime_error);
+    EXPECT_EQ(raising.getControllerSerialNumber(text), 0);
+    EXPECT_THROW(ScenarioParser::parseText("controllers:\n  - {serialNumber: A, throw: [getNothing]}\n", "t.yaml"),
+                 ScenarioError);
 }
 
 TEST(Locators, RequestsAreRecordedBesideTheScenarioOrFailWhenTold) {

@@ -4,9 +4,11 @@
 #include "WorkerTestSupport.h"
 
 #include <gtest/gtest.h>
+#include <yaml-cpp/yaml.h>
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <set>
 
@@ -45,6 +47,42 @@ TEST(WorkerPass, QuietPassChangesNothing) {
     pass(*provider);
     pass(*provider);
     EXPECT_EQ(graphOf(*provider), before);
+}
+
+// The first controller loses a disk, then the second fails its status read
+// half-way through the same pass: the pass gives up, the first controller's
+// pending changes never reach the graph, and the lock is free again.
+TEST(WorkerPass, APassThatThrowsLeavesTheGraphAsItWas) {
+    WorkingCopy copy("demo.yaml");
+    auto provider = startProvider();
+    pass(*provider);
+    auto const before = graphOf(*provider);
+
+    copy.sim("pull-disk NR8K1000");
+    std::string const file = std::getenv("VELDRA_SCENARIO");
+    YAML::Node scenario = YAML::LoadFile(file);
+    scenario["controllers"][1]["operationalStatus"] = 3;
+    scenario["controllers"][1]["throw"].push_back("getControllerOperationalStatus");
+    std::ofstream(file + ".next") << YAML::Dump(scenario);
+    std::filesystem::rename(file + ".next", file);
+
+    QLN::CapturedMethodResult result;
+    bool failed = false;
+    try {
+        provider->invokeMethod(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
+                               CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+        failed = result.returnValue().value_or(0) != 0;
+    } catch (...) {
+        failed = true;
+    }
+    EXPECT_TRUE(failed) << "the caller of PerformWork hears of the failure";
+    EXPECT_EQ(graphOf(*provider), before) << "changed by the failed pass:\n" << difference(graphOf(*provider), before);
+
+    // The lock was given back: reads and the next pass go on.
+    provider_test::Paths disks;
+    provider->enumInstanceNames(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDDiskDrive"),
+                                disks);
+    EXPECT_FALSE(disks.rows.empty());
 }
 
 // Each change gets a pass of its own, as when an operator types the commands
