@@ -78,25 +78,36 @@ void QLNVeldraProvider::_addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController
             new QLN_VDArraySystemTSASSCSIProtocolEndpoint(_logger, ns, pass.arraySystem, endpoint));
         pass.pendingAdditions.push_back(new QLN_VDTSASPortTSASSCSIProtocolEndpoint(_logger, ns, port, endpoint));
 
-        // The initiator side stays unlinked: an initiator endpoint is never
-        // matched to a route found here, so no logical unit path is made.
-        bool const foundInitiator = false;
+        // The initiator side stays unlinked: nothing sets its flag, so its
+        // test never runs and the walk always goes to the end. The branch is
+        // kept where it stands in the walk, guarded by the flag, on purpose.
+        bool foundInitiator = false;
         bool foundExtent = false;
         QLN_VDDiskDrive* drive = nullptr;
-        for (unsigned int i = 0; i < _managedInstances.size() && drive == nullptr; ++i) {
+        for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
             CmpiManagedInstance* candidate = _managedInstances.getManagedInstance(i);
+            if (foundInitiator) {
+                auto* initiator = dynamic_cast<QLN_VDISASSCSIProtocolEndpoint*>(candidate);
+                if (initiator != nullptr && isPortInPaths(initiator->getPort(), added)) {
+                    _logger.info("found IPE to associate");
+                    foundInitiator = true;
+                    break;
+                }
+            }
             if (auto* extent = dynamic_cast<QLN_VDStorageExtent*>(candidate); !foundExtent && extent &&
                                                                                 sameDisk(*extent, disk)) {
                 _logger.info("found SE to associate");
                 foundExtent = true;
             }
-            if (auto* candidateDrive = dynamic_cast<QLN_VDDiskDrive*>(candidate); candidateDrive &&
+            if (auto* candidateDrive = dynamic_cast<QLN_VDDiskDrive*>(candidate); drive == nullptr && candidateDrive &&
                                                                                  sameDisk(*candidateDrive, disk)) {
                 _logger.info("found disk drive to associate");
                 drive = candidateDrive;
             }
+            if (foundInitiator && foundExtent && drive != nullptr) {
+                break;
+            }
         }
-        (void)foundInitiator;
         if (drive != nullptr) {
             pass.pendingAdditions.push_back(new QLN_VDDiskDriveTSASSCSIProtocolEndpoint(_logger, ns, drive, endpoint));
         }
