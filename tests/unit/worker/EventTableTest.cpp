@@ -91,6 +91,7 @@ TEST_F(FirstPass, WithIndicationsOffIsNeverMadeUpLater) {
 
 TEST_P(EventTable, OnePassSendsWhatTheChangeCalledFor) {
     WorkingCopy copy("demo.yaml");
+    if (GetParam().setup != nullptr) copy.sim(GetParam().setup);
     auto provider = startListenedProvider();
     passWithBroker(*provider);
     sent(); // the survey of what was bad from the start has its own test
