@@ -1,10 +1,11 @@
 #pragma once
-// One row per kind of hardware change on the demo scenario: the veldra-sim
-// command that makes it, and every alert that the next pass sends for it:
-// the indication (class and event id) and the trap it carries (number, flags
-// and the status variable the trap tables give). The worker's unit test and
-// the end-to-end test through veldra-cimd, veldra-listen and snmptrapd read
-// the same rows.
+// One row per event of the alert tables (and per silent case), each a change
+// of the demo scenario: the veldra-sim command that makes it (after a setup
+// command where the event is a return from a bad state), and every alert
+// that the next pass sends for it: the indication (class and event id) and
+// the trap it carries (number, flags and the status variable of the trap
+// tables). The worker's unit test and the end-to-end test through
+// veldra-cimd, veldra-listen and snmptrapd read the same rows.
 #include <algorithm>
 #include <cstdio>
 #include <optional>
@@ -136,6 +137,8 @@ inline std::vector<Row> const& rows() {
             {"DiskStatus8001", "set disk:NR8M3001 status 0x8001", {disk(13, 3046, 12, 5)}},
             {"DiskStatus8002", "set disk:NR8M3001 status 0x8002", {disk(14, 3046, 12, 6)}},
             {"DiskBackOk", "set disk:NR8M3001 status 1", {disk(1, 3046, 8, 2)}, "set disk:NR8M3001 status 4"},
+            {"DiskFromFailedToOnePathFailed", "set disk:NR8M3001 status 0x8003", {disk(5, 3046, 8, 2)},
+             "set disk:NR8M3001 status 4"},
             // A disk that loses or regains one path is not news.
             {"DiskLosesOnePath", "set disk:NR8M3001 status 0x8003", {}},
             {"DiskRegainsOnePath", "set disk:NR8M3001 status 1", {}, "set disk:NR8M3001 status 0x8003"},
