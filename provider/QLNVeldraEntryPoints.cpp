@@ -62,7 +62,13 @@ CmpiProvider* findOrCreateProvider(CMPIBroker const* broker, CMPIContext const* 
     static std::map<std::string, CmpiProvider*> providerRegistry;
     CmpiProvider* provider = nullptr;
     pthread_mutex_lock(&providerRegistryMutex);
-    auto const found = providerRegistry.find(std::string(name));
+    auto found = providerRegistry.find(std::string(name));
+    // A terminating cleanup deletes the provider whatever references the
+    // object manager still holds; the next caller builds a new one.
+    if (found != providerRegistry.end() && !CmpiProvider::isLive(found->second)) {
+        providerRegistry.erase(found);
+        found = providerRegistry.end();
+    }
     if (found != providerRegistry.end()) {
         provider = found->second;
     } else {

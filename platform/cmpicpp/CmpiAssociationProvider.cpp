@@ -14,7 +14,9 @@ CmpiAssociationProvider* self(CMPIAssociationMI* mi) {
 }
 
 CMPIStatus miCleanup(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    CmpiAssociationProvider* p = self(mi);
+    // A table whose provider a terminating cleanup already took down.
+    CmpiProvider* p = self(mi);
+    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
     return CmpiGuard::run(p, [&](CmpiBroker const&) {
         CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
     });
@@ -73,12 +75,15 @@ CMPIAssociationMIFT const associationTable = {
 
 } // namespace
 
-CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI{this, &associationTable} {}
+CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI(new CMPIAssociationMI{this, &associationTable}) {}
 
-CmpiAssociationProvider::~CmpiAssociationProvider() = default;
+CmpiAssociationProvider::~CmpiAssociationProvider() {
+    _associationMI->hdl = nullptr;
+    retireTable(_associationMI, [](void* table) { delete static_cast<CMPIAssociationMI*>(table); });
+}
 
 CMPIAssociationMI* CmpiAssociationProvider::getAssociationMI() {
-    return &_associationMI;
+    return _associationMI;
 }
 
 } // namespace CmpiCpp

@@ -34,7 +34,7 @@ public:
     CMPIAssociationMI* getAssociationMI();
 
 private:
-    CMPIAssociationMI _associationMI;
+    CMPIAssociationMI* _associationMI;
 };
 
 } // namespace CmpiCpp

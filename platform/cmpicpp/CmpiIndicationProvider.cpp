@@ -17,7 +17,9 @@ CmpiObjectPath pathOf(CMPIObjectPath const* op) {
 }
 
 CMPIStatus miCleanup(CMPIIndicationMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    CmpiIndicationProvider* p = self(mi);
+    // A table whose provider a terminating cleanup already took down.
+    CmpiProvider* p = self(mi);
+    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
     return CmpiGuard::run(p, [&](CmpiBroker const&) {
         CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
     });
@@ -79,12 +81,15 @@ CMPIIndicationMIFT const indicationTable = {
 
 } // namespace
 
-CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI{this, &indicationTable} {}
+CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI(new CMPIIndicationMI{this, &indicationTable}) {}
 
-CmpiIndicationProvider::~CmpiIndicationProvider() = default;
+CmpiIndicationProvider::~CmpiIndicationProvider() {
+    _indicationMI->hdl = nullptr;
+    retireTable(_indicationMI, [](void* table) { delete static_cast<CMPIIndicationMI*>(table); });
+}
 
 CMPIIndicationMI* CmpiIndicationProvider::getIndicationMI() {
-    return &_indicationMI;
+    return _indicationMI;
 }
 
 } // namespace CmpiCpp

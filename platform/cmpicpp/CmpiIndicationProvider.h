@@ -33,7 +33,7 @@ public:
     CMPIIndicationMI* getIndicationMI();
 
 private:
-    CMPIIndicationMI _indicationMI;
+    CMPIIndicationMI* _indicationMI;
 };
 
 } // namespace CmpiCpp

@@ -15,7 +15,9 @@ CmpiInstanceProvider* self(CMPIInstanceMI* mi) {
 }
 
 CMPIStatus miCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    CmpiInstanceProvider* p = self(mi);
+    // A table whose provider a terminating cleanup already took down.
+    CmpiProvider* p = self(mi);
+    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
     return CmpiGuard::run(p, [&](CmpiBroker const&) {
         CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
     });
@@ -101,9 +103,12 @@ CMPIInstanceMIFT const instanceTable = {
 
 } // namespace
 
-CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI{this, &instanceTable} {}
+CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI(new CMPIInstanceMI{this, &instanceTable}) {}
 
-CmpiInstanceProvider::~CmpiInstanceProvider() = default;
+CmpiInstanceProvider::~CmpiInstanceProvider() {
+    _instanceMI->hdl = nullptr;
+    retireTable(_instanceMI, [](void* table) { delete static_cast<CMPIInstanceMI*>(table); });
+}
 
 void CmpiInstanceProvider::createInstance(CmpiContext const&, CmpiObjectPath const&,
                                           CmpiInstance const&, CmpiObjectPathResult&) {
@@ -125,7 +130,7 @@ void CmpiInstanceProvider::execQuery(CmpiContext const&, CmpiObjectPath const&, 
 }
 
 CMPIInstanceMI* CmpiInstanceProvider::getInstanceMI() {
-    return &_instanceMI;
+    return _instanceMI;
 }
 
 } // namespace CmpiCpp

@@ -37,7 +37,7 @@ public:
     CMPIInstanceMI* getInstanceMI();
 
 private:
-    CMPIInstanceMI _instanceMI;
+    CMPIInstanceMI* _instanceMI;
 };
 
 } // namespace CmpiCpp

@@ -13,7 +13,9 @@ CmpiMethodProvider* self(CMPIMethodMI* mi) {
 }
 
 CMPIStatus miCleanup(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    CmpiMethodProvider* p = self(mi);
+    // A table whose provider a terminating cleanup already took down.
+    CmpiProvider* p = self(mi);
+    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
     return CmpiGuard::run(p, [&](CmpiBroker const&) {
         CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
     });
@@ -37,12 +39,15 @@ CMPIMethodMIFT const methodTable = {
 
 } // namespace
 
-CmpiMethodProvider::CmpiMethodProvider() : _methodMI{this, &methodTable} {}
+CmpiMethodProvider::CmpiMethodProvider() : _methodMI(new CMPIMethodMI{this, &methodTable}) {}
 
-CmpiMethodProvider::~CmpiMethodProvider() = default;
+CmpiMethodProvider::~CmpiMethodProvider() {
+    _methodMI->hdl = nullptr;
+    retireTable(_methodMI, [](void* table) { delete static_cast<CMPIMethodMI*>(table); });
+}
 
 CMPIMethodMI* CmpiMethodProvider::getMethodMI() {
-    return &_methodMI;
+    return _methodMI;
 }
 
 } // namespace CmpiCpp

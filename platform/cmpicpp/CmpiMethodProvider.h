@@ -24,7 +24,7 @@ public:
     CMPIMethodMI* getMethodMI();
 
 private:
-    CMPIMethodMI _methodMI;
+    CMPIMethodMI* _methodMI;
 };
 
 } // namespace CmpiCpp

@@ -1,8 +1,42 @@
 #include "CmpiProvider.h"
 
+#include <memory>
+#include <mutex>
+#include <unordered_set>
+#include <vector>
+
 namespace CmpiCpp {
 
-CmpiProvider::~CmpiProvider() = default;
+namespace {
+// The providers not yet deleted. The tables an object manager still holds
+// point at a provider after a terminating cleanup took it down.
+std::mutex liveMutex;
+std::unordered_set<CmpiProvider const*>& live() {
+    static std::unordered_set<CmpiProvider const*> providers;
+    return providers;
+}
+} // namespace
+
+CmpiProvider::CmpiProvider() {
+    std::lock_guard lock(liveMutex);
+    live().insert(this);
+}
+
+CmpiProvider::~CmpiProvider() {
+    std::lock_guard lock(liveMutex);
+    live().erase(this);
+}
+
+void CmpiProvider::retireTable(void* table, void (*destroy)(void*)) {
+    static std::vector<std::unique_ptr<void, void (*)(void*)>> retired;
+    std::lock_guard lock(liveMutex);
+    retired.emplace_back(table, destroy);
+}
+
+bool CmpiProvider::isLive(CmpiProvider const* provider) {
+    std::lock_guard lock(liveMutex);
+    return live().count(provider) != 0;
+}
 
 unsigned int CmpiProvider::incRefcount() {
     return ++_refcount;
@@ -26,9 +60,16 @@ bool CmpiProvider::_drop(unsigned int& remaining) {
 
 bool CmpiProvider::releaseReference(CmpiProvider* provider, CmpiContext const& context,
                                     bool terminating) {
-    unsigned int remaining = 0;
-    if (!provider || !provider->_drop(remaining))
-        return false;
+    {
+        // Under the lock, so that of two cleanups at once only one deletes,
+        // and none looks at a provider the other deleted.
+        std::lock_guard lock(liveMutex);
+        if (provider == nullptr || live().count(provider) == 0) return false;
+        unsigned int remaining = 0;
+        bool const last = terminating ? provider->_refcount.exchange(0) > 0 : provider->_drop(remaining);
+        if (!last) return false;
+        live().erase(provider);
+    }
     try {
         provider->cleanup(context, terminating);
     } catch (...) {

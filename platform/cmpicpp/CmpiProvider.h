@@ -2,7 +2,10 @@
 // The common virtual base of the provider family. Every function table handed
 // to the object manager holds one reference; the table's cleanup drops it, and
 // the last one calls cleanup() and deletes the provider, which is how its
-// destructor runs when the object manager unloads it.
+// destructor runs when the object manager unloads it. A cleanup that says the
+// object manager is terminating unloads it at once, whatever references are
+// left: SFCB holds one table per registered class but cleans up only once per
+// interface type, so the count alone would never reach zero there.
 #include "CmpiBroker.h"
 #include "CmpiContext.h"
 #include <atomic>
@@ -11,7 +14,7 @@ namespace CmpiCpp {
 
 class CmpiProvider {
 public:
-    CmpiProvider() = default;
+    CmpiProvider();
     CmpiProvider(CmpiProvider const&) = delete;
     CmpiProvider& operator=(CmpiProvider const&) = delete;
     virtual ~CmpiProvider();
@@ -28,11 +31,22 @@ public:
     unsigned int decRefcount();
     unsigned int getRefcount() const { return _refcount.load(); }
 
-    // Drops one reference; at zero calls cleanup(context, terminating) and
-    // deletes the provider. Returns true if it was deleted. A throwing
-    // cleanup still deletes, then rethrows.
+    // Drops one reference, or all of them when terminating; at zero calls
+    // cleanup(context, terminating) and deletes the provider. Returns true if
+    // it was deleted. A provider already deleted is left alone, so the tables
+    // still held after a terminating cleanup may be cleaned up too. A
+    // throwing cleanup still deletes, then rethrows.
     static bool releaseReference(CmpiProvider* provider, CmpiContext const& context,
                                  bool terminating);
+    // False once the provider was deleted (or for a pointer that never was one).
+    static bool isLive(CmpiProvider const* provider);
+
+protected:
+    // The object manager may call a table after a terminating cleanup of
+    // another one deleted the provider, so a table outlives its provider: at
+    // deletion it forgets the provider (a null handle, which its operations
+    // answer as such) and is kept here until the library is unloaded.
+    static void retireTable(void* table, void (*destroy)(void*));
 
 private:
     // True only for the call that takes the count from one to zero.

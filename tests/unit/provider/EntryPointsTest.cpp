@@ -11,6 +11,7 @@
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 using namespace provider_test;
 
@@ -132,6 +133,42 @@ TEST_F(EntryPoints, FailedConstructionIsLoggedAndTheNextCallBuildsAnew) {
     // Each table holds a reference; the last cleanup unloads the provider.
     cleanupAll(t);
     EXPECT_EQ(log.count("dxtor() unloading provider"), 1) << log.text();
+}
+
+// SFCB makes one table per registered class (105 instance, 66 association
+// and 4 method interfaces on this provider) and at shutdown cleans up once
+// per interface type, terminating. The first such cleanup must unload the
+// provider; the tables cleaned up after it, or asked for anything, must not
+// touch the deleted provider; and a later start builds a new one.
+TEST_F(EntryPoints, TerminatingCleanupUnloadsWhateverReferencesRemain) {
+    LogCapture log;
+    useScenario("demo.yaml");
+    std::vector<CMPIInstanceMI*> instances;
+    std::vector<CMPIAssociationMI*> associations;
+    std::vector<CMPIMethodMI*> methods;
+    for (int i = 0; i < 105; ++i) instances.push_back(create<CMPIInstanceMI>("_Generic_Create_InstanceMI", "QLNVeldra"));
+    for (int i = 0; i < 66; ++i) {
+        associations.push_back(create<CMPIAssociationMI>("_Generic_Create_AssociationMI", "QLNVeldra"));
+    }
+    for (int i = 0; i < 4; ++i) methods.push_back(create<CMPIMethodMI>("_Generic_Create_MethodMI", "QLNVeldra"));
+    EXPECT_EQ(log.count("QLNVeldra: cxtor()"), 1);
+
+    ObjectRegistry::Scope scope(_broker.registry());
+    CMPIContext* context = _broker.newContext("root/mwq", 0)->cmpi();
+    EXPECT_EQ(instances[0]->ft->cleanup(instances[0], context, true).rc, CMPI_RC_OK);
+    EXPECT_EQ(log.count("dxtor() unloading provider"), 1) << "torn down with 174 references left";
+    EXPECT_EQ(associations[0]->ft->cleanup(associations[0], context, true).rc, CMPI_RC_OK);
+    EXPECT_EQ(methods[0]->ft->cleanup(methods[0], context, true).rc, CMPI_RC_OK);
+    BrokerResult* result = _broker.registry().make<BrokerResult>();
+    EXPECT_EQ(instances[1]->ft->getInstance(instances[1], context, result->cmpi(), path("QLN_VDDiskDrive"), nullptr).rc,
+              CMPI_RC_ERR_INVALID_HANDLE);
+    EXPECT_EQ(log.count("dxtor() unloading provider"), 1);
+
+    Tables const again = createAll("QLNVeldra");
+    ASSERT_NE(again.instance, nullptr);
+    EXPECT_EQ(log.count("QLNVeldra: cxtor()"), 2) << "a start after the teardown builds anew";
+    cleanupAll(again);
+    EXPECT_EQ(log.count("dxtor() unloading provider"), 2);
 }
 
 } // namespace
