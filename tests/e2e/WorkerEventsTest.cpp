@@ -97,7 +97,7 @@ protected:
         traps = std::make_unique<TrapReceiver>();
         // The first pass waits for the subscription; later ones come quickly.
         setenv("VELDRA_WORKER_STAGGER_MS", "3000", 1);
-        setenv("VELDRA_WORKER_INTERVAL_MS", "300", 1);
+        setenv("VELDRA_WORKER_INTERVAL_MS", "200", 1);
         setenv("VELDRA_HEARTBEAT", "false", 1);
         setenv("VELDRA_TRAP_DESTINATIONS", traps->destination().c_str(), 1);
         cimd = std::make_unique<CimdProcess>(std::vector<std::string>{
@@ -115,12 +115,14 @@ protected:
         fs::remove_all(dir);
     }
 
-    static int passes() { return occurrences(cimd->log(), "returned from manage dynamic"); }
-    // Two more passes than now: one that began before a change may not see it.
-    static void awaitTwoPasses() {
+    // Passes begun, by the line each logs first.
+    static int passes() { return occurrences(cimd->log(), "::_backgroundWorker"); }
+    // The start of the second pass after now: the first of them saw all that
+    // changed before it, and had ended. One more gives its deliveries time.
+    static void awaitPasses(int count) {
         int const from = passes();
-        for (int i = 0; i < 600 && passes() < from + 2; ++i) std::this_thread::sleep_for(50ms);
-        ASSERT_GE(passes(), from + 2) << "the worker stopped passing";
+        for (int i = 0; i < 600 && passes() < from + count; ++i) std::this_thread::sleep_for(50ms);
+        ASSERT_GE(passes(), from + count) << "the worker stopped passing";
     }
     static void sim(std::string const& command) {
         CommandResult const r = runCommand(std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " +
@@ -136,6 +138,7 @@ protected:
     // The indications and traps received since the last call, once `count`
     // of each arrived (or a bound passed), and a quiet pass after them.
     static std::pair<std::vector<std::string>, std::vector<std::string>> alertsSince(std::vector<Alert> const& want) {
+        awaitPasses(2);
         std::size_t const traps = std::count_if(want.begin(), want.end(), [](Alert const& a) { return a.trap != 0; });
         for (int i = 0; i < 200; ++i) {
             if (listener->received().size() >= seenIndications + want.size() &&
@@ -144,7 +147,7 @@ protected:
             }
             std::this_thread::sleep_for(50ms);
         }
-        awaitTwoPasses();
+        awaitPasses(1);
 
         auto const lines = listener->received();
         std::vector<Alert> indications;

@@ -123,13 +123,14 @@ protected:
     static int passes(ModelServer const& server) {
         std::string const log = server.log();
         int n = 0;
-        for (auto at = log.find("returned from manage dynamic"); at != std::string::npos;
-             at = log.find("returned from manage dynamic", at + 1)) {
+        for (auto at = log.find("::_backgroundWorker"); at != std::string::npos;
+             at = log.find("::_backgroundWorker", at + 1)) {
             ++n;
         }
         return n;
     }
-    // Two more passes: one that began before the change may not have seen it.
+    // Passes are counted by the line each logs first. The start of the second
+    // pass after now: the first of them saw the change, and had ended.
     static void awaitTwoPasses(ModelServer const& server) {
         int const from = passes(server);
         for (int i = 0; i < 600 && passes(server) < from + 2; ++i) std::this_thread::sleep_for(50ms);
