@@ -10,16 +10,23 @@ namespace CmpiCpp {
 namespace {
 
 CmpiAssociationProvider* self(CMPIAssociationMI* mi) {
-    return mi ? static_cast<CmpiAssociationProvider*>(mi->hdl) : nullptr;
+    return mi ? static_cast<CmpiAssociationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    // A table whose provider a terminating cleanup already took down.
-    CmpiProvider* p = self(mi);
-    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
-    return CmpiGuard::run(p, [&](CmpiBroker const&) {
-        CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
-    });
+    // Not through CmpiGuard, which asks the provider for its broker: the
+    // provider may be gone, taken down by a terminating cleanup of another table.
+    try {
+        CmpiAssociationProvider::releaseTable<CmpiAssociationProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
+                                                              terminating != 0);
+        return CMPIStatus{CMPI_RC_OK, nullptr};
+    } catch (CmpiStatus const& status) {
+        return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
+    } catch (std::exception const& e) {
+        return CmpiGuard::failed(CmpiBroker(), CMPI_RC_ERR_FAILED, e.what());
+    } catch (...) {
+        return CMPIStatus{CMPI_RC_ERR_FAILED, nullptr};
+    }
 }
 
 CMPIStatus miAssociators(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
@@ -75,10 +82,12 @@ CMPIAssociationMIFT const associationTable = {
 
 } // namespace
 
-CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI(new CMPIAssociationMI{this, &associationTable}) {}
+CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI(new CMPIAssociationMI{this, &associationTable}) {
+    addTable(&_associationMI->hdl);
+}
 
 CmpiAssociationProvider::~CmpiAssociationProvider() {
-    _associationMI->hdl = nullptr;
+    __atomic_store_n(&_associationMI->hdl, nullptr, __ATOMIC_RELEASE);
     retireTable(_associationMI, [](void* table) { delete static_cast<CMPIAssociationMI*>(table); });
 }
 

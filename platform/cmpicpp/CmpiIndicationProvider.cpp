@@ -8,7 +8,7 @@ namespace CmpiCpp {
 namespace {
 
 CmpiIndicationProvider* self(CMPIIndicationMI* mi) {
-    return mi ? static_cast<CmpiIndicationProvider*>(mi->hdl) : nullptr;
+    return mi ? static_cast<CmpiIndicationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
 }
 
 // The class path of a filter may be absent; that is an empty path, not an error.
@@ -17,12 +17,19 @@ CmpiObjectPath pathOf(CMPIObjectPath const* op) {
 }
 
 CMPIStatus miCleanup(CMPIIndicationMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    // A table whose provider a terminating cleanup already took down.
-    CmpiProvider* p = self(mi);
-    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
-    return CmpiGuard::run(p, [&](CmpiBroker const&) {
-        CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
-    });
+    // Not through CmpiGuard, which asks the provider for its broker: the
+    // provider may be gone, taken down by a terminating cleanup of another table.
+    try {
+        CmpiIndicationProvider::releaseTable<CmpiIndicationProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
+                                                              terminating != 0);
+        return CMPIStatus{CMPI_RC_OK, nullptr};
+    } catch (CmpiStatus const& status) {
+        return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
+    } catch (std::exception const& e) {
+        return CmpiGuard::failed(CmpiBroker(), CMPI_RC_ERR_FAILED, e.what());
+    } catch (...) {
+        return CMPIStatus{CMPI_RC_ERR_FAILED, nullptr};
+    }
 }
 
 CMPIStatus miAuthorizeFilter(CMPIIndicationMI* mi, CMPIContext const* ctx,
@@ -81,10 +88,12 @@ CMPIIndicationMIFT const indicationTable = {
 
 } // namespace
 
-CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI(new CMPIIndicationMI{this, &indicationTable}) {}
+CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI(new CMPIIndicationMI{this, &indicationTable}) {
+    addTable(&_indicationMI->hdl);
+}
 
 CmpiIndicationProvider::~CmpiIndicationProvider() {
-    _indicationMI->hdl = nullptr;
+    __atomic_store_n(&_indicationMI->hdl, nullptr, __ATOMIC_RELEASE);
     retireTable(_indicationMI, [](void* table) { delete static_cast<CMPIIndicationMI*>(table); });
 }
 

@@ -11,16 +11,23 @@ namespace CmpiCpp {
 namespace {
 
 CmpiInstanceProvider* self(CMPIInstanceMI* mi) {
-    return mi ? static_cast<CmpiInstanceProvider*>(mi->hdl) : nullptr;
+    return mi ? static_cast<CmpiInstanceProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    // A table whose provider a terminating cleanup already took down.
-    CmpiProvider* p = self(mi);
-    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
-    return CmpiGuard::run(p, [&](CmpiBroker const&) {
-        CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
-    });
+    // Not through CmpiGuard, which asks the provider for its broker: the
+    // provider may be gone, taken down by a terminating cleanup of another table.
+    try {
+        CmpiInstanceProvider::releaseTable<CmpiInstanceProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
+                                                              terminating != 0);
+        return CMPIStatus{CMPI_RC_OK, nullptr};
+    } catch (CmpiStatus const& status) {
+        return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
+    } catch (std::exception const& e) {
+        return CmpiGuard::failed(CmpiBroker(), CMPI_RC_ERR_FAILED, e.what());
+    } catch (...) {
+        return CMPIStatus{CMPI_RC_ERR_FAILED, nullptr};
+    }
 }
 
 CMPIStatus miEnumInstanceNames(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
@@ -103,10 +110,12 @@ CMPIInstanceMIFT const instanceTable = {
 
 } // namespace
 
-CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI(new CMPIInstanceMI{this, &instanceTable}) {}
+CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI(new CMPIInstanceMI{this, &instanceTable}) {
+    addTable(&_instanceMI->hdl);
+}
 
 CmpiInstanceProvider::~CmpiInstanceProvider() {
-    _instanceMI->hdl = nullptr;
+    __atomic_store_n(&_instanceMI->hdl, nullptr, __ATOMIC_RELEASE);
     retireTable(_instanceMI, [](void* table) { delete static_cast<CMPIInstanceMI*>(table); });
 }
 

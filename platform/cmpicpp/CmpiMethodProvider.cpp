@@ -9,16 +9,23 @@ namespace CmpiCpp {
 namespace {
 
 CmpiMethodProvider* self(CMPIMethodMI* mi) {
-    return mi ? static_cast<CmpiMethodProvider*>(mi->hdl) : nullptr;
+    return mi ? static_cast<CmpiMethodProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
-    // A table whose provider a terminating cleanup already took down.
-    CmpiProvider* p = self(mi);
-    if (p == nullptr) return CMPIStatus{CMPI_RC_OK, nullptr};
-    return CmpiGuard::run(p, [&](CmpiBroker const&) {
-        CmpiProvider::releaseReference(p, CmpiContext(ctx), terminating != 0);
-    });
+    // Not through CmpiGuard, which asks the provider for its broker: the
+    // provider may be gone, taken down by a terminating cleanup of another table.
+    try {
+        CmpiMethodProvider::releaseTable<CmpiMethodProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
+                                                              terminating != 0);
+        return CMPIStatus{CMPI_RC_OK, nullptr};
+    } catch (CmpiStatus const& status) {
+        return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
+    } catch (std::exception const& e) {
+        return CmpiGuard::failed(CmpiBroker(), CMPI_RC_ERR_FAILED, e.what());
+    } catch (...) {
+        return CMPIStatus{CMPI_RC_ERR_FAILED, nullptr};
+    }
 }
 
 CMPIStatus miInvokeMethod(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
@@ -39,10 +46,12 @@ CMPIMethodMIFT const methodTable = {
 
 } // namespace
 
-CmpiMethodProvider::CmpiMethodProvider() : _methodMI(new CMPIMethodMI{this, &methodTable}) {}
+CmpiMethodProvider::CmpiMethodProvider() : _methodMI(new CMPIMethodMI{this, &methodTable}) {
+    addTable(&_methodMI->hdl);
+}
 
 CmpiMethodProvider::~CmpiMethodProvider() {
-    _methodMI->hdl = nullptr;
+    __atomic_store_n(&_methodMI->hdl, nullptr, __ATOMIC_RELEASE);
     retireTable(_methodMI, [](void* table) { delete static_cast<CMPIMethodMI*>(table); });
 }
 

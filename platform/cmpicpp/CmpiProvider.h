@@ -9,6 +9,7 @@
 #include "CmpiBroker.h"
 #include "CmpiContext.h"
 #include <atomic>
+#include <vector>
 
 namespace CmpiCpp {
 
@@ -38,6 +39,16 @@ public:
     // throwing cleanup still deletes, then rethrows.
     static bool releaseReference(CmpiProvider* provider, CmpiContext const& context,
                                  bool terminating);
+    // The same for the cleanup of a function table, given the table's handle
+    // and how to turn it into the provider. The handle is read under the lock
+    // that deletion takes, and deletion clears every table's handle under it
+    // first, so a table cleaned up after a terminating cleanup took its
+    // provider down never touches the deleted provider.
+    template <typename Interface>
+    static bool releaseTable(void** handle, CmpiContext const& context, bool terminating) {
+        return _releaseTable(
+            handle, [](void* h) -> CmpiProvider* { return static_cast<Interface*>(h); }, context, terminating);
+    }
     // False once the provider was deleted (or for a pointer that never was one).
     static bool isLive(CmpiProvider const* provider);
 
@@ -46,11 +57,23 @@ protected:
     // another one deleted the provider, so a table outlives its provider: at
     // deletion it forgets the provider (a null handle, which its operations
     // answer as such) and is kept here until the library is unloaded.
+    // Registers a table's handle, cleared when the provider is deleted;
+    // retireTable then keeps the table itself.
+    void addTable(void** handle);
     static void retireTable(void* table, void (*destroy)(void*));
 
 private:
     // True only for the call that takes the count from one to zero.
     bool _drop(unsigned int& remaining);
+    // Under the lock of the live providers: drops one reference, or all when
+    // terminating; on the last one clears the tables' handles and forgets the
+    // provider, so that the caller deletes it.
+    bool _releaseLocked(bool terminating);
+    static bool _releaseTable(void** handle, CmpiProvider* (*provider)(void*), CmpiContext const& context,
+                              bool terminating);
+    static bool _finish(CmpiProvider* provider, CmpiContext const& context, bool terminating);
+
+    std::vector<void**> _tables;
 
     std::atomic<unsigned int> _refcount{0};
 };
