@@ -13,14 +13,14 @@ namespace CmpiCpp {
 
 namespace {
 
-std::string quoted(std::string const& text) {
-    std::string out = "\"";
+void appendQuoted(std::string& out, std::string const& text) {
+    out += '"';
     for (char c : text) {
         if (c == '"' || c == '\\')
             out += '\\';
         out += c;
     }
-    return out + "\"";
+    out += '"';
 }
 
 std::string realText(double value) {
@@ -269,19 +269,33 @@ std::string CmpiData::str() const {
 }
 
 std::string CmpiData::keyText() const {
-    if (isNull())
-        return "NULL";
-    if (auto const* str = std::get_if<std::string>(&_value))
-        return quoted(*str);
-    if (auto const* p = std::get_if<std::shared_ptr<CmpiObjectPath const>>(&_value))
-        return "{" + (*p)->canonicalKey() + "}";
-    if (auto const* a = std::get_if<std::shared_ptr<CmpiArray const>>(&_value)) {
-        std::string out = "[";
-        for (unsigned int i = 0; i < (*a)->size(); ++i)
-            out += (i ? "," : "") + (*a)->getElementAt(i).keyText();
-        return out + "]";
+    std::string out;
+    appendKeyText(out);
+    return out;
+}
+
+// Appends rather than returns: a graph build makes a key for every path and
+// every end of every association, and the temporaries cost more than the text.
+void CmpiData::appendKeyText(std::string& out) const {
+    if (isNull()) {
+        out += "NULL";
+    } else if (auto const* text = std::get_if<std::string>(&_value)) {
+        appendQuoted(out, *text);
+    } else if (auto const* p = std::get_if<std::shared_ptr<CmpiObjectPath const>>(&_value)) {
+        out += '{';
+        (*p)->appendCanonicalKey(out);
+        out += '}';
+    } else if (auto const* a = std::get_if<std::shared_ptr<CmpiArray const>>(&_value)) {
+        out += '[';
+        for (unsigned int i = 0; i < (*a)->size(); ++i) {
+            if (i)
+                out += ',';
+            (*a)->getElementAt(i).appendKeyText(out);
+        }
+        out += ']';
+    } else {
+        out += str();
     }
-    return str();
 }
 
 bool CmpiData::operator==(CmpiData const& other) const {

@@ -87,6 +87,7 @@ public:
     // for equal key values whatever the integer width, and quoted for strings
     // so that "5" and 5 stay apart.
     std::string keyText() const;
+    void appendKeyText(std::string& out) const;
 
     // Same type and same value.
     bool operator==(CmpiData const& other) const;

@@ -7,6 +7,13 @@
 
 namespace CmpiCpp {
 
+namespace {
+void appendFolded(std::string& out, std::string const& name) {
+    for (char c : name)
+        out += (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+}
+} // namespace
+
 CmpiObjectPath::CmpiObjectPath(CmpiName const& nameSpace, CmpiName const& className)
     : _nameSpace(nameSpace), _className(className) {}
 
@@ -118,19 +125,30 @@ std::string CmpiObjectPath::str() const {
 }
 
 std::string CmpiObjectPath::canonicalKey() const {
-    std::vector<std::pair<std::string, std::string>> keys;
-    keys.reserve(_keys.size());
-    for (auto const& [name, value] : _keys)
-        keys.emplace_back(name.folded(), value.keyText());
-    std::sort(keys.begin(), keys.end());
-    std::string out = _className.folded();
+    // Built in a reused buffer and copied at its exact size: the collection
+    // keeps a key for each of its instances and ends.
+    thread_local std::string scratch;
+    scratch.clear();
+    appendCanonicalKey(scratch);
+    return scratch;
+}
+
+void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
+    // Keys in folded-name order; a path never holds one name twice.
+    std::vector<std::size_t> order(_keys.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::sort(order.begin(), order.end(),
+              [&](std::size_t a, std::size_t b) { return _keys[a].first < _keys[b].first; });
+    appendFolded(out, _className.str());
     char sep = '.';
-    for (auto const& [name, text] : keys) {
+    for (std::size_t i : order) {
         out += sep;
         sep = ',';
-        out += name + "=" + text;
+        appendFolded(out, _keys[i].first.str());
+        out += '=';
+        _keys[i].second.appendKeyText(out);
     }
-    return out;
 }
 
 std::size_t CmpiObjectPath::hash() const {

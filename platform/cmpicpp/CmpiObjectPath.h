@@ -59,6 +59,7 @@ public:
     // name, values by CmpiData::keyText. Equal paths give equal keys; use it
     // to index paths.
     std::string canonicalKey() const;
+    void appendCanonicalKey(std::string& out) const;
     std::size_t hash() const;
 
     bool operator==(CmpiObjectPath const& other) const;

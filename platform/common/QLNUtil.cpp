@@ -95,11 +95,16 @@ std::string QLNUtil::getHostName() {
         // Called for every path; a broken configuration is reported where it
         // is loaded, and the system's own name stands in meanwhile.
     }
-    char name[HOST_NAME_MAX + 1] = {};
-    if (gethostname(name, sizeof name - 1) != 0 || name[0] == '\0') {
-        return "localhost";
-    }
-    return name;
+    // Asked once: every path carries the name, and a host renamed while we
+    // run would otherwise give one instance two paths.
+    static std::string const system = [] {
+        char name[HOST_NAME_MAX + 1] = {};
+        if (gethostname(name, sizeof name - 1) != 0 || name[0] == '\0') {
+            return std::string("localhost");
+        }
+        return std::string(name);
+    }();
+    return system;
 }
 
 bool QLNUtil::PerfmonEnabled() {
