@@ -45,25 +45,6 @@ bool decodeBase64(std::string const& in, std::string& out) {
     return true;
 }
 
-// A large answer leaves tens of megabytes freed in the worker's malloc
-// arena, which glibc keeps for reuse; with eight workers the process would
-// hold several such peaks. Handing them back costs about 20 ms, so it
-// happens at most once a second under load, and when the last request in
-// flight is done.
-void releaseFreedMemory(std::size_t answerBytes, bool last) {
-    static std::atomic<std::int64_t> lastTrimMs{0};
-    constexpr std::size_t largeAnswer = 1 << 20;
-    constexpr std::int64_t interval = 1000;
-    if (answerBytes < largeAnswer) return;
-    std::int64_t const now = std::chrono::duration_cast<std::chrono::milliseconds>(
-                                 std::chrono::steady_clock::now().time_since_epoch())
-                                 .count();
-    std::int64_t previous = lastTrimMs.load();
-    if (!last && now - previous < interval) return;
-    if (!lastTrimMs.compare_exchange_strong(previous, now)) return;  // another thread is at it
-    malloc_trim(0);
-}
-
 http::response<http::string_body> responseOf(CimHttpExchange&& exchange) {
     http::response<http::string_body> response;
     response.result(static_cast<unsigned>(exchange.status));
@@ -124,6 +105,25 @@ void CimHttpServer::Shared::finished(std::uint64_t id) {
     std::lock_guard lock(mutex);
     running.erase(id);
     if (running.empty()) allFinished.notify_all();
+}
+
+// A large answer leaves megabytes freed in a worker's malloc arena, which
+// glibc keeps for reuse; with eight workers the process would hold several
+// such peaks. Handing them back costs about 20 ms and makes the next answer
+// fault its pages in again, so it waits until no large answer has been made
+// for a moment: a busy server keeps its memory, an idle one gives it back.
+void CimHttpServer::Shared::trimWhenQuiet(std::size_t answerBytes) {
+    constexpr std::size_t largeAnswer = 1 << 20;
+    constexpr auto quiet = std::chrono::milliseconds(300);
+    if (answerBytes < largeAnswer) return;
+    asio::post(trimStrand, [this, quiet] {
+        // Setting the expiry cancels the wait before, so one trim follows the last answer.
+        trimTimer.expires_after(quiet);
+        trimTimer.async_wait([this](beast::error_code ec) {
+            if (ec) return;
+            asio::post(workers, [] { malloc_trim(0); });
+        });
+    });
 }
 
 bool CimHttpServer::Shared::authorized(std::string const& value) const {
@@ -292,12 +292,7 @@ void CimHttpConnection<Stream>::_dispatch(Request request) {
             self->_answering = id;
             self->_answer(std::move(response), close);
         });
-        bool last = false;
-        {
-            std::lock_guard lock(self->_shared.mutex);
-            last = self->_shared.running.size() <= 1;
-        }
-        releaseFreedMemory(bytes, last);
+        self->_shared.trimWhenQuiet(bytes);
     });
 }
 

@@ -36,6 +36,10 @@ struct CimHttpServer::Shared {
 
     bool authorized(std::string const& authorization) const;
 
+    // After a large answer, hands freed memory back once the server has
+    // been without large answers for a moment.
+    void trimWhenQuiet(std::size_t answerBytes);
+
     Settings const& settings;
     Handler handler;
 
@@ -56,6 +60,8 @@ struct CimHttpServer::Shared {
     std::optional<boost::asio::ssl::context> tls;
     boost::asio::thread_pool workers;
     std::vector<std::thread> ioThreads;
+    boost::asio::strand<boost::asio::io_context::executor_type> trimStrand{io.get_executor()};
+    boost::asio::steady_timer trimTimer{trimStrand};
 };
 
 template <class Stream>
