@@ -3,18 +3,6 @@
 #include <algorithm>
 #include <functional>
 
-namespace {
-char lowerChar(char c) {
-    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
-}
-} // namespace
-
-bool CimName::equal(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return lowerChar(x) == lowerChar(y);
-           });
-}
-
 bool CimName::less(std::string_view a, std::string_view b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                         [](char x, char y) { return lowerChar(x) < lowerChar(y); });

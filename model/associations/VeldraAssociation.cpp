@@ -61,17 +61,10 @@ CmpiObjectPath VeldraAssociation::getPath() const {
 
 CmpiInstance VeldraAssociation::getInstance() const {
     CmpiBroker const broker(QLNUtil::getBroker());
+    // The two references are the path's keys, and an instance starts with
+    // its keys as properties in the path's order: the ends are asked for
+    // their paths once, not twice.
     CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
-    switch (_shape.writtenFirst) {
-    case WrittenFirst::FirstEnd:
-        instance.addProperty(_shape.firstRole, _firstPath());
-        instance.addProperty(_shape.secondRole, _secondEnd->getPath());
-        break;
-    case WrittenFirst::SecondEnd:
-        instance.addProperty(_shape.secondRole, _secondEnd->getPath());
-        instance.addProperty(_shape.firstRole, _firstPath());
-        break;
-    }
     _addExtraProperties(instance);
     return instance;
 }

@@ -16,11 +16,6 @@ CmpiName::CmpiName(char const* name) : _name(name ? name : "") {}
 
 CmpiName::CmpiName(std::string const& name) : _name(name) {}
 
-bool CmpiName::operator==(CmpiName const& other) const {
-    return _name.size() == other._name.size() &&
-           ::strcasecmp(_name.c_str(), other._name.c_str()) == 0;
-}
-
 bool CmpiName::operator<(CmpiName const& other) const {
     return std::lexicographical_compare(_name.begin(), _name.end(), other._name.begin(),
                                         other._name.end(),

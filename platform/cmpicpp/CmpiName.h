@@ -19,7 +19,18 @@ public:
     char const* c_str() const { return _name.c_str(); }
     bool empty() const { return _name.empty(); }
 
-    bool operator==(CmpiName const& other) const;
+    // Inline: instances are built and matched by name, and most names differ
+    // in length.
+    bool operator==(CmpiName const& other) const {
+        if (_name.size() != other._name.size())
+            return false;
+        for (std::size_t i = 0; i < _name.size(); ++i) {
+            char const a = _name[i], b = other._name[i];
+            if (a != b && _fold(a) != _fold(b))
+                return false;
+        }
+        return true;
+    }
     // Case-folded ordering, so a CmpiName can key an ordered map.
     bool operator<(CmpiName const& other) const;
     // The case-folded spelling: the form used in index keys.
@@ -27,6 +38,8 @@ public:
     std::size_t hash() const;
 
 private:
+    static char _fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+
     std::string _name;
 };
 
