@@ -3,7 +3,6 @@
 #include "CmpiBroker.h"
 #include "IdentityHelpers.h"
 #include "LocationInfoProperties.h"
-#include "QLNPhysloc.h"
 #include "QLNUtil.h"
 
 namespace QLN {
@@ -17,11 +16,9 @@ ControllerLocationInstance::ControllerLocationInstance(Logger& logger, char cons
       _displayText(displayText) {}
 
 CmpiCpp::CmpiObjectPath ControllerLocationInstance::getPath() const {
-    VeldraControllerData data = _lastData();
-    // Name is the only key of a location: the tag keeps controllers apart,
-    // external ones included (their tag carries the controller's number).
-    return _pathByKey("Name", std::string(_cimClassName()) + "-" +
-                                  getControllerTag(data, static_cast<int>(_controllerIndex)));
+    // The tag keeps controllers apart, external ones included (their tag
+    // carries the controller's number); the hardware location text may not.
+    return _locationPath(getControllerTag(_lastData(), static_cast<int>(_controllerIndex)));
 }
 
 CmpiCpp::CmpiInstance ControllerLocationInstance::getInstance() const {
@@ -30,10 +27,9 @@ CmpiCpp::CmpiInstance ControllerLocationInstance::getInstance() const {
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, path);
     VeldraControllerData data = _lastData();
 
-    instance.addProperty("Name", path.getKey("Name"));
+    // Name and PhysicalPosition are the path's keys, set with it.
     physloc_t location = BMC_physloc_NULL;
     bool located = data.getPhysloc(location) == 0;
-    instance.addProperty("PhysicalPosition", QLNPhysloc::physlocToHWLocation(location));
     std::string display = _displayText(data);
     instance.addProperty("Caption", display);
     instance.addProperty("Description", display);

@@ -54,4 +54,12 @@ ControllerManagedInstance::_pathByClassAndKey(char const* keyName,
     return path;
 }
 
+CmpiCpp::CmpiObjectPath
+ControllerManagedInstance::_locationPath(std::string const& physicalPosition) const {
+    CmpiCpp::CmpiObjectPath path = _hostPath();
+    path.addKey("Name", _className);
+    path.addKey("PhysicalPosition", physicalPosition);
+    return path;
+}
+
 } // namespace QLN

@@ -33,6 +33,9 @@ protected:
     // The same keyed by CreationClassName first, then the class's own key.
     CmpiCpp::CmpiObjectPath _pathByClassAndKey(char const* keyName,
                                                std::string const& keyValue) const;
+    // A location's path: CIM_Location keys on Name, here the class name, and
+    // PhysicalPosition, which tells one location of the class from another.
+    CmpiCpp::CmpiObjectPath _locationPath(std::string const& physicalPosition) const;
 
     std::string const _namespace;
     Logger _logger;

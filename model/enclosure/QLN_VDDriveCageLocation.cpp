@@ -36,15 +36,10 @@ std::optional<std::string> QLN_VDDriveCageLocation::duplexTagOf(int duplexLocati
     return std::nullopt;
 }
 
-std::string QLN_VDDriveCageLocation::_name() const {
-    // Name is the only key of a location; it carries the enclosure box
-    // number so that every cage location has a path of its own.
-    return std::string(className) + "-" +
-           EnclosureSnapshot::position(_controllerIndex, static_cast<u32>(_enclosureBoxNumber));
-}
-
 CmpiCpp::CmpiObjectPath QLN_VDDriveCageLocation::getPath() const {
-    return _pathByKey("Name", _name());
+    // The box number as shown, kept from the record the cage was made from,
+    // so that the path does not depend on a later read.
+    return _locationPath(std::to_string(_controllerIndex) + "-" + std::to_string(_boxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDDriveCageLocation::getInstance() const {
@@ -53,9 +48,7 @@ CmpiCpp::CmpiInstance QLN_VDDriveCageLocation::getInstance() const {
     VeldraEnclosure const enclosure = EnclosureSnapshot::find(
         _controller, static_cast<u32>(_enclosureBoxNumber), _logger, missingText);
 
-    instance.addProperty("Name", _name());
-    instance.addProperty("PhysicalPosition", std::to_string(_controllerIndex) + "-" +
-                                                 std::to_string(enclosure.getBoxNumber()));
+    // Name and PhysicalPosition are the path's keys, set with it.
     instance.addProperty("Caption", cageText);
     instance.addProperty("Description", cageText);
     instance.addProperty("ElementName", cageText);

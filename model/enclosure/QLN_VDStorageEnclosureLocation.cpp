@@ -36,16 +36,8 @@ std::string QLN_VDStorageEnclosureLocation::locationTagOf(std::string const& por
     return "Unknown";
 }
 
-std::string QLN_VDStorageEnclosureLocation::_name() const {
-    // Name is the only key of a location, so it carries the enclosure's
-    // position as well: the class name alone would give every enclosure
-    // location the same path.
-    return std::string(className) + "-" +
-           EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber);
-}
-
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureLocation::getPath() const {
-    return _pathByKey("Name", _name());
+    return _locationPath(EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {
@@ -55,9 +47,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {
         EnclosureSnapshot::find(_controller, _enclosureBoxNumber, _logger, missingText);
     std::string const userText = pathsToUserStr(enclosure.getPaths(), -1);
 
-    instance.addProperty("Name", _name());
-    instance.addProperty("PhysicalPosition",
-                         EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+    // Name and PhysicalPosition are the path's keys, set with it.
     instance.addProperty("Caption", userText);
     instance.addProperty("Description", userText);
     instance.addProperty("ElementName", userText);

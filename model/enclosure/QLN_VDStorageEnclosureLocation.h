@@ -26,7 +26,6 @@ public:
     unsigned int getEnclosureBoxNumber() const { return _enclosureBoxNumber; }
 
 private:
-    std::string _name() const;
 
     unsigned int _enclosureBoxNumber;
 };

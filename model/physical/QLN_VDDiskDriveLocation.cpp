@@ -21,26 +21,21 @@ QLN_VDDiskDriveLocation::QLN_VDDiskDriveLocation(Logger& logger, std::string con
                                                  VeldraController* controller)
     : DiskCompanion(logger, nameSpace, className, controllerIndex, disk, controller) {}
 
-std::string QLN_VDDiskDriveLocation::_name() const {
-    // Name is a location's only key, so it carries the disk's identity;
-    // the class name alone would make every disk's location one instance.
-    return std::string(className) + "-" + _identityTail();
+std::string QLN_VDDiskDriveLocation::_position() const {
+    return _serialNumber.empty() ? std::to_string(_controllerIndex) + "-" +
+                                       std::to_string(_boxNumber) + ":" + std::to_string(_bay)
+                                 : removeWhitespace(_serialNumber);
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDDiskDriveLocation::getPath() const {
-    return _pathByKey("Name", _name());
+    return _locationPath(_position());
 }
 
 CmpiCpp::CmpiInstance QLN_VDDiskDriveLocation::getInstance() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
     VeldraPhysicalDisk const disk = _findDisk(notFound);
-    instance.addProperty("Name", _name());
-    std::string const position = _serialNumber.empty()
-                                     ? std::to_string(_controllerIndex) + "-" +
-                                           std::to_string(_boxNumber) + ":" + std::to_string(_bay)
-                                     : removeWhitespace(_serialNumber);
-    instance.addProperty("PhysicalPosition", position);
+    // Name and PhysicalPosition are the path's keys, set with it.
     VeldraControllerData data;
     _controller->getLastVDData(data);
     std::string model;

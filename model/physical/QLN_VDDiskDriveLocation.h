@@ -14,7 +14,7 @@ public:
     CmpiCpp::CmpiInstance getInstance() const override;
 
 private:
-    std::string _name() const;
+    std::string _position() const;
 };
 
 } // namespace QLN

@@ -135,3 +135,46 @@ TEST(ModelWalk, EveryPathAnswersWhenGettersFail) {
     ModelServer server(demo, withFailingGetters(demo));
     walkEverything(server);
 }
+
+// A path carries exactly the keys that its class's MOF declares, and the
+// instance shows the same values: an object manager with the real schema
+// cannot find an instance by a path that lacks a key, nor one whose key
+// properties say something else.
+TEST(ModelWalk, EveryPathKeysOnExactlyTheKeysOfItsClass) {
+    ModelServer server(VELDRA_DATA_DIR "/scenarios/demo.yaml");
+    RawCim cim(server.port());
+    pugi::xml_document classes;
+    auto names = cim.call("EnumerateClassNames", param("DeepInheritance", "<VALUE>TRUE</VALUE>"), classes);
+    ASSERT_TRUE(names);
+    std::size_t checked = 0;
+    for (auto const& className : names.children("CLASSNAME")) {
+        std::string const cls = className.attribute("NAME").value();
+        pugi::xml_document classAnswer, instances;
+        auto decl = cim.call("GetClass",
+                             param("ClassName", xml(className)) + param("LocalOnly", "<VALUE>FALSE</VALUE>"),
+                             classAnswer);
+        std::set<std::string> declared;
+        for (auto const& key : decl.select_nodes(".//*[QUALIFIER[@NAME='Key']]"))
+            declared.insert(key.node().attribute("NAME").value());
+        auto found = cim.call("EnumerateInstances", param("ClassName", xml(className)), instances);
+        for (auto const& named : found.children("VALUE.NAMEDINSTANCE")) {
+            auto const instance = named.child("INSTANCE");
+            if (std::string(instance.attribute("CLASSNAME").value()) != cls) continue;  // a subclass's own turn
+            SCOPED_TRACE(xml(named.child("INSTANCENAME")));
+            std::set<std::string> bound;
+            for (auto const& binding : named.child("INSTANCENAME").children("KEYBINDING")) {
+                std::string const key = binding.attribute("NAME").value();
+                bound.insert(key);
+                auto const value = binding.child("KEYVALUE");
+                if (!value) continue;  // a reference: its ends are walked above
+                auto const property =
+                    instance.find_child_by_attribute("PROPERTY", "NAME", key.c_str()).child("VALUE");
+                EXPECT_EQ(std::string(property.text().get()), std::string(value.text().get())) << key;
+            }
+            EXPECT_EQ(bound, declared) << cls;
+            ++checked;
+        }
+        if (::testing::Test::HasFailure()) return;
+    }
+    EXPECT_GT(checked, 500u);
+}

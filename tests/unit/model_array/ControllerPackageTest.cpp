@@ -65,11 +65,11 @@ TEST(ControllerProduct, KeysNameThePieceAndFallBackWhenUnread) {
     EXPECT_EQ(text(unread, "Vendor"), "UNKNOWN") << "an empty manufacturer is no key either";
 }
 
-TEST(ControllerLocations, NamesUseTheLocationTagAndKeepExternalControllersApart) {
+TEST(ControllerLocations, PositionsUseTheLocationTagAndKeepExternalControllersApart) {
     ArrayTestRig rig(fleet);
     auto slot = instanceOf<QLN::QLN_VDArraySystemLocation>(rig, 1);
-    EXPECT_EQ(text(slot, "Name"), "QLN_VDArraySystemLocation-PCISLOT-3");
-    EXPECT_EQ(text(slot, "PhysicalPosition"), "PCI Slot 3");
+    EXPECT_EQ(text(slot, "Name"), "QLN_VDArraySystemLocation");
+    EXPECT_EQ(text(slot, "PhysicalPosition"), "PCISLOT-3");
     EXPECT_EQ(text(slot, "ElementName"), "Veldra in PCI Slot 3");
     EXPECT_EQ(slot.getProperty("LocationInfoDesc").getArray().getElementAt(0).getString(),
               "PCI Slot");
@@ -77,15 +77,15 @@ TEST(ControllerLocations, NamesUseTheLocationTagAndKeepExternalControllersApart)
 
     auto first = instanceOf<QLN::QLN_VDArrayControllerLocation>(rig, 2);
     auto second = instanceOf<QLN::QLN_VDArrayControllerLocation>(rig, 5);
-    EXPECT_EQ(text(first, "Name"), "QLN_VDArrayControllerLocation-EXTERNAL-2");
-    EXPECT_NE(text(first, "Name"), text(second, "Name"));
+    EXPECT_EQ(text(first, "PhysicalPosition"), "EXTERNAL-2");
+    EXPECT_NE(text(first, "PhysicalPosition"), text(second, "PhysicalPosition"));
     // The system's location says "External"; the controller's does not.
     EXPECT_EQ(text(instanceOf<QLN::QLN_VDArraySystemLocation>(rig, 2), "ElementName"),
               "Veldra External Unknown Location");
     EXPECT_EQ(text(first, "ElementName"), "Veldra Unknown Location");
 
     auto unread = instanceOf<QLN::QLN_VDArrayControllerLocation>(rig, 4);
-    EXPECT_EQ(text(unread, "Name"), "QLN_VDArrayControllerLocation-UNKNOWN-4");
+    EXPECT_EQ(text(unread, "PhysicalPosition"), "UNKNOWN-4");
     EXPECT_FALSE(unread.hasProperty("LocationInformation"))
         << "no parts for a location that cannot be read";
 }
