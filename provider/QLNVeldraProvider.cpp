@@ -14,9 +14,6 @@
 
 namespace {
 char const* const performWork = "PerformWork";
-// The return value of a method the provider does not know; the number of
-// CMPI_RC_ERR_METHOD_NOT_FOUND, handed back as a value, never thrown.
-std::uint32_t const methodNotFound = 17;
 // Only these classes have extrinsic methods.
 char const* const diskDriveClass = "QLN_VDDiskDrive";
 char const* const storageVolumeClass = "QLN_VDStorageVolume";
@@ -194,7 +191,7 @@ std::uint32_t QLNVeldraProvider::_invokeOn(CmpiManagedInstance* instance, CmpiNa
 // the collection guards its own lookups.
 std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const& method,
                                                          CmpiArgs const& in) {
-    std::uint32_t const outcome = methodNotFound;
+    std::uint32_t const outcome = CmpiManagedInstance::methodNotFound;
     CmpiName const className = path.getClassName();
     bool const diskDrive = className == CmpiName(diskDriveClass);
     bool const storageVolume = className == CmpiName(storageVolumeClass);

@@ -1,5 +1,6 @@
 #include "QLN_VDArraySystem.h"
 
+#include "IdentifyArguments.h"
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
@@ -40,9 +41,6 @@ u32 const enclosureFailed = 6;
 u32 const physicalOk = 1;
 u32 const physicalRebuilding = 0x8005;
 
-// The locator duration arrives in seconds and the controller counts tenths.
-u32 const durationScale = 10;
-unsigned int const methodNotFound = 17;
 unsigned int const methodFailed = 2;
 
 struct Health {
@@ -191,25 +189,11 @@ void QLN_VDArraySystem::manageDynamic(bool indicationsEnabled, CmpiCpp::CmpiCont
 
 unsigned int QLN_VDArraySystem::invokeMethod(CmpiCpp::CmpiName const& method,
                                              CmpiCpp::CmpiArgs const& in) {
-    unsigned int result = methodNotFound;
-    if (!(method == CmpiCpp::CmpiName("Identify"))) {
-        return result;
-    }
-    u32 duration = 0;
-    try {
-        CmpiCpp::CmpiData const& argument = in.getArg("Duration");
-        // The declared type is uint32; anything else is not this method's call.
-        if (argument.getType() != CMPI_uint32) {
-            return result;
-        }
-        duration = argument.getUint32();
-    } catch (...) {
-        _logger.warn(":invokeMethod Identify, failed to extract Duration arg");
-        return result;
-    }
-    int identified = _controller->identifyAllPhysicalDisks(duration * durationScale);
-    result = identified >= 0 ? 0 : methodFailed;
-    return result;
+    std::optional<u32> const duration = IdentifyArguments::duration(method, in, _logger);
+    if (!duration)
+        return CmpiManagedInstance::methodNotFound;
+    int identified = _controller->identifyAllPhysicalDisks(*duration);
+    return identified >= 0 ? 0 : methodFailed;
 }
 
 } // namespace QLN

@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
 #include "FixedStateProperties.h"
+#include "IdentifyArguments.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -23,9 +24,6 @@ char const* const extendedStatusText = "Logical Disk Extended Status: ";
 int const logicalDiskGoneCode = 100;
 unsigned int const methodDone = 0;
 unsigned int const methodFailed = 2;
-unsigned int const methodNotFound = 17;
-// The controller counts locator time in tenths of a second.
-u32 const durationScale = 10;
 
 // What the CIM model says about one status of the library.
 struct VolumeHealth {
@@ -211,20 +209,9 @@ CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {
 
 unsigned int QLN_VDStorageVolume::invokeMethod(CmpiCpp::CmpiName const& method,
                                                CmpiCpp::CmpiArgs const& in) {
-    unsigned int result = methodNotFound;
-    if (!(method == CmpiCpp::CmpiName("Identify")))
-        return result;
-    u32 duration = 0;
-    try {
-        CmpiCpp::CmpiData const& argument = in.getArg("Duration");
-        // The declared type is uint32; anything else is not this method's call.
-        if (argument.getType() != CMPI_uint32)
-            return result;
-        duration = argument.getUint32();
-    } catch (...) {
-        _logger.warn(":invokeMethod Identify, failed to extract Duration arg");
-        return result;
-    }
+    std::optional<u32> const duration = IdentifyArguments::duration(method, in, _logger);
+    if (!duration)
+        return CmpiManagedInstance::methodNotFound;
 
     std::optional<VeldraLogicalDisk> const logical = _controller->findLastLogicalDisk(_serialNumber);
     if (!logical)
@@ -234,9 +221,8 @@ unsigned int QLN_VDStorageVolume::invokeMethod(CmpiCpp::CmpiName const& method,
     std::vector<VeldraPhysicalDisk> disks = _controller->getAllPhysicalDisks();
     std::vector<VeldraPhysicalDisk> members =
         logical->logicalToAllPhysicals(disks);
-    int const identified = _controller->identifyPhysicalDisks(members, duration * durationScale);
-    result = identified < 0 ? methodFailed : methodDone;
-    return result;
+    int const identified = _controller->identifyPhysicalDisks(members, *duration);
+    return identified < 0 ? methodFailed : methodDone;
 }
 
 } // namespace QLN

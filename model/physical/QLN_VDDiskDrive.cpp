@@ -1,5 +1,7 @@
 #include "QLN_VDDiskDrive.h"
 
+#include "IdentifyArguments.h"
+
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
 #include "DiskStatusRow.h"
@@ -13,12 +15,9 @@ char const* const className = "QLN_VDDiskDrive";
 char const* const arraySystemClass = "QLN_VDArraySystem";
 char const* const notFound =
     "getInstance,findPhysicalDiskInVector could not find drive based on serial # or location";
-char const* const methodNotFound =
+char const* const notFoundForMethod =
     "invokeMethod,findPhysicalDiskInVector could not find drive based on serial # or location";
-unsigned int const methodUnknown = 17;
 unsigned int const methodFailed = 2;
-// The controller counts the locator's time in tenths of a second.
-u32 const durationScale = 10;
 u32 const carrierAuthOther = 3;
 } // namespace
 
@@ -106,25 +105,20 @@ CmpiCpp::CmpiInstance QLN_VDDiskDrive::getInstance() const {
 
 unsigned int QLN_VDDiskDrive::invokeMethod(CmpiCpp::CmpiName const& method,
                                            CmpiCpp::CmpiArgs const& in) {
-    unsigned int result = methodUnknown;
-    if (!(method == CmpiCpp::CmpiName("Identify")))
-        return result;
-    // One catch for the whole branch: a missing argument and a disk gone
-    // from the snapshot both end as "unknown", logged under the same words.
+    std::optional<u32> const duration = IdentifyArguments::duration(method, in, _logger);
+    if (!duration)
+        return CmpiManagedInstance::methodNotFound;
+    // A disk gone from the snapshot ends as a missing argument does: "unknown",
+    // logged under the same words.
     try {
-        CmpiCpp::CmpiData const& argument = in.getArg("Duration");
-        if (argument.getType() != CMPI_uint32)
-            return result;
-        u32 const duration = argument.getUint32();
-        VeldraPhysicalDisk const disk = _findDisk(methodNotFound);
+        VeldraPhysicalDisk const disk = _findDisk(notFoundForMethod);
         std::vector<VeldraPhysicalDisk> const one{disk};
-        int const identified = _controller->identifyPhysicalDisks(one, duration * durationScale);
-        result = identified >= 0 ? 0 : methodFailed;
+        int const identified = _controller->identifyPhysicalDisks(one, *duration);
+        return identified >= 0 ? 0 : methodFailed;
     } catch (...) {
-        _logger.warn(":invokeMethod Identify, failed to extract Duration arg");
-        result = methodUnknown;
+        _logger.warn("%s", IdentifyArguments::failureText);
+        return CmpiManagedInstance::methodNotFound;
     }
-    return result;
 }
 
 void QLN_VDDiskDrive::manageDynamic(bool indicationsEnabled) {

@@ -9,6 +9,7 @@
 #include "CmpiObjectPath.h"
 
 #include <atomic>
+#include <cstdint>
 
 namespace QLN {
 
@@ -22,8 +23,11 @@ public:
     // Must not touch the hardware: the collection calls it to match requests.
     virtual CmpiCpp::CmpiObjectPath getPath() const = 0;
     virtual CmpiCpp::CmpiInstance getInstance() const = 0;
+    // The CMPI return code for an unknown method, handed back as a value.
+    static constexpr std::uint32_t methodNotFound = 17;
+
     // Classes without extrinsic methods keep this one: it answers every
-    // method with the return value 17 (method not found).
+    // method with methodNotFound.
     virtual void invokeMethod(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in,
                               CmpiCpp::CmpiMethodResult& result);
     virtual CmpiCpp::CmpiName getClassName() const = 0;
