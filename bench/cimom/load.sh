@@ -33,19 +33,18 @@ if [ -z "$scenario" ]; then
 fi
 command -v wrk >/dev/null || { echo "load.sh: wrk missing (scripts/bootstrap installs it)" >&2; exit 1; }
 
+# shellcheck source=../cimd.sh
+. "$root/bench/cimd.sh"
 work="$(mktemp -d)"
-cimd_pid=""
-cleanup() { [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null && wait "$cimd_pid" 2>/dev/null; rm -rf "$work"; }
+cleanup() {
+  stop_cimd
+  rm -rf "$work"
+}
 trap cleanup EXIT
 
-args=(--port 0 --port-file "$work/port" --log-level warn --threads 8)
+args=(--log-level warn --threads 8 --registration "$registration")
 [ -n "$scenario" ] && args+=(--scenario "$scenario")
-[ -f "$registration" ] && args+=(--registration "$registration")
-"$build/bin/veldra-cimd" "${args[@]}" >"$work/stdout" 2>"$work/stderr" &
-cimd_pid=$!
-for _ in $(seq 1 200); do [ -s "$work/port" ] && break; sleep 0.1; done
-[ -s "$work/port" ] || { echo "veldra-cimd did not start:"; cat "$work/stderr"; exit 1; }
-port="$(cat "$work/port")"
+start_cimd "$build" "$work" "${args[@]}"
 url="http://127.0.0.1:$port/root/mwq"
 echo "veldra-cimd on port $port, scenario: ${scenario:-none}"
 
@@ -58,20 +57,7 @@ done
 [ -n "$best" ] || { echo "no class has instances"; exit 1; }
 echo "largest class: $best ($best_count instances)"
 
-envelope() {
-  printf '<?xml version="1.0" encoding="utf-8" ?><CIM CIMVERSION="2.0" DTDVERSION="2.0"><MESSAGE ID="1" PROTOCOLVERSION="1.0"><SIMPLEREQ><IMETHODCALL NAME="%s"><LOCALNAMESPACEPATH><NAMESPACE NAME="root"/><NAMESPACE NAME="mwq"/></LOCALNAMESPACEPATH>%s</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>' "$1" "$2"
-}
-cim_post() {
-  curl -s -X POST "http://127.0.0.1:$port/cimom" -H 'Content-Type: application/xml; charset="utf-8"' \
-    -H "CIMOperation: MethodCall" -H "CIMMethod: $1" -H "CIMObject: root%2Fmwq" --data-binary "@$2"
-}
-
-envelope EnumerateInstanceNames "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$best\"/></IPARAMVALUE>" >"$work/ein.xml"
-first_name="$(cim_post EnumerateInstanceNames "$work/ein.xml" | python3 -c '
-import sys, xml.etree.ElementTree as ET
-root = ET.fromstring(sys.stdin.read())
-name = root.find(".//INSTANCENAME")
-print(ET.tostring(name, encoding="unicode").replace(" />", "/>"))')"
+first_name="$(first_instance_name "$best" "$work/ein.xml")"
 envelope GetInstance "<IPARAMVALUE NAME=\"InstanceName\">$first_name</IPARAMVALUE>" >"$work/gi.xml"
 envelope EnumerateInstances "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$best\"/></IPARAMVALUE><IPARAMVALUE NAME=\"DeepInheritance\"><VALUE>TRUE</VALUE></IPARAMVALUE>" >"$work/ei.xml"
 

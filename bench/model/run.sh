@@ -43,16 +43,11 @@ for bin in veldra-cimd veldra-sim; do
   [ -x "$build/bin/$bin" ] || { echo "run.sh: $build/bin/$bin not built" >&2; exit 1; }
 done
 
+# shellcheck source=../cimd.sh
+. "$root/bench/cimd.sh"
 work="$(mktemp -d /tmp/veldra-model-bench.XXXXXX)"
-cimd_pid=""
-# veldra-cimd drains its requests on SIGTERM; one abandoned after the class
-# limit may run for minutes, so it gets ten seconds before SIGKILL.
 cleanup() {
-  if [ -n "$cimd_pid" ] && kill "$cimd_pid" 2>/dev/null; then
-    for _ in $(seq 1 100); do kill -0 "$cimd_pid" 2>/dev/null || break; sleep 0.1; done
-    kill -9 "$cimd_pid" 2>/dev/null || true
-    wait "$cimd_pid" 2>/dev/null || true
-  fi
+  stop_cimd
   rm -rf "$work"
 }
 trap cleanup EXIT
@@ -65,15 +60,10 @@ rss_kb() { awk '/^VmRSS/ {print $2}' "/proc/$1/status"; }
 now_ms() { date +%s%3N; }
 
 started=$(now_ms)
-"$build/bin/veldra-cimd" --port 0 --port-file "$work/port" --log-level info --threads 8 --scenario "$scenario" \
-  --registration "$root/data/registration/veldra-cimd.yaml" --mof-dir "$root/data/mof" \
-  --provider-dir "$build/lib" >"$work/stdout" 2>"$work/stderr" &
-cimd_pid=$!
-for _ in $(seq 1 600); do [ -s "$work/port" ] && break; sleep 0.05; done
-[ -s "$work/port" ] || { echo "veldra-cimd did not start:"; cat "$work/stderr"; exit 1; }
+start_cimd "$build" "$work" --log-level info --threads 8 --scenario "$scenario" \
+  --registration "$root/data/registration/veldra-cimd.yaml" --mof-dir "$root/data/mof" --provider-dir "$build/lib"
 listening=$(now_ms)
 rss_listening=$(rss_kb "$cimd_pid")
-port="$(cat "$work/port")"
 url="http://127.0.0.1:$port/root/mwq"
 # The first request into the provider's classes waits for a graph build
 # that has not finished yet (or triggers a lazy one).
@@ -85,20 +75,6 @@ echo "resident memory: $((rss_listening / 1024)) MiB when listening, $((rss_buil
 grep -m1 -E "_cmpiManagedInstanceFactory" "$work/stderr" | sed 's/^/  first factory log line: /' || true
 grep -E "return _createAllLogicalDiskInstances" "$work/stderr" | tail -1 | sed 's/^/  last graph log line:    /' || true
 
-envelope() {
-  printf '<?xml version="1.0" encoding="utf-8" ?><CIM CIMVERSION="2.0" DTDVERSION="2.0"><MESSAGE ID="1" PROTOCOLVERSION="1.0"><SIMPLEREQ><IMETHODCALL NAME="%s"><LOCALNAMESPACEPATH><NAMESPACE NAME="root"/><NAMESPACE NAME="mwq"/></LOCALNAMESPACEPATH>%s</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>' "$1" "$2"
-}
-cim_post() {
-  curl -s -X POST "http://127.0.0.1:$port/cimom" -H 'Content-Type: application/xml; charset="utf-8"' \
-    -H "CIMOperation: MethodCall" -H "CIMMethod: $1" -H "CIMObject: root%2Fmwq" --data-binary "@$2"
-}
-first_instance_name() {
-  envelope EnumerateInstanceNames "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"$1\"/></IPARAMVALUE>" >"$work/names.xml"
-  cim_post EnumerateInstanceNames "$work/names.xml" | python3 -c '
-import sys, xml.etree.ElementTree as ET
-name = ET.fromstring(sys.stdin.read()).find(".//INSTANCENAME")
-print(ET.tostring(name, encoding="unicode").replace(" />", "/>"))'
-}
 
 # Runs wrk on one request; prints its summary lines. $1 method, $2 body file,
 # $3 connections.
@@ -126,7 +102,7 @@ print("%.0f" % (float(t[:len(t) - len(unit)]) * scale[unit]))')
 echo "instances per second: $ei_rate"
 
 for cls in QLN_VDDiskDrive QLN_VDArraySystem; do
-  envelope Associators "<IPARAMVALUE NAME=\"ObjectName\">$(first_instance_name "$cls")</IPARAMVALUE>" >"$work/assoc.xml"
+  envelope Associators "<IPARAMVALUE NAME=\"ObjectName\">$(first_instance_name "$cls" "$work/names.xml")</IPARAMVALUE>" >"$work/assoc.xml"
   if cim_post Associators "$work/assoc.xml" | grep -q "<ERROR "; then echo "Associators of $cls answers an error"; exit 1; fi
   found=$(cim_post Associators "$work/assoc.xml" | grep -o "<VALUE.OBJECTWITHPATH>" | wc -l)
   echo "== Associators of one $cls ($found instances), $duration, 1 connection"
