@@ -118,3 +118,30 @@ TEST(ModelKeysWithoutSerial, ControllersAreNamedByLocation) {
     EXPECT_EQ(controllerNames, names);
     EXPECT_EQ(diskSystems, names);
 }
+
+// A base class of the schema names every instance of its subclasses, as in an
+// object manager that holds the whole schema: wbemcli asks for
+// CIM_LogicalDevice or filters associations by CIM_Component and gets what
+// the concrete classes give together.
+TEST_F(ModelCounts, SchemaBaseClassesFindTheirSubclassesInstances) {
+    const auto& c = server->client();
+    std::set<std::string> devices;
+    for (const auto& line : c.run("ecn", "CIM_LogicalDevice")) devices.insert(WbemcliClient::className(line));
+    ASSERT_TRUE(devices.count("QLN_VDDiskDrive"));
+    ASSERT_TRUE(devices.count("QLN_VDStorageVolume"));
+    ASSERT_FALSE(devices.count("QLN_VDArraySystem"));
+    int expected = 0;
+    for (const auto& [className, count] : server->expected().counts())
+        if (devices.count(className)) expected += count;
+    const auto found = c.run("ein", "CIM_LogicalDevice");
+    EXPECT_EQ(static_cast<int>(found.size()), expected);
+    for (const auto& line : found) EXPECT_TRUE(devices.count(WbemcliClient::className(line))) << line;
+
+    const std::string system = systemKeys("QLN_VDArraySystem", Expect::systemName(server->expected().controllers().front()));
+    std::set<std::string> byEach;
+    for (const auto& line : c.run("ecn", "CIM_Component"))
+        for (const auto& end : c.run("ain", system, "-ac " + WbemcliClient::className(line))) byEach.insert(end);
+    const auto byBase = c.run("ain", system, "-ac CIM_Component");
+    EXPECT_EQ(std::set<std::string>(byBase.begin(), byBase.end()), byEach);
+    EXPECT_EQ(byBase.size(), 72u) << "the figure SFCB with the DMTF schema gives for this system";
+}

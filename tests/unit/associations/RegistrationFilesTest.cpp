@@ -51,8 +51,10 @@ std::set<std::string> mofAssociations() {
     std::regex const declared(R"(\[Association[^\]]*\]\s*class\s+(\w+))");
     for (auto const& file : std::filesystem::directory_iterator(mofDir)) {
         if (file.path().extension() == ".mof") {
-            auto const found = matches(readText(file.path().string()), declared);
-            names.insert(found.begin(), found.end());
+            // The schema's CIM_ classes are there for the hierarchy only; no
+            // provider serves them.
+            for (auto const& name : matches(readText(file.path().string()), declared))
+                if (name.rfind("CIM_", 0) != 0) names.insert(name);
         }
     }
     return names;

@@ -37,7 +37,8 @@ ClassRepository const& shippedClasses() {
 std::vector<CimClassDecl const*> associationClasses() {
     std::vector<CimClassDecl const*> found;
     for (auto const* cls : shippedClasses().subclasses(ns, "", true)) {
-        if (cls->hasQualifier("Association")) found.push_back(cls);
+        // The schema's CIM_ classes are there for the hierarchy only.
+        if (cls->hasQualifier("Association") && cls->name.rfind("CIM_", 0) != 0) found.push_back(cls);
     }
     return found;
 }
