@@ -50,7 +50,8 @@ echo "veldra-cimd on port $port, scenario: ${scenario:-none}"
 
 # The class with the most instances.
 best=""; best_count=0
-for cls in $(wbemcli -nl ecn "$url" 2>/dev/null | sed 's/.*://' ); do
+# Our classes only: a schema base class (CIM_...) holds its subclasses' instances.
+for cls in $(wbemcli -nl ecn "$url" 2>/dev/null | sed 's/.*://' | grep -v '^CIM_'); do
   n=$(wbemcli ein "$url:$cls" 2>/dev/null | grep -c . || true)
   if [ "$n" -gt "$best_count" ]; then best="$cls"; best_count="$n"; fi
 done
