@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "ControllerDeviceKey.h"
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 
 namespace {
@@ -20,8 +21,9 @@ ControllerDeviceInstance::ControllerDeviceInstance(Logger& logger, char const* c
 
 CmpiCpp::CmpiObjectPath ControllerDeviceInstance::getPath() const {
     VeldraControllerData data = _lastData();
-    return ControllerDeviceKey::path(_namespace, _cimClassName(), _keyName, _keyValue(data), data,
-                                     _controllerIndex);
+    return makeSystemDevicePath(_namespace, _cimClassName(),
+                                getControllerName(data, static_cast<int>(_controllerIndex)),
+                                DeviceKeyOrder::ClassFirst, _keyName, _keyValue(data));
 }
 
 CmpiCpp::CmpiInstance
@@ -30,7 +32,7 @@ ControllerDeviceInstance::_newInstance(VeldraControllerData const& data) const {
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, getPath());
     instance.addProperty("CreationClassName", _cimClassName());
     instance.addProperty("SystemCreationClassName", arraySystemClass);
-    instance.addProperty("SystemName", ControllerDeviceKey::systemName(data, _controllerIndex));
+    instance.addProperty("SystemName", getControllerName(data, static_cast<int>(_controllerIndex)));
     return instance;
 }
 

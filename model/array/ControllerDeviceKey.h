@@ -1,7 +1,6 @@
 #pragma once
-// The key shape that the controller's port, protocol and initiator classes
-// share: the class, the array system as the scoping system, and one last key
-// of the class's own. Kept in one place so that the classes cannot drift apart.
+// The last key of the controller's port, protocol and initiator classes is the
+// controller's serial number; the path around it is the identity helpers'.
 #include "CmpiObjectPath.h"
 #include "VeldraControllerData.h"
 
@@ -15,16 +14,6 @@ public:
     // otherwise `fallback`. An empty serial is a valid answer of the hardware,
     // so it is not replaced.
     static std::string serialOr(VeldraControllerData const& data, std::string const& fallback);
-
-    // CreationClassName, SystemCreationClassName, SystemName and the last key,
-    // in this order, on the host of the moment.
-    static CmpiCpp::CmpiObjectPath path(std::string const& nameSpace, std::string const& className,
-                                        char const* lastKeyName, std::string const& lastKeyValue,
-                                        VeldraControllerData const& data,
-                                        unsigned int controllerIndex);
-
-    // The value of SystemName: the array system's Name.
-    static std::string systemName(VeldraControllerData const& data, unsigned int controllerIndex);
 };
 
 } // namespace QLN

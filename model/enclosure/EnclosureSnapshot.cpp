@@ -28,8 +28,4 @@ std::string EnclosureSnapshot::orNotAvailable(std::string const& text) {
     return text.empty() ? std::string("N/A") : text;
 }
 
-std::string EnclosureSnapshot::position(unsigned int controllerIndex, u32 enclosureBoxNumber) {
-    return std::to_string(controllerIndex) + "-" + std::to_string(enclosureBoxNumber);
-}
-
 } // namespace QLN

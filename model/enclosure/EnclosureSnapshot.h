@@ -19,10 +19,6 @@ public:
     // Enclosures often leave texts empty; clients want "N/A" rather than a
     // blank or a missing property.
     static std::string orNotAvailable(std::string const& text);
-
-    // "<controller>-<enclosure box number>": the part of every enclosure key
-    // that tells enclosures apart.
-    static std::string position(unsigned int controllerIndex, u32 enclosureBoxNumber);
 };
 
 } // namespace QLN

@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "EnclosureSnapshot.h"
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 #include "VersionProperties.h"
@@ -25,7 +26,7 @@ QLN_VDEnclosureFirmware::QLN_VDEnclosureFirmware(Logger& logger, std::string con
 
 std::string QLN_VDEnclosureFirmware::_instanceId() const {
     return std::string("MWQ:") + className + "-" +
-           EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber);
+           enclosureTag(_controllerIndex, _enclosureBoxNumber);
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDEnclosureFirmware::getPath() const {

@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "EnclosureSnapshot.h"
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
 
@@ -36,7 +37,7 @@ unsigned short QLN_VDStorageEnclosure::locationOf(std::string const& userText) {
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosure::getPath() const {
     return _pathByClassAndKey("Tag",
-                              EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+                              enclosureTag(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {
@@ -47,7 +48,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {
 
     std::string const userText = pathsToUserStr(enclosure.getPaths(), -1);
     instance.addProperty("CreationClassName", className);
-    instance.addProperty("Tag", EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+    instance.addProperty("Tag", enclosureTag(_controllerIndex, _enclosureBoxNumber));
     instance.addProperty("SerialNumber",
                          EnclosureSnapshot::orNotAvailable(enclosure.getSerialNumber()));
     instance.addProperty("ElementName", userText);

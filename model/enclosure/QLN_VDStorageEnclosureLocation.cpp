@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "EnclosureLocationInfo.h"
 #include "EnclosureSnapshot.h"
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
 
@@ -37,7 +38,7 @@ std::string QLN_VDStorageEnclosureLocation::locationTagOf(std::string const& por
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureLocation::getPath() const {
-    return _locationPath(EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+    return _locationPath(enclosureTag(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureLocation::getInstance() const {

@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "EnclosureSnapshot.h"
+#include "IdentityHelpers.h"
 #include "FixedStateProperties.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -48,7 +49,7 @@ QLN_VDStorageEnclosureProcessor::QLN_VDStorageEnclosureProcessor(Logger& logger,
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureProcessor::getPath() const {
     return _pathByClassAndKey("Name",
-                              EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+                              enclosureTag(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
@@ -60,7 +61,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
 
     instance.addProperty("CreationClassName", className);
     instance.addProperty("Name",
-                         EnclosureSnapshot::position(_controllerIndex, _enclosureBoxNumber));
+                         enclosureTag(_controllerIndex, _enclosureBoxNumber));
     instance.addProperty("NameFormat", "Other");
     instance.addProperty("ElementName", pathsToUserStr(paths, -1));
     instance.addProperty("IdentifyingDescriptions",

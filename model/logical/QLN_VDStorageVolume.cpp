@@ -101,14 +101,8 @@ std::string QLN_VDStorageVolume::_systemName() const {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageVolume::getPath() const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, className);
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("SystemCreationClassName", systemClassName);
-    path.addKey("CreationClassName", className);
-    path.addKey("SystemName", _systemName());
-    path.addKey("DeviceID", _serialNumber);
-    return path;
+    return makeSystemDevicePath(_namespace, className, _systemName(),
+                                DeviceKeyOrder::SystemClassFirst, "DeviceID", _serialNumber);
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageVolume::getInstance() const {

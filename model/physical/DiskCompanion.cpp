@@ -1,5 +1,6 @@
 #include "DiskCompanion.h"
 
+#include "IdentityHelpers.h"
 #include "PhysicalDiskKey.h"
 
 namespace QLN {
@@ -12,7 +13,9 @@ DiskCompanion::DiskCompanion(Logger& logger, std::string const& nameSpace, char 
       _boxNumber(disk.getEnclosureBoxNumber()), _bay(disk.getBay()) {}
 
 std::string DiskCompanion::_identityTail() const {
-    return PhysicalDiskKey::name(_serialNumber, _model, std::to_string(_controllerIndex) + "-",
+    // The serial as the disk reports it: one of only blanks names the disk
+    // "MODEL-" here, where change detection's makeDiskDrivePath uses the place.
+    return diskKeyName(_serialNumber, _model, std::to_string(_controllerIndex) + "-",
                                  _boxNumber, _bay);
 }
 

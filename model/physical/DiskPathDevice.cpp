@@ -1,6 +1,7 @@
 #include "DiskPathDevice.h"
 
 #include "CmpiBroker.h"
+#include "IdentityHelpers.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 
@@ -19,19 +20,14 @@ DiskPathDevice::DiskPathDevice(Logger& logger, std::string const& nameSpace, cha
       _model(disk.getModel()), _boxNumber(disk.getEnclosureBoxNumber()), _bay(disk.getBay()) {}
 
 std::string DiskPathDevice::_keyValue() const {
-    return PhysicalDiskKey::name(_serialNumber, _model, _port + ":", _boxNumber, _bay) + ":" +
+    return diskKeyName(_serialNumber, _model, _port + ":", _boxNumber, _bay) + ":" +
            std::to_string(_pathIndex);
 }
 
 CmpiCpp::CmpiObjectPath DiskPathDevice::_path(char const* lastKeyName) const {
-    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
-    path.setHost(QLNUtil::getHostName());
-    path.addKey("CreationClassName", _cimClassName());
-    path.addKey("SystemCreationClassName", arraySystemClass);
-    path.addKey("SystemName", PhysicalDiskKey::systemName(_controller, _controllerIndex));
-    path.addKey(lastKeyName, _keyValue());
-    return path;
+    return makeSystemDevicePath(_namespace, _cimClassName(),
+                                PhysicalDiskKey::systemName(_controller, _controllerIndex),
+                                DeviceKeyOrder::ClassFirst, lastKeyName, _keyValue());
 }
 
 void DiskPathDevice::_addKeyProperties(CmpiCpp::CmpiInstance& instance,

@@ -1,6 +1,7 @@
 #include "QLN_VDDiskDrive.h"
 
 #include "IdentifyArguments.h"
+#include "IdentityHelpers.h"
 
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
@@ -30,8 +31,9 @@ QLN_VDDiskDrive::QLN_VDDiskDrive(Logger& logger, std::string const& nameSpace,
       _paths(disk.getLastAllPhysicalPaths()), _portString(pathsToPortStr(_paths)) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDDiskDrive::getPath() const {
-    return PhysicalDiskKey::devicePath(_namespace, className, _controller, _controllerIndex,
-                                       "DeviceID", _identityTail());
+    return makeSystemDevicePath(_namespace, className,
+                                PhysicalDiskKey::systemName(_controller, _controllerIndex),
+                                DeviceKeyOrder::SystemClassFirst, "DeviceID", _identityTail());
 }
 
 CmpiCpp::CmpiInstance QLN_VDDiskDrive::getInstance() const {

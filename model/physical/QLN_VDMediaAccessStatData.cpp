@@ -2,6 +2,7 @@
 
 #include "CmpiBroker.h"
 #include "CmpiDateTime.h"
+#include "IdentityHelpers.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VeldraStorageFunctions.h"
@@ -24,7 +25,7 @@ QLN_VDMediaAccessStatData::QLN_VDMediaAccessStatData(Logger& logger, std::string
 
 std::string QLN_VDMediaAccessStatData::_instanceId() const {
     return std::string(className) + "-" +
-           PhysicalDiskKey::name(_serialNumber, _model, "", _boxNumber, _bay);
+           diskKeyName(_serialNumber, _model, "", _boxNumber, _bay);
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDMediaAccessStatData::getPath() const {

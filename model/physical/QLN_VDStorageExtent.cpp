@@ -3,6 +3,7 @@
 #include "CmpiBroker.h"
 #include "DiskStatusRow.h"
 #include "FixedStateProperties.h"
+#include "IdentityHelpers.h"
 #include "PhysicalDiskKey.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
@@ -30,12 +31,13 @@ QLN_VDStorageExtent::QLN_VDStorageExtent(Logger& logger, std::string const& name
 
 std::string QLN_VDStorageExtent::_deviceId() const {
     // Unlike the disk, no controller number: SystemName already scopes it.
-    return PhysicalDiskKey::name(_serialNumber, _model, "", _boxNumber, _bay);
+    return diskKeyName(_serialNumber, _model, "", _boxNumber, _bay);
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageExtent::getPath() const {
-    return PhysicalDiskKey::devicePath(_namespace, className, _controller, _controllerIndex,
-                                       "DeviceID", _deviceId());
+    return makeSystemDevicePath(_namespace, className,
+                                PhysicalDiskKey::systemName(_controller, _controllerIndex),
+                                DeviceKeyOrder::SystemClassFirst, "DeviceID", _deviceId());
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageExtent::getInstance() const {

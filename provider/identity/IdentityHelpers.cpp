@@ -36,10 +36,6 @@ CmpiCpp::CmpiObjectPath makePath(char const* className) {
     return path;
 }
 
-std::string enclosureTag(int index, VeldraEnclosure const& enclosure) {
-    return std::to_string(index) + "-" + std::to_string(enclosure.getEnclosureBoxNumber());
-}
-
 } // namespace
 
 namespace QLN {
@@ -104,6 +100,37 @@ std::string getControllerDisplayName(VeldraControllerData const& data) {
     return prefix + QLNPhysloc::physlocToHWLocation(location);
 }
 
+std::string diskKeyName(std::string const& serial, std::string const& model,
+                        std::string const& placePrefix, int box, int bay) {
+    if (serial.empty())
+        return placePrefix + std::to_string(box) + ":" + std::to_string(bay);
+    return removeWhitespace(model) + "-" + removeWhitespace(serial);
+}
+
+std::string enclosureTag(unsigned int index, u32 box) {
+    return std::to_string(index) + "-" + std::to_string(box);
+}
+
+CmpiCpp::CmpiObjectPath makeSystemDevicePath(std::string const& nameSpace,
+                                             std::string const& className,
+                                             std::string const& systemName, DeviceKeyOrder order,
+                                             char const* lastKeyName,
+                                             std::string const& lastKeyValue) {
+    CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, nameSpace, className);
+    path.setHost(QLNUtil::getHostName());
+    if (order == DeviceKeyOrder::SystemClassFirst) {
+        path.addKey("SystemCreationClassName", arraySystemClass);
+        path.addKey("CreationClassName", className);
+    } else {
+        path.addKey("CreationClassName", className);
+        path.addKey("SystemCreationClassName", arraySystemClass);
+    }
+    path.addKey("SystemName", systemName);
+    path.addKey(lastKeyName, lastKeyValue);
+    return path;
+}
+
 CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData const& data, int index) {
     CmpiCpp::CmpiObjectPath path = makePath(arrayControllerClass);
     path.addKey("CreationClassName", arrayControllerClass);
@@ -133,43 +160,32 @@ CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData const& data) {
 
 CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData const& data, int index,
                                               VeldraLogicalDisk const& logicalDisk) {
-    CmpiCpp::CmpiObjectPath path = makePath(storageVolumeClass);
-    path.addKey("SystemCreationClassName", arraySystemClass);
-    path.addKey("CreationClassName", storageVolumeClass);
-    path.addKey("SystemName", getControllerName(data, index));
-    path.addKey("DeviceID", logicalDisk.getSerialNumber());
-    return path;
+    return makeSystemDevicePath(nameSpace, storageVolumeClass, getControllerName(data, index),
+                                DeviceKeyOrder::SystemClassFirst, "DeviceID",
+                                logicalDisk.getSerialNumber());
 }
 
 CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData const& data, int index,
                                           VeldraPhysicalDisk const& disk) {
-    CmpiCpp::CmpiObjectPath path = makePath(diskDriveClass);
-    path.addKey("SystemCreationClassName", arraySystemClass);
-    path.addKey("CreationClassName", diskDriveClass);
-    path.addKey("SystemName", getControllerName(data, index));
-    std::string serial = removeWhitespace(disk.getSerialNumber());
-    std::string deviceId;
-    if (serial.empty()) {
-        deviceId = std::to_string(index) + "-" + std::to_string(disk.getEnclosureBoxNumber()) +
-                   ":" + std::to_string(disk.getBay());
-    } else {
-        deviceId = removeWhitespace(disk.getModel()) + "-" + serial;
-    }
-    path.addKey("DeviceID", deviceId);
-    return path;
+    // Whitespace goes before the test for an empty serial, here only: see diskKeyName.
+    std::string const deviceId =
+        diskKeyName(removeWhitespace(disk.getSerialNumber()), disk.getModel(),
+                    std::to_string(index) + "-", disk.getEnclosureBoxNumber(), disk.getBay());
+    return makeSystemDevicePath(nameSpace, diskDriveClass, getControllerName(data, index),
+                                DeviceKeyOrder::SystemClassFirst, "DeviceID", deviceId);
 }
 
 CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure const& enclosure) {
     CmpiCpp::CmpiObjectPath path = makePath(storageEnclosureClass);
     path.addKey("CreationClassName", storageEnclosureClass);
-    path.addKey("Tag", enclosureTag(index, enclosure));
+    path.addKey("Tag", enclosureTag(index, enclosure.getEnclosureBoxNumber()));
     return path;
 }
 
 CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure const& enclosure) {
     CmpiCpp::CmpiObjectPath path = makePath(enclosureProcessorClass);
     path.addKey("CreationClassName", enclosureProcessorClass);
-    path.addKey("Name", enclosureTag(index, enclosure));
+    path.addKey("Name", enclosureTag(index, enclosure.getEnclosureBoxNumber()));
     return path;
 }
 

@@ -30,6 +30,31 @@ std::string getControllerName(VeldraControllerData const& data, int index);
 // "Veldra in PCI Slot 3", "Veldra External ...": for people, not a key.
 std::string getControllerDisplayName(VeldraControllerData const& data);
 
+// "<model>-<serial>", whitespace removed from both, when `serial` is not empty
+// as given; otherwise the disk is named by its place, `<placePrefix><box>:<bay>`.
+// The disk's classes test the serial as the disk reports it, while
+// makeDiskDrivePath tests it after whitespace is removed: that is where a
+// serial of only blanks gives "MODEL-" on an instance and the place form on
+// the path change detection builds.
+std::string diskKeyName(std::string const& serial, std::string const& model,
+                        std::string const& placePrefix, int box, int bay);
+
+// "<controller index>-<box>": an enclosure's Tag, its processor's Name and the
+// position of its location.
+std::string enclosureTag(unsigned int index, u32 box);
+
+// Which key of a device on the array system comes first; the classes differ
+// and the wire order of keys is part of what clients see.
+enum class DeviceKeyOrder { SystemClassFirst, ClassFirst };
+
+// The four keys of a device hosted by an array system: the two creation class
+// names in `order`, SystemName, then `lastKeyName`. On the host of the moment.
+CmpiCpp::CmpiObjectPath makeSystemDevicePath(std::string const& nameSpace,
+                                             std::string const& className,
+                                             std::string const& systemName, DeviceKeyOrder order,
+                                             char const* lastKeyName,
+                                             std::string const& lastKeyValue);
+
 CmpiCpp::CmpiObjectPath makeArrayControllerPath(VeldraControllerData const& data, int index);
 CmpiCpp::CmpiObjectPath makePCIDevicePath(VeldraControllerData const& data);
 CmpiCpp::CmpiObjectPath makeStorageVolumePath(VeldraControllerData const& data, int index,

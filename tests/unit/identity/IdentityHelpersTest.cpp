@@ -87,6 +87,10 @@ TEST(DevicePaths, DiskDeviceIdIsModelAndSerialWithoutBlanksOrThePlace) {
         "3-2:7")
         << "a serial of blanks is no serial";
     EXPECT_EQ(QLN::removeWhitespace(""), "");
+    // The disk's own classes name it from the serial as reported, so there the
+    // same blanks count as a serial: the one place the two forms part.
+    EXPECT_EQ(QLN::diskKeyName("\t \n", "M", "3-", 2, 7), "M-");
+    EXPECT_EQ(QLN::diskKeyName("", "M", "3-", 2, 7), "3-2:7");
 }
 
 TEST(DevicePaths, VolumeEnclosureProcessorAndController) {
