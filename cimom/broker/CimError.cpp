@@ -1,6 +1,13 @@
 #include "CimError.h"
 
+#include "CmpiRcName.h"
+
+#include <array>
+
 namespace {
+// "CMPI_RC_" before the part of a name that the CIM name shares.
+constexpr std::size_t cmpiPrefix = 8;
+
 std::string whatText(CMPIrc code, const std::string& description) {
     std::string text = CimError::codeName(code);
     if (!description.empty()) {
@@ -13,57 +20,36 @@ std::string whatText(CMPIrc code, const std::string& description) {
 CimError::CimError(CMPIrc code, const std::string& description)
     : std::runtime_error(whatText(code, description)), _code(code), _description(description) {}
 
-const char* CimError::codeName(CMPIrc code) {
-    switch (code) {
-    case CMPI_RC_OK:
-        return "CIM_ERR_OK";
-    case CMPI_RC_ERR_FAILED:
-        return "CIM_ERR_FAILED";
-    case CMPI_RC_ERR_ACCESS_DENIED:
-        return "CIM_ERR_ACCESS_DENIED";
-    case CMPI_RC_ERR_INVALID_NAMESPACE:
-        return "CIM_ERR_INVALID_NAMESPACE";
-    case CMPI_RC_ERR_INVALID_PARAMETER:
-        return "CIM_ERR_INVALID_PARAMETER";
-    case CMPI_RC_ERR_INVALID_CLASS:
-        return "CIM_ERR_INVALID_CLASS";
-    case CMPI_RC_ERR_NOT_FOUND:
-        return "CIM_ERR_NOT_FOUND";
-    case CMPI_RC_ERR_NOT_SUPPORTED:
-        return "CIM_ERR_NOT_SUPPORTED";
-    case CMPI_RC_ERR_CLASS_HAS_CHILDREN:
-        return "CIM_ERR_CLASS_HAS_CHILDREN";
-    case CMPI_RC_ERR_CLASS_HAS_INSTANCES:
-        return "CIM_ERR_CLASS_HAS_INSTANCES";
-    case CMPI_RC_ERR_INVALID_SUPERCLASS:
-        return "CIM_ERR_INVALID_SUPERCLASS";
-    case CMPI_RC_ERR_ALREADY_EXISTS:
-        return "CIM_ERR_ALREADY_EXISTS";
-    case CMPI_RC_ERR_NO_SUCH_PROPERTY:
-        return "CIM_ERR_NO_SUCH_PROPERTY";
-    case CMPI_RC_ERR_TYPE_MISMATCH:
-        return "CIM_ERR_TYPE_MISMATCH";
-    case CMPI_RC_ERR_QUERY_LANGUAGE_NOT_SUPPORTED:
-        return "CIM_ERR_QUERY_LANGUAGE_NOT_SUPPORTED";
-    case CMPI_RC_ERR_INVALID_QUERY:
-        return "CIM_ERR_INVALID_QUERY";
-    case CMPI_RC_ERR_METHOD_NOT_AVAILABLE:
-        return "CIM_ERR_METHOD_NOT_AVAILABLE";
-    case CMPI_RC_ERR_METHOD_NOT_FOUND:
-        return "CIM_ERR_METHOD_NOT_FOUND";
-    case CMPI_RC_DO_NOT_UNLOAD:
-        return "CMPI_RC_DO_NOT_UNLOAD";
-    case CMPI_RC_NEVER_UNLOAD:
-        return "CMPI_RC_NEVER_UNLOAD";
-    case CMPI_RC_ERR_INVALID_HANDLE:
-        return "CMPI_RC_ERR_INVALID_HANDLE";
-    case CMPI_RC_ERR_INVALID_DATA_TYPE:
-        return "CMPI_RC_ERR_INVALID_DATA_TYPE";
-    case CMPI_RC_ERROR_SYSTEM:
-        return "CMPI_RC_ERROR_SYSTEM";
-    case CMPI_RC_ERROR:
-        return "CMPI_RC_ERROR";
+const char* CimError::codeName(int code) {
+    // The CIM status codes 1..17 are the CMPI codes of the same number; their
+    // names are the CMPI names with the CIM prefix.
+    static const std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> shared = [] {
+        std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> names;
+        for (int rc = CMPI_RC_ERR_FAILED; rc <= CMPI_RC_ERR_METHOD_NOT_FOUND; ++rc)
+            names[rc] = std::string("CIM_") + (cmpiRcName(static_cast<CMPIrc>(rc)) + cmpiPrefix);
+        return names;
+    }();
+    // The codes of pulled enumerations came after CMPI 2.0 and exist in CIM-XML only.
+    static const char* const pullCodes[] = {
+        "CIM_ERR_NAMESPACE_NOT_EMPTY",
+        "CIM_ERR_INVALID_ENUMERATION_CONTEXT",
+        "CIM_ERR_INVALID_OPERATION_TIMEOUT",
+        "CIM_ERR_PULL_HAS_BEEN_ABANDONED",
+        "CIM_ERR_PULL_CANNOT_BE_ABANDONED",
+        "CIM_ERR_FILTERED_ENUMERATION_NOT_SUPPORTED",
+        "CIM_ERR_CONTINUATION_ON_ERROR_NOT_SUPPORTED",
+        "CIM_ERR_SERVER_LIMITS_EXCEEDED",
+        "CIM_ERR_SERVER_IS_SHUTTING_DOWN",
+    };
+    if (code >= CMPI_RC_ERR_FAILED && code <= CMPI_RC_ERR_METHOD_NOT_FOUND)
+        return shared[code].c_str();
+    if (code >= 20 && code <= 28)
+        return pullCodes[code - 20];
+    // CMPI's own codes keep their CMPI names; a provider may also hand back
+    // any other integer, which is still a failure.
+    if (code != CMPI_RC_OK) {
+        if (const char* name = cmpiRcName(static_cast<CMPIrc>(code)))
+            return name;
     }
-    // A provider may hand back any integer; it is still a failure.
     return "CIM_ERR_FAILED";
 }

@@ -15,8 +15,10 @@ public:
     CMPIrc code() const { return _code; }
     const std::string& description() const { return _description; }
 
-    // "CIM_ERR_NOT_FOUND" and the like, for logs and messages.
-    static const char* codeName(CMPIrc code);
+    // "CIM_ERR_NOT_FOUND" and the like, for logs and messages: any CIM status
+    // code, including those of pulled enumerations; "CIM_ERR_FAILED" for codes
+    // nobody defines.
+    static const char* codeName(int code);
 
 private:
     CMPIrc _code;

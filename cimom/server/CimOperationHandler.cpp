@@ -2,6 +2,7 @@
 
 #include "ClassRepository.h"
 #include "ClassXml.h"
+#include "CimError.h"
 #include "CimOperationError.h"
 #include "CimProtocolError.h"
 #include "ServerLog.h"
@@ -162,7 +163,7 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
             _dispatch(request, out);
         } catch (const CimOperationError& e) {
             ServerLog::debug(request.methodName() + " in " + request.nameSpace() + ": " +
-                             CimOperationError::codeName(e.code()) + ": " + e.what());
+                             CimError::codeName(e.code()) + ": " + e.what());
             out.rollback(start);
             const std::string code = std::to_string(e.code());
             // The description may quote the request, which need not be valid text.

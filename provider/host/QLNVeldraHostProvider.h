@@ -35,16 +35,11 @@ public:
 
     unsigned int instanceCount() const { return _instances.size(); }
 
-    // Run by cleanup(), right before the provider is deleted: the entry
-    // points use it to forget the provider, so a later load builds a new one.
-    void setOnCleanup(void (*hook)()) { _onCleanup = hook; }
-
 private:
     CmpiCpp::CmpiBroker _broker;
     Logger _logger;
     CmpiManagedInstanceCollection _instances;
     std::unique_ptr<InternalVeldraControllerMRA> _storage;
-    void (*_onCleanup)() = nullptr;
 };
 
 } // namespace QLN

@@ -178,3 +178,14 @@ TEST(CimInstance, PropertiesKeepOrderReplaceInPlaceAndFilter) {
     EXPECT_TRUE(inst.removeProperty("name"));
     EXPECT_FALSE(inst.removeProperty("name"));
 }
+
+TEST(CimError, NamesEveryStatusCodeOnceWhateverItsOrigin) {
+    EXPECT_STREQ(CimError::codeName(CMPI_RC_ERR_NOT_FOUND), "CIM_ERR_NOT_FOUND");
+    EXPECT_STREQ(CimError::codeName(CMPI_RC_ERR_METHOD_NOT_FOUND), "CIM_ERR_METHOD_NOT_FOUND");
+    EXPECT_STREQ(CimError::codeName(21), "CIM_ERR_INVALID_ENUMERATION_CONTEXT");
+    EXPECT_STREQ(CimError::codeName(28), "CIM_ERR_SERVER_IS_SHUTTING_DOWN");
+    EXPECT_STREQ(CimError::codeName(CMPI_RC_ERROR_SYSTEM), "CMPI_RC_ERROR_SYSTEM");
+    for (int undefined : {0, 18, 19, 29, 250, -1})
+        EXPECT_STREQ(CimError::codeName(undefined), "CIM_ERR_FAILED") << undefined;
+    EXPECT_STREQ(CimError(CMPI_RC_ERR_ACCESS_DENIED, "no").what(), "CIM_ERR_ACCESS_DENIED: no");
+}
