@@ -20,12 +20,10 @@
 
 namespace QLN {
 
-void QLNVeldraProvider::_createAllEnclosureInstances(int number, VeldraController* controller,
-                                                     QLN_VDArraySystem* arraySystem,
-                                                     QLN_VDPhysicalPackage* physicalPackage,
-                                                     std::vector<VeldraEnclosure> const& enclosures,
-                                                     std::vector<CageEntry>& cages,
-                                                     std::vector<CmpiManagedInstance*>& newInstances) {
+void QLNVeldraProvider::_createAllEnclosureInstances(
+    int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
+    QLN_VDPhysicalPackage* physicalPackage, std::vector<VeldraEnclosure> const& enclosures,
+    std::vector<CageEntry>& cages, std::vector<CmpiManagedInstance*>& newInstances) {
     std::string const ns = "root/mwq";
     unsigned int const index = static_cast<unsigned int>(number);
     auto add = [&newInstances](auto* instance) {
@@ -34,20 +32,28 @@ void QLNVeldraProvider::_createAllEnclosureInstances(int number, VeldraControlle
     };
     _logger.info("_createAllEnclosureInstances");
     for (VeldraEnclosure const& enclosure : enclosures) {
-        auto* storageEnclosure = add(new QLN_VDStorageEnclosure(_logger, ns, index, enclosure, controller));
-        add(new QLN_VDPhysicalPackageStorageEnclosure(_logger, ns, physicalPackage, storageEnclosure));
-        auto* location = add(new QLN_VDStorageEnclosureLocation(_logger, ns, index, enclosure, controller));
+        auto* storageEnclosure =
+            add(new QLN_VDStorageEnclosure(_logger, ns, index, enclosure, controller));
+        add(new QLN_VDPhysicalPackageStorageEnclosure(_logger, ns, physicalPackage,
+                                                      storageEnclosure));
+        auto* location =
+            add(new QLN_VDStorageEnclosureLocation(_logger, ns, index, enclosure, controller));
         add(new QLN_VDStorageEnclosureEnclosureLocation(_logger, ns, storageEnclosure, location));
-        auto* processor = add(new QLN_VDStorageEnclosureProcessor(_logger, ns, index, enclosure, controller));
-        add(new QLN_VDStorageEnclosureStorageEnclosureProcessor(_logger, ns, storageEnclosure, processor));
+        auto* processor =
+            add(new QLN_VDStorageEnclosureProcessor(_logger, ns, index, enclosure, controller));
+        add(new QLN_VDStorageEnclosureStorageEnclosureProcessor(_logger, ns, storageEnclosure,
+                                                                processor));
         add(new QLN_VDArraySystemStorageEnclosureProcessor(_logger, ns, arraySystem, processor));
         if (!enclosure.getFWVersion().empty()) {
-            auto* firmware = add(new QLN_VDEnclosureFirmware(_logger, ns, index, enclosure, controller));
-            add(new QLN_VDStorageEnclosureProcessorEnclosureFirmware(_logger, ns, processor, firmware));
+            auto* firmware =
+                add(new QLN_VDEnclosureFirmware(_logger, ns, index, enclosure, controller));
+            add(new QLN_VDStorageEnclosureProcessorEnclosureFirmware(_logger, ns, processor,
+                                                                     firmware));
         }
         auto* cage = add(new QLN_VDDriveCage(_logger, ns, index, enclosure, controller));
         cages.push_back(CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
-        auto* cageLocation = add(new QLN_VDDriveCageLocation(_logger, ns, index, enclosure, controller));
+        auto* cageLocation =
+            add(new QLN_VDDriveCageLocation(_logger, ns, index, enclosure, controller));
         add(new QLN_VDDriveCageDriveCageLocation(_logger, ns, cage, cageLocation));
         add(new QLN_VDStorageEnclosureDriveCage(_logger, ns, storageEnclosure, cage));
     }

@@ -3,6 +3,7 @@
 // associations, and the storage group over all array systems.
 #include "QLNVeldraProvider.h"
 
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "QLN_VDArrayController.h"
 #include "QLN_VDArrayControllerLocation.h"
@@ -57,7 +58,6 @@
 #include "QLN_VDStorageSpecificCollection.h"
 #include "QLN_VDStorageSpecificCollectionArraySystem.h"
 #include "QLN_VDStorageVolume.h"
-#include "IdentityHelpers.h"
 
 namespace QLN {
 
@@ -103,13 +103,14 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         _logger.info("all physicals right after getFirst: %d", static_cast<int>(physicals.size()));
         for (std::size_t i = 0; i < physicals.size(); ++i) {
             std::vector<VeldraPhysicalPath> paths = physicals[i].getPaths();
-            _logger.info("previous paths for physical right after getFirst %d: %d", static_cast<int>(i),
-                         static_cast<int>(paths.size()));
+            _logger.info("previous paths for physical right after getFirst %d: %d",
+                         static_cast<int>(i), static_cast<int>(paths.size()));
             physicals[i].setLastAllPhysicalPaths(paths);
         }
         controller->setLastAllPhysicalDisks(physicals);
         for (std::size_t i = 0; i < logicals.size(); ++i) {
-            _logger.info("previous physicals for logical right after getFirst %d: %d", static_cast<int>(i),
+            _logger.info("previous physicals for logical right after getFirst %d: %d",
+                         static_cast<int>(i),
                          static_cast<int>(logicals[i].getLastAllPhysicalDisks().size()));
             std::vector<VeldraPhysicalDisk> members = logicals[i].logicalToAllPhysicals(physicals);
             logicals[i].setLastAllPhysicalDisks(members);
@@ -124,8 +125,8 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         std::vector<VeldraEnclosure> enclosures = controller->getAllEnclosures();
         for (std::size_t i = 0; i < enclosures.size(); ++i) {
             std::vector<VeldraPhysicalPath> paths = enclosures[i].getPaths();
-            _logger.info("previous paths for enclosure right after getFirst %d: %d", static_cast<int>(i),
-                         static_cast<int>(paths.size()));
+            _logger.info("previous paths for enclosure right after getFirst %d: %d",
+                         static_cast<int>(i), static_cast<int>(paths.size()));
             enclosures[i].setLastAllPhysicalPaths(paths);
         }
         controller->setLastAllEnclosures(enclosures);
@@ -149,22 +150,29 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         add(new QLN_VDFirmwareArraySystem(_logger, ns, firmware, arraySystem));
         add(new QLN_VDArraySystemFirmware(_logger, ns, arraySystem, firmware));
         auto* portController = add(new QLN_VDPortController(_logger, ns, index, controller));
-        add(new QLN_VDPortControllerPCIDevice(_logger, ns, makePCIDevicePath(data), portController));
+        add(new QLN_VDPortControllerPCIDevice(_logger, ns, makePCIDevicePath(data),
+                                              portController));
         add(new QLN_VDArraySystemPortController(_logger, ns, arraySystem, portController));
         add(new QLN_VDPhysicalPackagePortController(_logger, ns, physicalPackage, portController));
-        add(new QLN_VDComputerSystemPortController(_logger, ns, computerSystemPath, portController));
+        add(new QLN_VDComputerSystemPortController(_logger, ns, computerSystemPath,
+                                                   portController));
         auto* product = add(new QLN_VDProduct(_logger, ns, index, controller));
         add(new QLN_VDProductPhysicalPackage(_logger, ns, product, physicalPackage));
         auto* systemLocation = add(new QLN_VDArraySystemLocation(_logger, ns, index, controller));
-        add(new QLN_VDPhysicalPackageArraySystemLocation(_logger, ns, physicalPackage, systemLocation));
+        add(new QLN_VDPhysicalPackageArraySystemLocation(_logger, ns, physicalPackage,
+                                                         systemLocation));
         auto* arrayController = add(new QLN_VDArrayController(_logger, ns, index, controller));
         add(new QLN_VDArraySystemArrayController(_logger, ns, arraySystem, arrayController));
-        auto* controllerPackage = add(new QLN_VDArrayControllerPhysicalPackage(_logger, ns, index, controller));
-        add(new QLN_VDArrayControllerPhysicalPackageArrayController(_logger, ns, controllerPackage, arrayController));
-        add(new QLN_VDPhysicalPackageArrayControllerPhysicalPackage(_logger, ns, physicalPackage, controllerPackage));
-        auto* controllerLocation = add(new QLN_VDArrayControllerLocation(_logger, ns, index, controller));
-        add(new QLN_VDArrayControllerPhysicalPackageArrayControllerLocation(_logger, ns, controllerPackage,
-                                                                           controllerLocation));
+        auto* controllerPackage =
+            add(new QLN_VDArrayControllerPhysicalPackage(_logger, ns, index, controller));
+        add(new QLN_VDArrayControllerPhysicalPackageArrayController(_logger, ns, controllerPackage,
+                                                                    arrayController));
+        add(new QLN_VDPhysicalPackageArrayControllerPhysicalPackage(_logger, ns, physicalPackage,
+                                                                    controllerPackage));
+        auto* controllerLocation =
+            add(new QLN_VDArrayControllerLocation(_logger, ns, index, controller));
+        add(new QLN_VDArrayControllerPhysicalPackageArrayControllerLocation(
+            _logger, ns, controllerPackage, controllerLocation));
         _logger.info("internalVDControllerNumber = %d", number);
 
         auto* daPort = add(new QLN_VDDAPort(_logger, ns, index, controller));
@@ -172,13 +180,18 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         auto* endpoint = add(new QLN_VDSCSIProtocolEndpoint(_logger, ns, index, controller));
         add(new QLN_VDArraySystemSCSIProtocolEndpoint(_logger, ns, arraySystem, endpoint));
         add(new QLN_VDDAPortSCSIProtocolEndpoint(_logger, ns, daPort, endpoint));
-        auto* protocolController = add(new QLN_VDSCSIProtocolController(_logger, ns, index, controller));
-        add(new QLN_VDArraySystemSCSIProtocolController(_logger, ns, arraySystem, protocolController));
-        add(new QLN_VDSCSIProtocolEndpointSCSIProtocolController(_logger, ns, endpoint, protocolController));
+        auto* protocolController =
+            add(new QLN_VDSCSIProtocolController(_logger, ns, index, controller));
+        add(new QLN_VDArraySystemSCSIProtocolController(_logger, ns, arraySystem,
+                                                        protocolController));
+        add(new QLN_VDSCSIProtocolEndpointSCSIProtocolController(_logger, ns, endpoint,
+                                                                 protocolController));
         auto* primordialPool = add(new QLN_VDPrimordialPool(_logger, ns, index, controller));
         array.setArrayID("");
-        auto* primordialCapabilities = add(new QLN_VDStorageCapabilities(_logger, ns, index, array, controller));
-        add(new QLN_VDPrimordialPoolStorageCapabilities(_logger, ns, primordialPool, primordialCapabilities));
+        auto* primordialCapabilities =
+            add(new QLN_VDStorageCapabilities(_logger, ns, index, array, controller));
+        add(new QLN_VDPrimordialPoolStorageCapabilities(_logger, ns, primordialPool,
+                                                        primordialCapabilities));
         add(new QLN_VDArraySystemPrimordialPool(_logger, ns, arraySystem, primordialPool));
 
         // The one concrete pool: every controller has exactly one, array id "1".
@@ -198,7 +211,8 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             entry.setLastDataDisks(dataDisks);
             entry.setLastSpareDisks(spareDisks);
             auto* pool = add(new QLN_VDStoragePool(_logger, ns, index, entry, controller));
-            auto* capabilities = add(new QLN_VDStorageCapabilities(_logger, ns, index, entry, controller));
+            auto* capabilities =
+                add(new QLN_VDStorageCapabilities(_logger, ns, index, entry, controller));
             add(new QLN_VDStoragePoolStorageCapabilities(_logger, ns, pool, capabilities));
             add(new QLN_VDArraySystemStoragePool(_logger, ns, arraySystem, pool));
             add(new QLN_VDPrimordialPoolStoragePool(_logger, ns, primordialPool, pool, controller));
@@ -211,9 +225,11 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             for (std::string const& port : ports) {
                 auto* sasPort = add(new QLN_VDISASPort(_logger, ns, index, controller, port));
                 add(new QLN_VDArraySystemISASPort(_logger, ns, arraySystem, sasPort));
-                auto* initiator = add(new QLN_VDISASSCSIProtocolEndpoint(_logger, ns, index, controller, port));
+                auto* initiator =
+                    add(new QLN_VDISASSCSIProtocolEndpoint(_logger, ns, index, controller, port));
                 initiatorEndpoints.push_back(initiator);
-                add(new QLN_VDArraySystemISASSCSIProtocolEndpoint(_logger, ns, arraySystem, initiator));
+                add(new QLN_VDArraySystemISASSCSIProtocolEndpoint(_logger, ns, arraySystem,
+                                                                  initiator));
                 add(new QLN_VDISASPortISASSCSIProtocolEndpoint(_logger, ns, sasPort, initiator));
                 add(new QLN_VDPortControllerISASPort(_logger, ns, portController, sasPort));
             }
@@ -237,20 +253,22 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         };
         _logger.info("managedInstances size %d:", static_cast<int>(newInstances.size()));
         _logger.info("before _createAllEnclosureInstances");
-        _createAllEnclosureInstances(number, controller, arraySystem, physicalPackage, enclosures, cages,
-                                     newInstances);
+        _createAllEnclosureInstances(number, controller, arraySystem, physicalPackage, enclosures,
+                                     cages, newInstances);
         handOver(true);
         _logger.info("before _createAllPhysicalDiskInstances");
         logPathSizes();
-        _createAllPhysicalDiskInstances(number, controller, physicals, arraySystem, pools, arrays, cages,
-                                        initiatorEndpoints, sparePaths, nonSparePaths, newInstances);
+        _createAllPhysicalDiskInstances(number, controller, physicals, arraySystem, pools, arrays,
+                                        cages, initiatorEndpoints, sparePaths, nonSparePaths,
+                                        newInstances);
         _logger.info("after _createAllPhysicalDiskInstances");
         logPathSizes();
         handOver(true);
         _logger.info("before _createAllLogicalDiskInstances");
         logPathSizes();
-        _createAllLogicalDiskInstances(number, controller, logicals, arraySystem, protocolController, pools,
-                                       sparePaths, nonSparePaths, newInstances);
+        _createAllLogicalDiskInstances(number, controller, logicals, arraySystem,
+                                       protocolController, pools, sparePaths, nonSparePaths,
+                                       newInstances);
         _logger.info("after _createAllLogicalDiskInstances");
         handOver(false);
         logPathSizes();
@@ -281,7 +299,8 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         auto* collection = add(new QLN_VDStorageSpecificCollection(_logger, ns));
         add(new QLN_VDStorageGroupHostedCollection(_logger, ns, computerSystemPath, collection));
         for (QLN_VDArraySystem* arraySystem : arraySystems) {
-            add(new QLN_VDStorageSpecificCollectionArraySystem(_logger, ns, collection, arraySystem));
+            add(new QLN_VDStorageSpecificCollectionArraySystem(_logger, ns, collection,
+                                                               arraySystem));
         }
     }
 }

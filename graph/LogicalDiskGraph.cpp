@@ -30,14 +30,12 @@ bool matches(VeldraPhysicalDisk const& disk, ExtentEntry const& entry) {
 }
 } // namespace
 
-void QLNVeldraProvider::_createAllLogicalDiskInstances(int number, VeldraController* controller,
-                                                       std::vector<VeldraLogicalDisk> const& logicals,
-                                                       QLN_VDArraySystem* arraySystem,
-                                                       QLN_VDSCSIProtocolController* protocolController,
-                                                       std::vector<PoolEntry> const& pools,
-                                                       std::vector<ExtentEntry> const& sparePaths,
-                                                       std::vector<ExtentEntry> const& nonSparePaths,
-                                                       std::vector<CmpiManagedInstance*>& newInstances) {
+void QLNVeldraProvider::_createAllLogicalDiskInstances(
+    int number, VeldraController* controller, std::vector<VeldraLogicalDisk> const& logicals,
+    QLN_VDArraySystem* arraySystem, QLN_VDSCSIProtocolController* protocolController,
+    std::vector<PoolEntry> const& pools, std::vector<ExtentEntry> const& sparePaths,
+    std::vector<ExtentEntry> const& nonSparePaths,
+    std::vector<CmpiManagedInstance*>& newInstances) {
     std::string const ns = "root/mwq";
     unsigned int const index = static_cast<unsigned int>(number);
     auto add = [&newInstances](auto* instance) {
@@ -62,23 +60,26 @@ void QLNVeldraProvider::_createAllLogicalDiskInstances(int number, VeldraControl
         auto* volume = add(new QLN_VDStorageVolume(_logger, ns, index, logical, controller));
         add(new QLN_VDArraySystemStorageVolume(_logger, ns, arraySystem, volume));
         add(new QLN_VDSCSIProtocolControllerStorageVolume(_logger, ns, protocolController, volume,
-                                                         logical.getLogicalVolumeNumber()));
+                                                          logical.getLogicalVolumeNumber()));
         auto* setting = add(new QLN_VDStorageSetting(_logger, ns, index, logical, controller));
         add(new QLN_VDStorageVolumeStorageSetting(_logger, ns, volume, setting));
         for (PoolEntry const& entry : pools) {
             if (entry.arrayID == "1") {
-                add(new QLN_VDStoragePoolStorageVolume(_logger, ns, entry.pool, volume, controller));
+                add(new QLN_VDStoragePoolStorageVolume(_logger, ns, entry.pool, volume,
+                                                       controller));
             }
         }
 
-        _logger.info("num physical disks %d for logical %d:", static_cast<int>(members.size()), logicalIndex);
+        _logger.info("num physical disks %d for logical %d:", static_cast<int>(members.size()),
+                     logicalIndex);
         for (std::size_t e = 0; e < nonSparePaths.size(); ++e) {
             ExtentEntry const& entry = nonSparePaths[e];
             for (std::size_t d = 0; d < members.size(); ++d) {
                 if (!matches(members[d], entry)) {
                     continue;
                 }
-                _logger.info("non spare %d match phys %d:", static_cast<int>(e), static_cast<int>(d));
+                _logger.info("non spare %d match phys %d:", static_cast<int>(e),
+                             static_cast<int>(d));
                 _logger.info("non spare serial %s, path %s", entry.serialNumber.c_str(),
                              pathsToUserStr(entry.paths, -1).c_str());
                 _logger.info("phys serial %s, path %s", members[d].getSerialNumber().c_str(),
@@ -95,22 +96,26 @@ void QLNVeldraProvider::_createAllLogicalDiskInstances(int number, VeldraControl
                     continue;
                 }
                 if (redundancySet == nullptr) {
-                    redundancySet = add(new QLN_VDStorageRedundancySet(_logger, ns, index, logical, controller));
+                    redundancySet = add(
+                        new QLN_VDStorageRedundancySet(_logger, ns, index, logical, controller));
                 }
-                add(new QLN_VDSpareExtentStorageRedundancySet(_logger, ns, spare.extent, redundancySet));
+                add(new QLN_VDSpareExtentStorageRedundancySet(_logger, ns, spare.extent,
+                                                              redundancySet));
                 u32 const replaced = logical.getReplacedDiskID(member.getId());
                 if (replaced == noReplacedDisk) {
                     continue;
                 }
-                _logger.info("spared disk id %d for disk %d for logical %d:", static_cast<int>(replaced),
-                             static_cast<int>(member.getId()), logicalIndex);
+                _logger.info(
+                    "spared disk id %d for disk %d for logical %d:", static_cast<int>(replaced),
+                    static_cast<int>(member.getId()), logicalIndex);
                 for (VeldraPhysicalDisk const& stoodIn : members) {
                     if (stoodIn.getId() != replaced) {
                         continue;
                     }
                     for (ExtentEntry const& data : nonSparePaths) {
                         if (matches(stoodIn, data)) {
-                            add(new QLN_VDSpareExtentStorageExtent(_logger, ns, spare.extent, data.extent));
+                            add(new QLN_VDSpareExtentStorageExtent(_logger, ns, spare.extent,
+                                                                   data.extent));
                             break;
                         }
                     }
@@ -121,7 +126,8 @@ void QLNVeldraProvider::_createAllLogicalDiskInstances(int number, VeldraControl
             for (ExtentEntry const& entry : nonSparePaths) {
                 for (VeldraPhysicalDisk const& member : members) {
                     if (matches(member, entry)) {
-                        add(new QLN_VDStorageRedundancySetStorageExtent(_logger, ns, redundancySet, entry.extent));
+                        add(new QLN_VDStorageRedundancySetStorageExtent(_logger, ns, redundancySet,
+                                                                        entry.extent));
                     }
                 }
             }

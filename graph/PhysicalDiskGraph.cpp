@@ -44,8 +44,9 @@ u32 const carrierAuthenticated = 2;
 
 void QLNVeldraProvider::_createAllPhysicalDiskInstances(
     int number, VeldraController* controller, std::vector<VeldraPhysicalDisk> const& physicals,
-    QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools, std::vector<VeldraCFUArray> const&,
-    std::vector<CageEntry> const& cages, std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
+    QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
+    std::vector<VeldraCFUArray> const&, std::vector<CageEntry> const& cages,
+    std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
     std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
     std::vector<CmpiManagedInstance*>& newInstances) {
     std::string const ns = "root/mwq";
@@ -72,10 +73,11 @@ void QLNVeldraProvider::_createAllPhysicalDiskInstances(
         std::vector<VeldraPhysicalPath> const paths = disk.getLastAllPhysicalPaths();
         for (std::size_t k = 0; k < paths.size(); ++k) {
             int const pathIndex = static_cast<int>(k);
-            auto* port = add(new QLN_VDTSASPort(_logger, ns, index, disk, paths[k], pathIndex, controller));
+            auto* port =
+                add(new QLN_VDTSASPort(_logger, ns, index, disk, paths[k], pathIndex, controller));
             add(new QLN_VDArraySystemTSASPort(_logger, ns, arraySystem, port));
-            auto* target =
-                add(new QLN_VDTSASSCSIProtocolEndpoint(_logger, ns, index, disk, paths[k], pathIndex, controller));
+            auto* target = add(new QLN_VDTSASSCSIProtocolEndpoint(_logger, ns, index, disk,
+                                                                  paths[k], pathIndex, controller));
             add(new QLN_VDArraySystemTSASSCSIProtocolEndpoint(_logger, ns, arraySystem, target));
             add(new QLN_VDTSASPortTSASSCSIProtocolEndpoint(_logger, ns, port, target));
             add(new QLN_VDDiskDriveTSASSCSIProtocolEndpoint(_logger, ns, drive, target));
@@ -98,8 +100,9 @@ void QLNVeldraProvider::_createAllPhysicalDiskInstances(
                 }
             }
         }
-        ExtentEntry const extentEntry{disk.getSerialNumber(), paths, disk.getEnclosureBoxNumber(),
-                                      disk.getBay(), disk.getId(), extent};
+        ExtentEntry const extentEntry{
+            disk.getSerialNumber(), paths,        disk.getEnclosureBoxNumber(),
+            disk.getBay(),          disk.getId(), extent};
         if (disk.getConfiguration() == PD_CONFIG_SPARE) {
             sparePaths.push_back(extentEntry);
         } else if (disk.getConfiguration() == PD_CONFIG_DATA) {
@@ -111,12 +114,16 @@ void QLNVeldraProvider::_createAllPhysicalDiskInstances(
             auto* firmware = add(new QLN_VDDiskDriveFirmware(_logger, ns, index, disk, controller));
             add(new QLN_VDDiskDriveDiskDriveFirmware(_logger, ns, drive, firmware));
             if (disk.getLumenCarrierAuthStatus() == carrierAuthenticated) {
-                auto* app = add(new QLN_VDLumenDriveCarrierAppFirmware(_logger, ns, index, disk, controller));
+                auto* app = add(
+                    new QLN_VDLumenDriveCarrierAppFirmware(_logger, ns, index, disk, controller));
                 add(new QLN_VDLumenDrvCarrierAppElementFirmwareIdentity(_logger, ns, app, drive));
                 add(new QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity(_logger, ns, drive, app));
-                auto* boot = add(new QLN_VDLumenDriveCarrierBootldrFirmware(_logger, ns, index, disk, controller));
-                add(new QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity(_logger, ns, boot, drive));
-                add(new QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity(_logger, ns, drive, boot));
+                auto* boot = add(new QLN_VDLumenDriveCarrierBootldrFirmware(_logger, ns, index,
+                                                                            disk, controller));
+                add(new QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity(_logger, ns, boot,
+                                                                            drive));
+                add(new QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity(_logger, ns, drive,
+                                                                              boot));
             }
         }
 
@@ -130,7 +137,8 @@ void QLNVeldraProvider::_createAllPhysicalDiskInstances(
         auto* location = add(new QLN_VDDiskDriveLocation(_logger, ns, index, disk, controller));
         add(new QLN_VDDiskPhysicalPackageDiskDriveLocation(_logger, ns, package, location));
         if (disk.hasMNPData()) {
-            auto* statistics = add(new QLN_VDMediaAccessStatData(_logger, ns, index, disk, controller));
+            auto* statistics =
+                add(new QLN_VDMediaAccessStatData(_logger, ns, index, disk, controller));
             add(new QLN_VDDiskDriveMediaAccessStatData(_logger, ns, drive, statistics));
         }
     }

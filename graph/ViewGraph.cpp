@@ -27,22 +27,25 @@ void QLNVeldraProvider::_createViewClassInstances(int number, VeldraController* 
     }
     auto const index = static_cast<unsigned int>(number);
     VeldraControllerData const data = controller->getVDData();
-    _managedInstances.createInstance(new DRSV_VDController(_logger, viewNameSpace, index, controller));
-    _managedInstances.createInstance(new DRSV_VDControllerFirmware(_logger, viewNameSpace, index, controller));
+    _managedInstances.createInstance(
+        new DRSV_VDController(_logger, viewNameSpace, index, controller));
+    _managedInstances.createInstance(
+        new DRSV_VDControllerFirmware(_logger, viewNameSpace, index, controller));
     cacheHasBatteryEnum hasBattery = CACHE_BATTERY_ABSENT;
     if (data.getCacheHasBattery(hasBattery) == 0 && hasBattery == CACHE_BATTERY_PRESENT) {
-        _managedInstances.createInstance(new DRSV_VDBattery(_logger, viewNameSpace, index, controller));
+        _managedInstances.createInstance(
+            new DRSV_VDBattery(_logger, viewNameSpace, index, controller));
     }
     std::vector<VeldraLogicalDisk> logicals;
     controller->getLastLogicalDisks(logicals);
     for (std::size_t i = 0; i < logicals.size(); ++i) {
-        _managedInstances.createInstance(
-            new DRSV_VDStorageVolume(_logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
+        _managedInstances.createInstance(new DRSV_VDStorageVolume(
+            _logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
     }
     std::vector<VeldraPhysicalDisk> const physicals = controller->getAllPhysicalDisks();
     for (std::size_t i = 0; i < physicals.size(); ++i) {
-        _managedInstances.createInstance(
-            new DRSV_VDStorageExtent(_logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
+        _managedInstances.createInstance(new DRSV_VDStorageExtent(
+            _logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
     }
 }
 
@@ -69,9 +72,10 @@ void QLNVeldraProvider::_updateViewClassInstances() {
         return;
     }
     auto rescanned = [&rescan](ViewInstance const* instance) {
-        return std::any_of(rescan.begin(), rescan.end(), [instance](DRSV_VDController const* controller) {
-            return instance->isMyControllerIndex(controller->getControllerIndex());
-        });
+        return std::any_of(
+            rescan.begin(), rescan.end(), [instance](DRSV_VDController const* controller) {
+                return instance->isMyControllerIndex(controller->getControllerIndex());
+            });
     };
 
     // Extents first, then volumes. A new instance whose DeviceID an old one
@@ -84,12 +88,12 @@ void QLNVeldraProvider::_updateViewClassInstances() {
         }
     }
     for (DRSV_VDController const* controller : rescan) {
-        std::vector<VeldraPhysicalDisk> const physicals = controller->getController()->getAllPhysicalDisks();
+        std::vector<VeldraPhysicalDisk> const physicals =
+            controller->getController()->getAllPhysicalDisks();
         for (std::size_t i = 0; i < physicals.size(); ++i) {
-            _managedInstances.createInstance(new DRSV_VDStorageExtent(_logger, viewNameSpace,
-                                                                      controller->getControllerIndex(),
-                                                                      static_cast<unsigned int>(i),
-                                                                      controller->getController()));
+            _managedInstances.createInstance(new DRSV_VDStorageExtent(
+                _logger, viewNameSpace, controller->getControllerIndex(),
+                static_cast<unsigned int>(i), controller->getController()));
         }
     }
 
@@ -101,10 +105,9 @@ void QLNVeldraProvider::_updateViewClassInstances() {
     }
     for (DRSV_VDController const* controller : rescan) {
         for (auto const& logical : controller->getController()->getAllLogicalDisks()) {
-            _managedInstances.createInstance(new DRSV_VDStorageVolume(_logger, viewNameSpace,
-                                                                      controller->getControllerIndex(),
-                                                                      logical.getLogicalVolumeNumber(),
-                                                                      controller->getController()));
+            _managedInstances.createInstance(new DRSV_VDStorageVolume(
+                _logger, viewNameSpace, controller->getControllerIndex(),
+                logical.getLogicalVolumeNumber(), controller->getController()));
         }
     }
 

@@ -12,8 +12,8 @@
 #include "QLN_AutoStartVeldra.h"
 #include "cmpift.h"
 
-#include <pthread.h>
 #include <map>
+#include <pthread.h>
 #include <string>
 
 using CmpiCpp::CmpiBroker;
@@ -38,7 +38,8 @@ CmpiProvider* createPerfmonProvider(CmpiBroker const& broker, Logger& logger) {
 
 CmpiProvider* createAutostartProvider(CmpiBroker const& broker, Logger& logger) {
     QLN::CmpiManagedInstance* autostart = new QLN::QLN_AutoStartVeldra(logger, providerNameSpace);
-    QLN::ProviderFactory inner = QLN::QLNUtil::PerfmonEnabled() ? createPerfmonProvider : createVeldraProvider;
+    QLN::ProviderFactory inner =
+        QLN::QLNUtil::PerfmonEnabled() ? createPerfmonProvider : createVeldraProvider;
     return new QLN::AutostartDecorator(broker, logger, autostart, inner);
 }
 
@@ -52,11 +53,13 @@ CmpiProvider* createLoggedProvider(CMPIBroker const* broker, CMPIContext const*,
     return new QLN::LoggedProvider(wrapped, providerLogger, createAutostartProvider);
 }
 
-CmpiProvider* findOrCreateProvider(CMPIBroker const* broker, CMPIContext const* context, char const* name) {
+CmpiProvider* findOrCreateProvider(CMPIBroker const* broker, CMPIContext const* context,
+                                   char const* name) {
     // Does not own the providers; the object managers' references do.
     static std::map<std::string, CmpiProvider*> providerRegistry;
-    return QLN::ProviderEntry::findOrCreate(providerRegistry, providerRegistryMutex, name,
-                                            [&] { return createLoggedProvider(broker, context, name); });
+    return QLN::ProviderEntry::findOrCreate(providerRegistry, providerRegistryMutex, name, [&] {
+        return createLoggedProvider(broker, context, name);
+    });
 }
 
 } // namespace

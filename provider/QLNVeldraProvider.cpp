@@ -1,14 +1,14 @@
 #include "QLNVeldraProvider.h"
 
-#include "QLN_VDArraySystem.h"
-#include "QLN_VDDiskDrive.h"
-#include "QLN_VDStorageVolume.h"
 #include "CmpiBroker.h"
 #include "CmpiObjectPath.h"
 #include "CmpiStatus.h"
+#include "ProviderLock.h"
 #include "QLNPhysloc.h"
 #include "QLNUtil.h"
-#include "ProviderLock.h"
+#include "QLN_VDArraySystem.h"
+#include "QLN_VDDiskDrive.h"
+#include "QLN_VDStorageVolume.h"
 
 #include <stdexcept>
 
@@ -39,11 +39,12 @@ QLNVeldraProvider::QLNVeldraProvider(CmpiCpp::CmpiBroker const& broker, Logger& 
     QLNUtil::setBroker(broker);
     // Association filters name classes such as CIM_ManagedElement; only the
     // object manager knows which of ours descend from them.
-    _managedInstances.setClassTest([](std::string const& nameSpace, CmpiName const& className,
-                                      CmpiName const& filter) {
-        CmpiCpp::CmpiBroker const current(QLNUtil::getBroker());
-        return current.classPathIsA(CmpiCpp::makeCmpiObjectPath(current, nameSpace, className), filter);
-    });
+    _managedInstances.setClassTest(
+        [](std::string const& nameSpace, CmpiName const& className, CmpiName const& filter) {
+            CmpiCpp::CmpiBroker const current(QLNUtil::getBroker());
+            return current.classPathIsA(CmpiCpp::makeCmpiObjectPath(current, nameSpace, className),
+                                        filter);
+        });
     _logger = logger;
     pthread_mutex_init(&_providerMutex, nullptr);
     _indicationsEnabled = false;
@@ -90,19 +91,22 @@ void QLNVeldraProvider::getInstance(CmpiContext const& context, CmpiObjectPath c
     }
 }
 
-CmpiCpp::CmpiBroker QLNVeldraProvider::getBroker() { return CmpiCpp::CmpiBroker(QLNUtil::getBroker()); }
+CmpiCpp::CmpiBroker QLNVeldraProvider::getBroker() {
+    return CmpiCpp::CmpiBroker(QLNUtil::getBroker());
+}
 
 // Unloading is the destructor's work alone.
 void QLNVeldraProvider::cleanup(CmpiContext const&, bool) {}
 
 void QLNVeldraProvider::associators(CmpiContext const& context, CmpiObjectPath const& path,
-                                    CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
-                                    CmpiName const& resultRole, char const** properties,
-                                    CmpiInstanceResult& result) {
+                                    CmpiName const& assocClass, CmpiName const& resultClass,
+                                    CmpiName const& role, CmpiName const& resultRole,
+                                    char const** properties, CmpiInstanceResult& result) {
     CmpiManagedInstanceCollection::Associators answer;
     {
         ProviderLock lock(_providerMutex);
-        answer = _managedInstances.findAssociators(path, assocClass, resultClass, role, resultRole, properties);
+        answer = _managedInstances.findAssociators(path, assocClass, resultClass, role, resultRole,
+                                                   properties);
     }
     // Far ends of other providers are asked for after the unlock: the object
     // manager may route such a request back into this provider.
@@ -117,12 +121,13 @@ void QLNVeldraProvider::associatorNames(CmpiContext const& context, CmpiObjectPa
                                         CmpiName const& role, CmpiName const& resultRole,
                                         CmpiObjectPathResult& result) {
     ProviderLock lock(_providerMutex);
-    _managedInstances.associatorNames(result, context, path, assocClass, resultClass, role, resultRole);
+    _managedInstances.associatorNames(result, context, path, assocClass, resultClass, role,
+                                      resultRole);
 }
 
 void QLNVeldraProvider::references(CmpiContext const& context, CmpiObjectPath const& path,
-                                   CmpiName const& resultClass, CmpiName const& role, char const** properties,
-                                   CmpiInstanceResult& result) {
+                                   CmpiName const& resultClass, CmpiName const& role,
+                                   char const** properties, CmpiInstanceResult& result) {
     ProviderLock lock(_providerMutex);
     _managedInstances.references(result, context, path, resultClass, role, properties);
 }
@@ -150,12 +155,17 @@ void QLNVeldraProvider::activateFilter(CmpiContext const&, CmpiSelectExp const&,
 void QLNVeldraProvider::deActivateFilter(CmpiContext const&, CmpiSelectExp const&, CmpiName const&,
                                          CmpiObjectPath const&, bool) {}
 
-void QLNVeldraProvider::enableIndications() { _indicationsEnabled = true; }
+void QLNVeldraProvider::enableIndications() {
+    _indicationsEnabled = true;
+}
 
-void QLNVeldraProvider::disableIndications() { _indicationsEnabled = false; }
+void QLNVeldraProvider::disableIndications() {
+    _indicationsEnabled = false;
+}
 
 void QLNVeldraProvider::invokeMethod(CmpiContext const& context, CmpiObjectPath const& path,
-                                     CmpiName const& method, CmpiArgs const& in, CmpiMethodResult& result) {
+                                     CmpiName const& method, CmpiArgs const& in,
+                                     CmpiMethodResult& result) {
     std::uint32_t outcome = 0;
     if (method == CmpiName(performWork)) {
         outcome = _backgroundWorker(context);
@@ -165,7 +175,9 @@ void QLNVeldraProvider::invokeMethod(CmpiContext const& context, CmpiObjectPath 
     result.returnData(outcome);
 }
 
-int QLNVeldraProvider::getProviderKind() { return 2; }
+int QLNVeldraProvider::getProviderKind() {
+    return 2;
+}
 
 std::vector<std::string> QLNVeldraProvider::instancePaths() const {
     ProviderLock lock(_providerMutex);
@@ -179,7 +191,8 @@ std::vector<std::string> QLNVeldraProvider::instancePaths() const {
 // An instance found under a method class's name that is not of that class
 // is as good as not found.
 template <typename MethodClass>
-std::uint32_t QLNVeldraProvider::_invokeOn(CmpiManagedInstance* instance, CmpiName const& method, CmpiArgs const& in) {
+std::uint32_t QLNVeldraProvider::_invokeOn(CmpiManagedInstance* instance, CmpiName const& method,
+                                           CmpiArgs const& in) {
     auto* target = dynamic_cast<MethodClass*>(instance);
     if (target == nullptr) {
         throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND);
@@ -189,7 +202,8 @@ std::uint32_t QLNVeldraProvider::_invokeOn(CmpiManagedInstance* instance, CmpiNa
 
 // No lock on purpose: methods run beside reads and beside the worker, and
 // the collection guards its own lookups.
-std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path, CmpiName const& method,
+std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& path,
+                                                         CmpiName const& method,
                                                          CmpiArgs const& in) {
     std::uint32_t const outcome = CmpiManagedInstance::methodNotFound;
     CmpiName const className = path.getClassName();
@@ -200,7 +214,8 @@ std::uint32_t QLNVeldraProvider::_invokeMethodOnInstance(CmpiObjectPath const& p
         return outcome;
     }
     // Held, not borrowed: a worker pass may delete the instance meanwhile.
-    std::shared_ptr<CmpiManagedInstance> const instance = _managedInstances.shareManagedInstance(path);
+    std::shared_ptr<CmpiManagedInstance> const instance =
+        _managedInstances.shareManagedInstance(path);
     if (instance == nullptr) {
         return outcome;
     }

@@ -10,13 +10,13 @@
 #include "CmpiMethodProvider.h"
 #include "GraphEntries.h"
 #include "InternalVeldraControllerMRA.h"
-#include "VeldraCFUArray.h"
 #include "Logger.h"
+#include "VeldraCFUArray.h"
 
-#include <pthread.h>
 #include <atomic>
-#include <memory>
 #include <cstdint>
+#include <memory>
+#include <pthread.h>
 #include <string>
 #include <vector>
 
@@ -51,15 +51,15 @@ public:
 
     void associators(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                      CmpiCpp::CmpiName const& assocClass, CmpiCpp::CmpiName const& resultClass,
-                     CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole, char const** properties,
-                     CmpiCpp::CmpiInstanceResult& result) override;
+                     CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole,
+                     char const** properties, CmpiCpp::CmpiInstanceResult& result) override;
     void associatorNames(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                          CmpiCpp::CmpiName const& assocClass, CmpiCpp::CmpiName const& resultClass,
                          CmpiCpp::CmpiName const& role, CmpiCpp::CmpiName const& resultRole,
                          CmpiCpp::CmpiObjectPathResult& result) override;
     void references(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
-                    CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role, char const** properties,
-                    CmpiCpp::CmpiInstanceResult& result) override;
+                    CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
+                    char const** properties, CmpiCpp::CmpiInstanceResult& result) override;
     void referenceNames(CmpiCpp::CmpiContext const& context, CmpiCpp::CmpiObjectPath const& path,
                         CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
                         CmpiCpp::CmpiObjectPathResult& result) override;
@@ -103,22 +103,25 @@ private:
     void _cmpiManagedInstanceFactory();
     // The device graphs of one controller: they append what they make to
     // newInstances, and the caller hands it to the collection.
-    void _createAllEnclosureInstances(int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
+    void _createAllEnclosureInstances(int number, VeldraController* controller,
+                                      QLN_VDArraySystem* arraySystem,
                                       QLN_VDPhysicalPackage* physicalPackage,
-                                      std::vector<VeldraEnclosure> const& enclosures, std::vector<CageEntry>& cages,
+                                      std::vector<VeldraEnclosure> const& enclosures,
+                                      std::vector<CageEntry>& cages,
                                       std::vector<CmpiManagedInstance*>& newInstances);
-    void _createAllPhysicalDiskInstances(int number, VeldraController* controller,
-                                         std::vector<VeldraPhysicalDisk> const& physicals,
-                                         QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
-                                         std::vector<VeldraCFUArray> const& arrays,
-                                         std::vector<CageEntry> const& cages,
-                                         std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
-                                         std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
-                                         std::vector<CmpiManagedInstance*>& newInstances);
+    void _createAllPhysicalDiskInstances(
+        int number, VeldraController* controller, std::vector<VeldraPhysicalDisk> const& physicals,
+        QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
+        std::vector<VeldraCFUArray> const& arrays, std::vector<CageEntry> const& cages,
+        std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
+        std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
+        std::vector<CmpiManagedInstance*>& newInstances);
     void _createAllLogicalDiskInstances(int number, VeldraController* controller,
-                                        std::vector<VeldraLogicalDisk> const& logicals, QLN_VDArraySystem* arraySystem,
+                                        std::vector<VeldraLogicalDisk> const& logicals,
+                                        QLN_VDArraySystem* arraySystem,
                                         QLN_VDSCSIProtocolController* protocolController,
-                                        std::vector<PoolEntry> const& pools, std::vector<ExtentEntry> const& sparePaths,
+                                        std::vector<PoolEntry> const& pools,
+                                        std::vector<ExtentEntry> const& sparePaths,
                                         std::vector<ExtentEntry> const& nonSparePaths,
                                         std::vector<CmpiManagedInstance*>& newInstances);
     void _createViewClassInstances(int number, VeldraController* controller);
@@ -129,7 +132,8 @@ private:
     // The steps of one pass (worker/), in the order the pass calls them.
     PassRoster _rosterOf() const;
     void _handleController(WorkerPass& pass, QLN_VDArrayController* arrayController,
-                           std::vector<QLN_VDStoragePool*> const& pools, CmpiCpp::CmpiContext const& context);
+                           std::vector<QLN_VDStoragePool*> const& pools,
+                           CmpiCpp::CmpiContext const& context);
     void _scanForController(WorkerPass& pass, QLN_VDArrayController* arrayController);
     void _createNewDevices(WorkerPass& pass, QLN_VDArrayController* arrayController);
     void _addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController* arrayController);
@@ -139,7 +143,8 @@ private:
     template <typename MethodClass>
     static std::uint32_t _invokeOn(CmpiManagedInstance* instance, CmpiCpp::CmpiName const& method,
                                    CmpiCpp::CmpiArgs const& in);
-    std::uint32_t _invokeMethodOnInstance(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& method,
+    std::uint32_t _invokeMethodOnInstance(CmpiCpp::CmpiObjectPath const& path,
+                                          CmpiCpp::CmpiName const& method,
                                           CmpiCpp::CmpiArgs const& in);
 
     Logger _logger;

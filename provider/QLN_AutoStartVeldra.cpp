@@ -24,7 +24,9 @@ QLN_AutoStartVeldra::QLN_AutoStartVeldra(Logger& logger, std::string const& name
     _hostName = QLNUtil::getHostName();
 }
 
-QLN_AutoStartVeldra::~QLN_AutoStartVeldra() { _logger.info("dxtor()"); }
+QLN_AutoStartVeldra::~QLN_AutoStartVeldra() {
+    _logger.info("dxtor()");
+}
 
 CmpiCpp::CmpiObjectPath QLN_AutoStartVeldra::getPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
@@ -47,6 +49,8 @@ CmpiCpp::CmpiInstance QLN_AutoStartVeldra::getInstance() const {
     return instance;
 }
 
-CmpiCpp::CmpiName QLN_AutoStartVeldra::getClassName() const { return CmpiCpp::CmpiName(className); }
+CmpiCpp::CmpiName QLN_AutoStartVeldra::getClassName() const {
+    return CmpiCpp::CmpiName(className);
+}
 
 } // namespace QLN

@@ -6,11 +6,14 @@ char const* const className = "DRSV_VDBattery";
 
 namespace QLN {
 
-DRSV_VDBattery::DRSV_VDBattery(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                               VeldraController* controller)
-    : ViewInstance(logger, className, nameSpace, controllerIndex, controller), _name("Battery" + _drvd(true)) {}
+DRSV_VDBattery::DRSV_VDBattery(Logger& logger, std::string const& nameSpace,
+                               unsigned int controllerIndex, VeldraController* controller)
+    : ViewInstance(logger, className, nameSpace, controllerIndex, controller),
+      _name("Battery" + _drvd(true)) {}
 
-CmpiCpp::CmpiObjectPath DRSV_VDBattery::getPath() const { return _devicePath(_name); }
+CmpiCpp::CmpiObjectPath DRSV_VDBattery::getPath() const {
+    return _devicePath(_name);
+}
 
 DRSV_VDBattery::Health DRSV_VDBattery::_getHealthState(VeldraControllerData const& data) const {
     _logger.info("DRSV_VDBattery::_getHealthState");

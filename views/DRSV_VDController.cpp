@@ -11,8 +11,8 @@ namespace QLN {
 
 char const* const DRSV_VDController::getInstanceLogLine = "DRSV_VDController::getInstance";
 
-DRSV_VDController::DRSV_VDController(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                                     VeldraController* controller)
+DRSV_VDController::DRSV_VDController(Logger& logger, std::string const& nameSpace,
+                                     unsigned int controllerIndex, VeldraController* controller)
     : ViewInstance(logger, className, nameSpace, controllerIndex, controller),
       _name("vmwController" + _drvd(false)) {
     // Primed so that the first pass after start rebuilds nothing.

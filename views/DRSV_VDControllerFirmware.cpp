@@ -11,7 +11,8 @@ char const* const className = "DRSV_VDControllerFirmware";
 namespace QLN {
 
 DRSV_VDControllerFirmware::DRSV_VDControllerFirmware(Logger& logger, std::string const& nameSpace,
-                                                     unsigned int controllerIndex, VeldraController* controller)
+                                                     unsigned int controllerIndex,
+                                                     VeldraController* controller)
     : ViewInstance(logger, className, nameSpace, controllerIndex, controller),
       _name("Veldra Controller " + _drvd(false)) {}
 

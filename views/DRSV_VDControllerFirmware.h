@@ -6,8 +6,8 @@ namespace QLN {
 
 class DRSV_VDControllerFirmware : public ViewInstance {
 public:
-    DRSV_VDControllerFirmware(Logger& logger, std::string const& nameSpace, unsigned int controllerIndex,
-                              VeldraController* controller);
+    DRSV_VDControllerFirmware(Logger& logger, std::string const& nameSpace,
+                              unsigned int controllerIndex, VeldraController* controller);
 
     CmpiCpp::CmpiObjectPath getPath() const override;
     CmpiCpp::CmpiInstance getInstance() const override;

@@ -11,7 +11,8 @@ namespace QLN {
 DRSV_VDStorageExtent::DRSV_VDStorageExtent(Logger& logger, std::string const& nameSpace,
                                            unsigned int controllerIndex, unsigned int diskPosition,
                                            VeldraController* controller)
-    : ViewInstance(logger, className, nameSpace, controllerIndex, controller), _diskPosition(diskPosition) {
+    : ViewInstance(logger, className, nameSpace, controllerIndex, controller),
+      _diskPosition(diskPosition) {
     _logger.info("DRSV_VDStorageExtent::DRSV_VDStorageExtent");
     std::optional<VeldraPhysicalDisk> const disk = _findDisk();
     if (disk) {
@@ -31,7 +32,9 @@ std::optional<VeldraPhysicalDisk> DRSV_VDStorageExtent::_findDisk() const {
     return std::move(disks[_diskPosition]);
 }
 
-CmpiCpp::CmpiObjectPath DRSV_VDStorageExtent::getPath() const { return _devicePath(_deviceId); }
+CmpiCpp::CmpiObjectPath DRSV_VDStorageExtent::getPath() const {
+    return _devicePath(_deviceId);
+}
 
 unsigned short DRSV_VDStorageExtent::healthOf(u32 status) {
     if (status == 1 || status == 0x8005) {
@@ -40,7 +43,8 @@ unsigned short DRSV_VDStorageExtent::healthOf(u32 status) {
     if (status == 3 || status == 4) {
         return 25;
     }
-    if (status == 2 || (status >= 0x8000 && status <= 0x8004) || status == 0x8006 || status == 0x8007) {
+    if (status == 2 || (status >= 0x8000 && status <= 0x8004) || status == 0x8006 ||
+        status == 0x8007) {
         return 10;
     }
     return 0;
@@ -61,7 +65,8 @@ CmpiCpp::CmpiInstance DRSV_VDStorageExtent::getInstance() const {
         instance.addProperty("BlockSize", blockSize);
         instance.addProperty("NumberOfBlocks", totalBlocks);
         text += " : Port " + disk->getPort() + " Box " + std::to_string(disk->getBox()) + " Bay " +
-                std::to_string(disk->getBay()) + " : " + std::to_string(sizeInGB(totalBlocks, blockSize)) + "GB";
+                std::to_string(disk->getBay()) + " : " +
+                std::to_string(sizeInGB(totalBlocks, blockSize)) + "GB";
         auto const configuration = static_cast<u32>(disk->getConfiguration());
         if (configuration > 0 && configuration < 4) {
             text += std::string(" : ") + disk->diskConfigToStr(disk->getConfiguration()) + " Disk";

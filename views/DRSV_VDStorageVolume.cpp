@@ -11,7 +11,8 @@ namespace QLN {
 DRSV_VDStorageVolume::DRSV_VDStorageVolume(Logger& logger, std::string const& nameSpace,
                                            unsigned int controllerIndex, unsigned int volumeNumber,
                                            VeldraController* controller)
-    : ViewInstance(logger, className, nameSpace, controllerIndex, controller), _volumeNumber(volumeNumber) {
+    : ViewInstance(logger, className, nameSpace, controllerIndex, controller),
+      _volumeNumber(volumeNumber) {
     _logger.info("DRSV_VDStorageVolume::DRSV_VDStorageVolume");
     std::optional<VeldraLogicalDisk> const disk = _findDisk();
     if (!disk) {
@@ -46,7 +47,9 @@ std::optional<VeldraLogicalDisk> DRSV_VDStorageVolume::_findDisk() const {
     return std::nullopt;
 }
 
-CmpiCpp::CmpiObjectPath DRSV_VDStorageVolume::getPath() const { return _devicePath(_deviceId); }
+CmpiCpp::CmpiObjectPath DRSV_VDStorageVolume::getPath() const {
+    return _devicePath(_deviceId);
+}
 
 unsigned short DRSV_VDStorageVolume::healthOf(u32 status) {
     if (status == 2 || status == 0x8013 || status == 0x8014) {

@@ -11,16 +11,21 @@ namespace QLN {
 
 ViewInstance::ViewInstance(Logger& logger, char const* className, std::string const& nameSpace,
                            unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller), _className(className) {
+    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
+      _className(className) {
     _logger = logger;
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");
 }
 
-ViewInstance::~ViewInstance() { _logger.info("dxtor()"); }
+ViewInstance::~ViewInstance() {
+    _logger.info("dxtor()");
+}
 
-CmpiCpp::CmpiName ViewInstance::getClassName() const { return CmpiCpp::CmpiName(_className); }
+CmpiCpp::CmpiName ViewInstance::getClassName() const {
+    return CmpiCpp::CmpiName(_className);
+}
 
 std::uint64_t ViewInstance::sizeInGB(std::uint64_t totalBlocks, std::uint64_t blockSize) {
     return (totalBlocks >> 20) * blockSize >> 10;

@@ -28,8 +28,8 @@ protected:
     static std::uint64_t sizeInGB(std::uint64_t totalBlocks, std::uint64_t blockSize);
 
     // className must outlive the instance (the classes pass a literal).
-    ViewInstance(Logger& logger, char const* className, std::string const& nameSpace, unsigned int controllerIndex,
-                 VeldraController* controller);
+    ViewInstance(Logger& logger, char const* className, std::string const& nameSpace,
+                 unsigned int controllerIndex, VeldraController* controller);
 
     // " on DRVD" and the index, or "DRVD" alone with onWord false.
     std::string _drvd(bool onWord) const;

@@ -29,7 +29,8 @@ std::uint32_t QLNVeldraProvider::_backgroundWorker(CmpiCpp::CmpiContext const& c
         if (_heartbeatEnabled) {
             _logger.info("Send heartbeat indication");
             QLN_VeldraIndication heartbeat(_logger, heartbeatNameSpace);
-            heartbeat.sendIndication(heartbeatEvent, 0, 0, "", "", "", "", "", "", 0, "", "", context);
+            heartbeat.sendIndication(heartbeatEvent, 0, 0, "", "", "", "", "", "", 0, "", "",
+                                     context);
         }
     }
 
@@ -136,13 +137,15 @@ void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayControlle
         }
     }
 
-    arrayController->manageDynamic(_indicationsEnabled, context, pass.currentEnclosures, pass.newEnclosures,
-                                   pass.removedEnclosures, pass.pathChangeEnclosures, pass.currentLogicals,
-                                   pass.newLogicals, pass.removedLogicals, pass.currentPhysicals,
-                                   pass.newPhysicals, pass.removedPhysicals, pass.configChangedPhysicals,
-                                   pass.spareStateChangePhysicals, pass.pathChangePhysicals);
+    arrayController->manageDynamic(
+        _indicationsEnabled, context, pass.currentEnclosures, pass.newEnclosures,
+        pass.removedEnclosures, pass.pathChangeEnclosures, pass.currentLogicals, pass.newLogicals,
+        pass.removedLogicals, pass.currentPhysicals, pass.newPhysicals, pass.removedPhysicals,
+        pass.configChangedPhysicals, pass.spareStateChangePhysicals, pass.pathChangePhysicals);
     _logger.info("returned from manage dynamic");
-    auto logSize = [this](char const* format, std::size_t size) { _logger.info(format, static_cast<int>(size)); };
+    auto logSize = [this](char const* format, std::size_t size) {
+        _logger.info(format, static_cast<int>(size));
+    };
     logSize("number of current enclosures %d:", pass.currentEnclosures.size());
     logSize("number of new enclosures %d:", pass.newEnclosures.size());
     logSize("number of removed enclosures %d:", pass.removedEnclosures.size());
@@ -154,7 +157,8 @@ void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayControlle
     logSize("number of new physical disks %d:", pass.newPhysicals.size());
     logSize("number of removed physical disks %d:", pass.removedPhysicals.size());
     logSize("number of config changed physical disks %d:", pass.configChangedPhysicals.size());
-    logSize("number of spare state change physical disks %d:", pass.spareStateChangePhysicals.size());
+    logSize("number of spare state change physical disks %d:",
+            pass.spareStateChangePhysicals.size());
     logSize("number of path change physical disks %d:", pass.pathChangePhysicals.size());
 
     // Every controller has one concrete pool, array "1".

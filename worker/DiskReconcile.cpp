@@ -37,12 +37,14 @@ bool sameDisk(DiskCompanion const& instance, VeldraPhysicalDisk const& record) {
     if (!instance.getSerialNumber().empty()) {
         return record.getSerialNumber() == instance.getSerialNumber();
     }
-    return record.getSerialNumber().empty() && record.getEnclosureBoxNumber() == instance.getBoxNumber() &&
+    return record.getSerialNumber().empty() &&
+           record.getEnclosureBoxNumber() == instance.getBoxNumber() &&
            record.getBay() == instance.getBay();
 }
 
 int findDisk(VeldraPhysicalDisk const& disk, std::vector<VeldraPhysicalDisk> const& in) {
-    return findPhysicalDiskInVector(disk.getSerialNumber(), disk.getEnclosureBoxNumber(), disk.getBay(), in);
+    return findPhysicalDiskInVector(disk.getSerialNumber(), disk.getEnclosureBoxNumber(),
+                                    disk.getBay(), in);
 }
 
 } // namespace
@@ -71,12 +73,15 @@ void QLNVeldraProvider::_addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController
         }
         auto* port = new QLN_VDTSASPort(_logger, ns, index, disk, added.front(), 1, controller);
         pass.pendingAdditions.push_back(port);
-        pass.pendingAdditions.push_back(new QLN_VDArraySystemTSASPort(_logger, ns, pass.arraySystem, port));
-        auto* endpoint = new QLN_VDTSASSCSIProtocolEndpoint(_logger, ns, index, disk, added.front(), 1, controller);
+        pass.pendingAdditions.push_back(
+            new QLN_VDArraySystemTSASPort(_logger, ns, pass.arraySystem, port));
+        auto* endpoint = new QLN_VDTSASSCSIProtocolEndpoint(_logger, ns, index, disk, added.front(),
+                                                            1, controller);
         pass.pendingAdditions.push_back(endpoint);
         pass.pendingAdditions.push_back(
             new QLN_VDArraySystemTSASSCSIProtocolEndpoint(_logger, ns, pass.arraySystem, endpoint));
-        pass.pendingAdditions.push_back(new QLN_VDTSASPortTSASSCSIProtocolEndpoint(_logger, ns, port, endpoint));
+        pass.pendingAdditions.push_back(
+            new QLN_VDTSASPortTSASSCSIProtocolEndpoint(_logger, ns, port, endpoint));
 
         // The initiator side stays unlinked: nothing sets its flag, so its
         // test never runs and the walk always goes to the end. The branch is
@@ -94,13 +99,13 @@ void QLNVeldraProvider::_addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController
                     break;
                 }
             }
-            if (auto* extent = dynamic_cast<QLN_VDStorageExtent*>(candidate); !foundExtent && extent &&
-                                                                                sameDisk(*extent, disk)) {
+            if (auto* extent = dynamic_cast<QLN_VDStorageExtent*>(candidate);
+                !foundExtent && extent && sameDisk(*extent, disk)) {
                 _logger.info("found SE to associate");
                 foundExtent = true;
             }
-            if (auto* candidateDrive = dynamic_cast<QLN_VDDiskDrive*>(candidate); drive == nullptr && candidateDrive &&
-                                                                                 sameDisk(*candidateDrive, disk)) {
+            if (auto* candidateDrive = dynamic_cast<QLN_VDDiskDrive*>(candidate);
+                drive == nullptr && candidateDrive && sameDisk(*candidateDrive, disk)) {
                 _logger.info("found disk drive to associate");
                 drive = candidateDrive;
             }
@@ -109,12 +114,14 @@ void QLNVeldraProvider::_addNewDiskPaths(WorkerPass& pass, QLN_VDArrayController
             }
         }
         if (drive != nullptr) {
-            pass.pendingAdditions.push_back(new QLN_VDDiskDriveTSASSCSIProtocolEndpoint(_logger, ns, drive, endpoint));
+            pass.pendingAdditions.push_back(
+                new QLN_VDDiskDriveTSASSCSIProtocolEndpoint(_logger, ns, drive, endpoint));
         }
     }
 }
 
-void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayController* arrayController) {
+void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass,
+                                             QLN_VDArrayController* arrayController) {
     VeldraController* controller = arrayController->getController();
     unsigned int const index = arrayController->getControllerIndex();
     std::string const ns = workerNameSpace;
@@ -122,8 +129,10 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         VeldraLogicalDisk const& logical = pass.currentLogicals[l];
         int const at = static_cast<int>(l);
         std::vector<VeldraPhysicalDisk> previous = logical.getLastAllPhysicalDisks();
-        _logger.info("previous physicals for logical %d: %d", at, static_cast<int>(previous.size()));
-        std::vector<VeldraPhysicalDisk> current = logical.logicalToAllPhysicals(pass.currentPhysicals);
+        _logger.info("previous physicals for logical %d: %d", at,
+                     static_cast<int>(previous.size()));
+        std::vector<VeldraPhysicalDisk> current =
+            logical.logicalToAllPhysicals(pass.currentPhysicals);
         _logger.info("current physicals for logical %d: %d", at, static_cast<int>(current.size()));
         std::vector<VeldraPhysicalDisk> added;
         std::vector<VeldraPhysicalDisk> removed;
@@ -148,7 +157,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
             int const now = findDisk(disk, current);
             int const before = findDisk(disk, previous);
             if (now != -1 && before != -1) {
-                _logger.info("config change physical for logical %d: %s", at, disk.getSerialNumber().c_str());
+                _logger.info("config change physical for logical %d: %s", at,
+                             disk.getSerialNumber().c_str());
                 added.push_back(current[static_cast<std::size_t>(now)]);
                 removed.push_back(previous[static_cast<std::size_t>(before)]);
             }
@@ -157,7 +167,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         std::vector<VeldraPhysicalDisk> passiveSpares;
         for (VeldraPhysicalDisk const& disk : pass.spareStateChangePhysicals) {
             if (findDisk(disk, current) != -1 && findDisk(disk, previous) != -1) {
-                _logger.info("spare state change physical for logical %d: %s", at, disk.getSerialNumber().c_str());
+                _logger.info("spare state change physical for logical %d: %s", at,
+                             disk.getSerialNumber().c_str());
                 if (logical.getReplacedDiskID(disk.getId()) == VeldraLogicalDisk::noReplacedDisk) {
                     passiveSpares.push_back(disk);
                 } else {
@@ -193,7 +204,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         auto sortExtent = [&](QLN_VDStorageExtent* extent) {
             for (VeldraPhysicalDisk const& disk : current) {
                 if (sameDisk(*extent, disk)) {
-                    members.push_back(ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk.getId(), extent});
+                    members.push_back(
+                        ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk.getId(), extent});
                 }
             }
             for (VeldraPhysicalDisk const& disk : added) {
@@ -204,7 +216,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
                     newData.push_back(ExtentEntry{extent->getSerialNumber(), {}, 0, 0, 0, extent});
                 }
                 if (disk.getConfiguration() == PD_CONFIG_SPARE) {
-                    newSpares.push_back(ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk.getId(), extent});
+                    newSpares.push_back(
+                        ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk.getId(), extent});
                 }
             }
             for (VeldraPhysicalDisk const& disk : removed) {
@@ -252,12 +265,12 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         // rather than guessed.
         if (!volumes.empty()) {
             for (ExtentEntry const& entry : newData) {
-                pass.pendingAdditions.push_back(
-                    new QLN_VDStorageExtentStorageVolume(_logger, ns, entry.extent, volumes.front()));
+                pass.pendingAdditions.push_back(new QLN_VDStorageExtentStorageVolume(
+                    _logger, ns, entry.extent, volumes.front()));
                 for (PoolEntry const& pool : pass.inheritedPools) {
                     if (pool.arrayID == "1") {
-                        pass.pendingAdditions.push_back(
-                            new QLN_VDStoragePoolStorageExtent(_logger, ns, pool.pool, entry.extent));
+                        pass.pendingAdditions.push_back(new QLN_VDStoragePoolStorageExtent(
+                            _logger, ns, pool.pool, entry.extent));
                     }
                 }
             }
@@ -272,7 +285,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
             setMembers.clear();
             for (VeldraPhysicalDisk const& disk : current) {
                 for (ExtentEntry const& member : members) {
-                    if (disk.getConfiguration() == PD_CONFIG_DATA && member.diskID == disk.getId()) {
+                    if (disk.getConfiguration() == PD_CONFIG_DATA &&
+                        member.diskID == disk.getId()) {
                         setMembers.push_back(member);
                     }
                 }
@@ -281,8 +295,8 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         if (!redundancySets.empty()) {
             for (ExtentEntry const& entry : setMembers) {
                 _logger.info("create new redundancy set data storage extent");
-                pass.pendingAdditions.push_back(
-                    new QLN_VDStorageRedundancySetStorageExtent(_logger, ns, redundancySets.front(), entry.extent));
+                pass.pendingAdditions.push_back(new QLN_VDStorageRedundancySetStorageExtent(
+                    _logger, ns, redundancySets.front(), entry.extent));
             }
         }
         auto spareFor = [&](QLN_VDStorageExtent* spareExtent, u32 diskId) {
@@ -292,14 +306,14 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
             }
             for (ExtentEntry const& member : members) {
                 if (member.diskID == replaced) {
-                    pass.pendingAdditions.push_back(
-                        new QLN_VDSpareExtentStorageExtent(_logger, ns, spareExtent, member.extent));
+                    pass.pendingAdditions.push_back(new QLN_VDSpareExtentStorageExtent(
+                        _logger, ns, spareExtent, member.extent));
                 }
             }
         };
         for (ExtentEntry const& spare : newSpares) {
-            pass.pendingAdditions.push_back(
-                new QLN_VDSpareExtentStorageRedundancySet(_logger, ns, spare.extent, redundancySets.front()));
+            pass.pendingAdditions.push_back(new QLN_VDSpareExtentStorageRedundancySet(
+                _logger, ns, spare.extent, redundancySets.front()));
             spareFor(spare.extent, spare.diskID);
         }
         for (VeldraPhysicalDisk const& spare : activeSpares) {
@@ -317,9 +331,10 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
         }
         // The last spare gone: the set goes, and its associations with it. A
         // spare that the volume still lists but that was pulled is gone too.
-        bool const spareLeft = std::any_of(current.begin(), current.end(), [](VeldraPhysicalDisk const& disk) {
-            return disk.getConfiguration() == PD_CONFIG_SPARE;
-        });
+        bool const spareLeft =
+            std::any_of(current.begin(), current.end(), [](VeldraPhysicalDisk const& disk) {
+                return disk.getConfiguration() == PD_CONFIG_SPARE;
+            });
         if (!redundancySets.empty() && (logical.spareDiskIDs.empty() || !spareLeft)) {
             pass.pendingDeletions.push_back(redundancySets.front()->getPath());
         }
@@ -333,10 +348,11 @@ void QLNVeldraProvider::_reconcileMembership(WorkerPass& pass, QLN_VDArrayContro
 void QLNVeldraProvider::_releaseOrphanedExtents(WorkerPass& pass) {
     std::vector<VeldraPhysicalDisk const*> orphans;
     for (VeldraPhysicalDisk const& disk : pass.configChangedPhysicals) {
-        bool const member = std::any_of(pass.currentLogicals.begin(), pass.currentLogicals.end(),
-                                        [&](VeldraLogicalDisk const& logical) {
-                                            return findDisk(disk, logical.getLastAllPhysicalDisks()) != -1;
-                                        });
+        bool const member =
+            std::any_of(pass.currentLogicals.begin(), pass.currentLogicals.end(),
+                        [&](VeldraLogicalDisk const& logical) {
+                            return findDisk(disk, logical.getLastAllPhysicalDisks()) != -1;
+                        });
         if (!member) {
             orphans.push_back(&disk);
         }
@@ -353,7 +369,8 @@ void QLNVeldraProvider::_releaseOrphanedExtents(WorkerPass& pass) {
             if (sameDisk(*extent, *disk)) {
                 pass.removedDataExtents.push_back(extent->getPath());
                 pass.removedSpareExtents.push_back(extent->getPath());
-                pass.passiveSpareEntries.push_back(ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk->getId(), extent});
+                pass.passiveSpareEntries.push_back(
+                    ExtentEntry{extent->getSerialNumber(), {}, 0, 0, disk->getId(), extent});
             }
         }
     }

@@ -56,21 +56,25 @@ bool diskMatch(std::string const& serial, int box, int bay, VeldraPhysicalDisk c
     if (!serial.empty()) {
         return record.getSerialNumber() == serial;
     }
-    return record.getSerialNumber().empty() && record.getEnclosureBoxNumber() == box && record.getBay() == bay;
+    return record.getSerialNumber().empty() && record.getEnclosureBoxNumber() == box &&
+           record.getBay() == bay;
 }
 
 bool diskMatch(DiskCompanion const& instance, VeldraPhysicalDisk const& record) {
-    return diskMatch(instance.getSerialNumber(), instance.getBoxNumber(), instance.getBay(), record);
+    return diskMatch(instance.getSerialNumber(), instance.getBoxNumber(), instance.getBay(),
+                     record);
 }
 
 bool portMatch(DiskPathDevice const& instance, VeldraPhysicalDisk const& record) {
     return isPortInPaths(instance.getPort(), record.getLastAllPhysicalPaths()) &&
-           record.getEnclosureBoxNumber() == instance.getBoxNumber() && record.getBay() == instance.getBay();
+           record.getEnclosureBoxNumber() == instance.getBoxNumber() &&
+           record.getBay() == instance.getBay();
 }
 
 template <typename Instance, typename Records, typename Match>
-void deleteMatching(Logger& logger, CmpiManagedInstance* candidate, Records const& records, Match match,
-                    char const* line, std::vector<CmpiCpp::CmpiObjectPath>& deletions) {
+void deleteMatching(Logger& logger, CmpiManagedInstance* candidate, Records const& records,
+                    Match match, char const* line,
+                    std::vector<CmpiCpp::CmpiObjectPath>& deletions) {
     auto* instance = dynamic_cast<Instance*>(candidate);
     if (instance == nullptr) {
         return;
@@ -85,7 +89,8 @@ void deleteMatching(Logger& logger, CmpiManagedInstance* candidate, Records cons
 
 } // namespace
 
-void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayController* arrayController) {
+void QLNVeldraProvider::_scanForController(WorkerPass& pass,
+                                           QLN_VDArrayController* arrayController) {
     VeldraController* controller = arrayController->getController();
     auto& deletions = pass.pendingDeletions;
     auto const& removedEnclosures = pass.removedEnclosures;
@@ -103,11 +108,14 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
     auto port = [controller](DiskPathDevice const& instance, VeldraPhysicalDisk const& record) {
         return instance.getController() == controller && portMatch(instance, record);
     };
-    auto enclosure = [](auto const& instance, VeldraEnclosure const& record) { return enclosureMatch(instance, record); };
+    auto enclosure = [](auto const& instance, VeldraEnclosure const& record) {
+        return enclosureMatch(instance, record);
+    };
 
     for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
         CmpiManagedInstance* candidate = _managedInstances.getManagedInstance(i);
-        if (auto* system = dynamic_cast<QLN_VDArraySystem*>(candidate); system && system->getController() == controller) {
+        if (auto* system = dynamic_cast<QLN_VDArraySystem*>(candidate);
+            system && system->getController() == controller) {
             _logger.info("found vdArraySystem");
             pass.arraySystem = system;
         }
@@ -127,7 +135,8 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
                 // only in a cage of its own controller.
                 if (cage->getController() == controller && enclosureMatch(*cage, current)) {
                     _logger.info("found current vdDriveCage");
-                    pass.cages.push_back(CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
+                    pass.cages.push_back(
+                        CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
                 }
             }
             for (VeldraEnclosure const& removed : removedEnclosures) {
@@ -141,13 +150,17 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
                                                 "found drive cage location to remove", deletions);
         deleteMatching<QLN_VDStorageEnclosure>(_logger, candidate, removedEnclosures, enclosure,
                                                "found enclosure to remove", deletions);
-        deleteMatching<QLN_VDStorageEnclosureLocation>(_logger, candidate, removedEnclosures, enclosure,
-                                                       "found enclosure location to remove", deletions);
-        deleteMatching<QLN_VDStorageEnclosureProcessor>(_logger, candidate, removedEnclosures, enclosure,
-                                                        "found enclosure processor to remove", deletions);
+        deleteMatching<QLN_VDStorageEnclosureLocation>(
+            _logger, candidate, removedEnclosures, enclosure, "found enclosure location to remove",
+            deletions);
+        deleteMatching<QLN_VDStorageEnclosureProcessor>(
+            _logger, candidate, removedEnclosures, enclosure, "found enclosure processor to remove",
+            deletions);
         deleteMatching<QLN_VDEnclosureFirmware>(_logger, candidate, removedEnclosures, enclosure,
-                                                "found enclosure processor firmware to remove", deletions);
-        deleteMatching<QLN_VDDiskDrive>(_logger, candidate, removedDisks, disk, "found disk to remove", deletions);
+                                                "found enclosure processor firmware to remove",
+                                                deletions);
+        deleteMatching<QLN_VDDiskDrive>(_logger, candidate, removedDisks, disk,
+                                        "found disk to remove", deletions);
         deleteMatching<QLN_VDDiskDriveFirmware>(_logger, candidate, removedDisks, sameSerial,
                                                 "found disk firmware to remove", deletions);
         deleteMatching<QLN_VDDiskDriveLocation>(_logger, candidate, removedDisks, disk,
@@ -156,16 +169,17 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
                                                   "found disk package to remove", deletions);
         deleteMatching<QLN_VDMediaAccessStatData>(_logger, candidate, removedDisks, disk,
                                                   "found disk statistics to remove", deletions);
-        deleteMatching<QLN_VDTSASPort>(_logger, candidate, removedDisks, port, "found disk TSASPort to remove",
-                                       deletions);
-        deleteMatching<QLN_VDTSASSCSIProtocolEndpoint>(_logger, candidate, removedDisks, port,
-                                                       "found disk TSASSCSIProtocolEndpoint to remove", deletions);
-        deleteMatching<QLN_VDLumenDriveCarrierAppFirmware>(_logger, candidate, removedDisks, sameSerial,
-                                                           "found LumenDriveCarrierApp Firmware to remove",
-                                                           deletions);
-        deleteMatching<QLN_VDLumenDriveCarrierBootldrFirmware>(_logger, candidate, removedDisks, sameSerial,
-                                                               "found LumenDriveCarrierBootldr Firmware to remove",
-                                                               deletions);
+        deleteMatching<QLN_VDTSASPort>(_logger, candidate, removedDisks, port,
+                                       "found disk TSASPort to remove", deletions);
+        deleteMatching<QLN_VDTSASSCSIProtocolEndpoint>(
+            _logger, candidate, removedDisks, port, "found disk TSASSCSIProtocolEndpoint to remove",
+            deletions);
+        deleteMatching<QLN_VDLumenDriveCarrierAppFirmware>(
+            _logger, candidate, removedDisks, sameSerial,
+            "found LumenDriveCarrierApp Firmware to remove", deletions);
+        deleteMatching<QLN_VDLumenDriveCarrierBootldrFirmware>(
+            _logger, candidate, removedDisks, sameSerial,
+            "found LumenDriveCarrierBootldr Firmware to remove", deletions);
         if (auto* extent = dynamic_cast<QLN_VDStorageExtent*>(candidate)) {
             for (VeldraPhysicalDisk const& removed : removedDisks) {
                 if (diskMatch(*extent, removed)) {
@@ -178,8 +192,12 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
                     continue;
                 }
                 _logger.info("found current disk path");
-                ExtentEntry const entry{current.getSerialNumber(), current.getLastAllPhysicalPaths(),
-                                        current.getEnclosureBoxNumber(), current.getBay(), current.getId(), extent};
+                ExtentEntry const entry{current.getSerialNumber(),
+                                        current.getLastAllPhysicalPaths(),
+                                        current.getEnclosureBoxNumber(),
+                                        current.getBay(),
+                                        current.getId(),
+                                        extent};
                 if (current.getConfiguration() == PD_CONFIG_SPARE) {
                     pass.spareExtents.push_back(entry);
                 } else if (current.getConfiguration() == PD_CONFIG_DATA) {
@@ -201,7 +219,8 @@ void QLNVeldraProvider::_scanForController(WorkerPass& pass, QLN_VDArrayControll
     }
 }
 
-void QLNVeldraProvider::_createNewDevices(WorkerPass& pass, QLN_VDArrayController* arrayController) {
+void QLNVeldraProvider::_createNewDevices(WorkerPass& pass,
+                                          QLN_VDArrayController* arrayController) {
     VeldraController* controller = arrayController->getController();
     int const number = static_cast<int>(arrayController->getControllerIndex());
     std::vector<CmpiManagedInstance*> made;
@@ -228,9 +247,11 @@ void QLNVeldraProvider::_createNewDevices(WorkerPass& pass, QLN_VDArrayControlle
         }
         CmpiCpp::CmpiObjectPath const path = cage->getPath();
         // A cage on its way out must not gain a disk that would point at it.
-        if (std::none_of(pass.pendingDeletions.begin(), pass.pendingDeletions.end(),
-                         [&](CmpiCpp::CmpiObjectPath const& gone) { return gone.str() == path.str(); })) {
-            cages.push_back(CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
+        if (std::none_of(
+                pass.pendingDeletions.begin(), pass.pendingDeletions.end(),
+                [&](CmpiCpp::CmpiObjectPath const& gone) { return gone.str() == path.str(); })) {
+            cages.push_back(
+                CageEntry{cage->getTag(), cage->getBoxNumber(), cage->getPaths(), cage});
         }
     }
     std::vector<PoolEntry> const& pools = pass.inheritedPools;
@@ -238,22 +259,24 @@ void QLNVeldraProvider::_createNewDevices(WorkerPass& pass, QLN_VDArrayControlle
     // Enclosures first: new disks hang in their cages, new volumes on extents.
     std::vector<CageEntry> newCages;
     _logger.info("calling createEnclosure");
-    _createAllEnclosureInstances(number, controller, pass.arraySystem, pass.physicalPackage, pass.newEnclosures,
-                                 newCages, made);
+    _createAllEnclosureInstances(number, controller, pass.arraySystem, pass.physicalPackage,
+                                 pass.newEnclosures, newCages, made);
     _logger.info("return from create enclosures");
     keep();
     pass.cages.insert(pass.cages.end(), newCages.begin(), newCages.end());
     cages.insert(cages.end(), newCages.begin(), newCages.end());
 
     _logger.info("calling createPhysical");
-    _createAllPhysicalDiskInstances(number, controller, pass.newPhysicals, pass.arraySystem, pools, pass.arrays,
-                                    cages, pass.initiatorEndpoints, pass.spareExtents, pass.dataExtents, made);
+    _createAllPhysicalDiskInstances(number, controller, pass.newPhysicals, pass.arraySystem, pools,
+                                    pass.arrays, cages, pass.initiatorEndpoints, pass.spareExtents,
+                                    pass.dataExtents, made);
     _logger.info("return from create physical");
     keep();
 
     _logger.info("calling createLogical");
-    _createAllLogicalDiskInstances(number, controller, pass.newLogicals, pass.arraySystem, pass.protocolController,
-                                   pools, pass.spareExtents, pass.dataExtents, made);
+    _createAllLogicalDiskInstances(number, controller, pass.newLogicals, pass.arraySystem,
+                                   pass.protocolController, pools, pass.spareExtents,
+                                   pass.dataExtents, made);
     _logger.info("return from create logical");
     keep();
 }
@@ -281,28 +304,35 @@ void QLNVeldraProvider::_applyPending(WorkerPass& pass) {
     // otherwise cost associations times deletions.
     struct Named : CmpiCpp::CmpiObjectPathResult {
         explicit Named(std::vector<CmpiCpp::CmpiObjectPath>& into) : paths(into) {}
-        void returnObjectPath(CmpiCpp::CmpiObjectPath const& path) override { paths.push_back(path); }
+        void returnObjectPath(CmpiCpp::CmpiObjectPath const& path) override {
+            paths.push_back(path);
+        }
         std::vector<CmpiCpp::CmpiObjectPath>& paths;
     } named(associationDeletions);
     for (CmpiCpp::CmpiObjectPath const& end : pass.pendingDeletions) {
-        _managedInstances.referenceNames(named, CmpiCpp::CmpiContext(), end, CmpiCpp::CmpiName(), CmpiCpp::CmpiName());
+        _managedInstances.referenceNames(named, CmpiCpp::CmpiContext(), end, CmpiCpp::CmpiName(),
+                                         CmpiCpp::CmpiName());
     }
     if (!pass.passiveSpareEntries.empty()) {
         std::vector<CmpiCpp::CmpiObjectPath> extents;
         for (ExtentEntry const& entry : pass.passiveSpareEntries) {
             extents.push_back(entry.extent->getPath());
         }
-        searchTwoEnded(extents, [](CmpiManagedInstance* c) { return dynamic_cast<QLN_VDSpareExtentStorageExtent*>(c); });
+        searchTwoEnded(extents, [](CmpiManagedInstance* c) {
+            return dynamic_cast<QLN_VDSpareExtentStorageExtent*>(c);
+        });
     }
     if (!pass.removedDataExtents.empty()) {
         searchTwoEnded(pass.removedDataExtents, [](CmpiManagedInstance* c) {
-            return dynamic_cast<QLN_VDStorageExtentStorageVolume*>(c) || dynamic_cast<QLN_VDStoragePoolStorageExtent*>(c) ||
+            return dynamic_cast<QLN_VDStorageExtentStorageVolume*>(c) ||
+                   dynamic_cast<QLN_VDStoragePoolStorageExtent*>(c) ||
                    dynamic_cast<QLN_VDStorageRedundancySetStorageExtent*>(c);
         });
     }
     if (!pass.removedSpareExtents.empty()) {
-        searchTwoEnded(pass.removedSpareExtents,
-                       [](CmpiManagedInstance* c) { return dynamic_cast<QLN_VDSpareExtentStorageRedundancySet*>(c); });
+        searchTwoEnded(pass.removedSpareExtents, [](CmpiManagedInstance* c) {
+            return dynamic_cast<QLN_VDSpareExtentStorageRedundancySet*>(c);
+        });
     }
 
     auto remove = [this](std::vector<CmpiCpp::CmpiObjectPath> const& paths) {
@@ -313,7 +343,8 @@ void QLNVeldraProvider::_applyPending(WorkerPass& pass) {
             _logger.info("removed instance %d:", static_cast<int>(i));
         }
     };
-    _logger.info("removing association instances %d:", static_cast<int>(associationDeletions.size()));
+    _logger.info("removing association instances %d:",
+                 static_cast<int>(associationDeletions.size()));
     remove(associationDeletions);
     _logger.info("removing instances %d:", static_cast<int>(pass.pendingDeletions.size()));
     remove(pass.pendingDeletions);

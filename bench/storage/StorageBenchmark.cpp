@@ -30,12 +30,15 @@ std::string const& scenarioFile() {
     return path;
 }
 
-double heapInUseMiB() { return static_cast<double>(::mallinfo2().uordblks) / (1024.0 * 1024.0); }
+double heapInUseMiB() {
+    return static_cast<double>(::mallinfo2().uordblks) / (1024.0 * 1024.0);
+}
 
 double residentMiB() {
     long pages = 0, resident = 0;
     std::ifstream("/proc/self/statm") >> pages >> resident;
-    return static_cast<double>(resident) * static_cast<double>(::sysconf(_SC_PAGESIZE)) / (1024.0 * 1024.0);
+    return static_cast<double>(resident) * static_cast<double>(::sysconf(_SC_PAGESIZE)) /
+           (1024.0 * 1024.0);
 }
 
 Logger& quietLogger() {
@@ -51,7 +54,9 @@ void BM_LoadScenario16x256(benchmark::State& state) {
         double heapBefore = heapInUseMiB();
         auto root = std::make_unique<SimulatedControllerMRA>(file, quietLogger());
         retained = heapInUseMiB() - heapBefore; // what the loaded state keeps
-        growth = std::max(growth, residentMiB() - before); // the first load shows it; later ones reuse freed memory
+        growth =
+            std::max(growth, residentMiB() -
+                                 before); // the first load shows it; later ones reuse freed memory
         benchmark::DoNotOptimize(root->getFirstData());
     }
     state.counters["rss_growth_MiB"] = growth;
@@ -62,7 +67,8 @@ BENCHMARK(BM_LoadScenario16x256)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 // The provider's priming: every disk stamped with its routes, then stored.
 struct Primed {
-    std::unique_ptr<SimulatedControllerMRA> root = std::make_unique<SimulatedControllerMRA>(scenarioFile(), quietLogger());
+    std::unique_ptr<SimulatedControllerMRA> root =
+        std::make_unique<SimulatedControllerMRA>(scenarioFile(), quietLogger());
     VeldraController* controller = root->getFirstData();
     Primed() {
         auto disks = controller->getAllPhysicalDisks();
@@ -107,7 +113,8 @@ void BM_CompareAllPhysicalDisks256(benchmark::State& state) {
         findNewVDPhysicalDisks(previous, current, added);
         findRemovedVDPhysicalDisks(previous, current, removed);
         u32 changed = 0, index = 0;
-        for (auto const& d : current) changed |= d.compare(previous, index);
+        for (auto const& d : current)
+            changed |= d.compare(previous, index);
         benchmark::DoNotOptimize(changed);
     }
 }
@@ -115,7 +122,8 @@ BENCHMARK(BM_CompareAllPhysicalDisks256)->Unit(benchmark::kMillisecond);
 
 void BM_CounterReadUnchangedFile(benchmark::State& state) {
     Primed primed;
-    for (auto _ : state) benchmark::DoNotOptimize(primed.controller->getDiskVectorCount());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(primed.controller->getDiskVectorCount());
 }
 BENCHMARK(BM_CounterReadUnchangedFile)->Unit(benchmark::kMicrosecond);
 

@@ -42,8 +42,9 @@ void prepare() {
     }
     done = true;
     std::filesystem::create_directories(directory);
-    std::string const generate = std::string(VELDRA_BIN_DIR) +
-                                 "/veldra-sim generate --controllers 16 --disks-per-controller 256 --output " + full;
+    std::string const generate =
+        std::string(VELDRA_BIN_DIR) +
+        "/veldra-sim generate --controllers 16 --disks-per-controller 256 --output " + full;
     if (std::system(generate.c_str()) != 0) {
         std::abort();
     }
@@ -87,9 +88,10 @@ std::unique_ptr<QLN::QLNVeldraProvider> startProvider() {
 
 void pass(QLN::QLNVeldraProvider& provider) {
     QLN::CapturedMethodResult result;
-    provider.invokeMethod(CmpiCpp::CmpiContext(),
-                          CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
-                          CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+    provider.invokeMethod(
+        CmpiCpp::CmpiContext(),
+        CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
+        CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
 }
 
 void BM_QuietPass(benchmark::State& state) {
@@ -168,14 +170,16 @@ void BM_EnumerateDisksBesidePasses(benchmark::State& state) {
             }
         }
     });
-    auto const disks = CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDDiskDrive");
+    auto const disks =
+        CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDDiskDrive");
     std::vector<double> waits;
     std::size_t returned = 0;
     for (auto _ : state) {
         auto const start = std::chrono::steady_clock::now();
         Discard sink;
         provider->enumInstances(CmpiCpp::CmpiContext(), disks, nullptr, sink);
-        double const seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+        double const seconds =
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
         state.SetIterationTime(seconds);
         waits.push_back(seconds);
         returned = sink.count;
@@ -188,7 +192,10 @@ void BM_EnumerateDisksBesidePasses(benchmark::State& state) {
     state.counters["max_ms"] = waits.back() * 1000;
     state.counters["disks"] = static_cast<double>(returned);
 }
-BENCHMARK(BM_EnumerateDisksBesidePasses)->UseManualTime()->Unit(benchmark::kMillisecond)->MinTime(10.0);
+BENCHMARK(BM_EnumerateDisksBesidePasses)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->MinTime(10.0);
 
 } // namespace
 

@@ -29,9 +29,9 @@
 namespace {
 
 // Arenas opened by attachThread on this thread, per broker, innermost last.
-thread_local std::vector<std::pair<const Broker*, ObjectRegistry::Arena*>> attachedArenas;
+thread_local std::vector<std::pair<Broker const*, ObjectRegistry::Arena*>> attachedArenas;
 
-Broker& brokerOf(const CMPIBroker* mb) {
+Broker& brokerOf(CMPIBroker const* mb) {
     Broker* b = Broker::from(mb);
     if (b == nullptr) {
         throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "not this object manager's broker");
@@ -39,12 +39,12 @@ Broker& brokerOf(const CMPIBroker* mb) {
     return *b;
 }
 
-ObjectRegistry* registryOf(const CMPIBroker* mb) {
+ObjectRegistry* registryOf(CMPIBroker const* mb) {
     Broker* b = Broker::from(mb);
     return b ? &b->registry() : nullptr;
 }
 
-BrokerObjectPath& pathOf(const CMPIObjectPath* op) {
+BrokerObjectPath& pathOf(CMPIObjectPath const* op) {
     BrokerObjectPath* p = BrokerObjectPath::from(op);
     if (p == nullptr) {
         throw CimError(CMPI_RC_ERR_INVALID_HANDLE, "object path is not one of the broker's");
@@ -52,46 +52,46 @@ BrokerObjectPath& pathOf(const CMPIObjectPath* op) {
     return *p;
 }
 
-std::string text(const char* s) {
+std::string text(char const* s) {
     return s ? std::string(s) : std::string();
 }
 
-std::vector<std::string> propertyList(const char** properties, bool& present) {
+std::vector<std::string> propertyList(char const** properties, bool& present) {
     std::vector<std::string> out;
     present = properties != nullptr;
-    for (const char** p = properties; p != nullptr && *p != nullptr; ++p) {
+    for (char const** p = properties; p != nullptr && *p != nullptr; ++p) {
         out.emplace_back(*p);
     }
     return out;
 }
 
 // A request path may lack the namespace when a provider builds it loosely.
-CimObjectPath requestPath(const CMPIObjectPath* op) {
+CimObjectPath requestPath(CMPIObjectPath const* op) {
     return pathOf(op).path();
 }
 
 // The CMPI object behind any handle, to answer toString/isOfType/getType.
-EncapsulatedObject* identify(const void* object) {
+EncapsulatedObject* identify(void const* object) {
     if (object == nullptr) {
         return nullptr;
     }
-    if (auto* o = BrokerInstance::from(static_cast<const CMPIInstance*>(object)))
+    if (auto* o = BrokerInstance::from(static_cast<CMPIInstance const*>(object)))
         return o;
-    if (auto* o = BrokerObjectPath::from(static_cast<const CMPIObjectPath*>(object)))
+    if (auto* o = BrokerObjectPath::from(static_cast<CMPIObjectPath const*>(object)))
         return o;
-    if (auto* o = BrokerString::from(static_cast<const CMPIString*>(object)))
+    if (auto* o = BrokerString::from(static_cast<CMPIString const*>(object)))
         return o;
-    if (auto* o = BrokerArray::from(static_cast<const CMPIArray*>(object)))
+    if (auto* o = BrokerArray::from(static_cast<CMPIArray const*>(object)))
         return o;
-    if (auto* o = BrokerArgs::from(static_cast<const CMPIArgs*>(object)))
+    if (auto* o = BrokerArgs::from(static_cast<CMPIArgs const*>(object)))
         return o;
-    if (auto* o = BrokerDateTime::from(static_cast<const CMPIDateTime*>(object)))
+    if (auto* o = BrokerDateTime::from(static_cast<CMPIDateTime const*>(object)))
         return o;
-    if (auto* o = BrokerEnumeration::from(static_cast<const CMPIEnumeration*>(object)))
+    if (auto* o = BrokerEnumeration::from(static_cast<CMPIEnumeration const*>(object)))
         return o;
-    if (auto* o = BrokerContext::from(static_cast<const CMPIContext*>(object)))
+    if (auto* o = BrokerContext::from(static_cast<CMPIContext const*>(object)))
         return o;
-    if (auto* o = BrokerResult::from(static_cast<const CMPIResult*>(object)))
+    if (auto* o = BrokerResult::from(static_cast<CMPIResult const*>(object)))
         return o;
     return nullptr;
 }
@@ -100,32 +100,32 @@ CMPIEnumeration* enumerationOf(Broker& b, std::vector<CimValue> items) {
     return b.registry().make<BrokerEnumeration>(std::move(items))->cmpi();
 }
 
-std::vector<CimValue> asValues(const std::vector<CimInstance>& instances) {
+std::vector<CimValue> asValues(std::vector<CimInstance> const& instances) {
     std::vector<CimValue> out;
     out.reserve(instances.size());
-    for (const CimInstance& i : instances) {
+    for (CimInstance const& i : instances) {
         out.push_back(CimValue::instance(i));
     }
     return out;
 }
 
-std::vector<CimValue> asValues(const std::vector<CimObjectPath>& paths) {
+std::vector<CimValue> asValues(std::vector<CimObjectPath> const& paths) {
     std::vector<CimValue> out;
     out.reserve(paths.size());
-    for (const CimObjectPath& p : paths) {
+    for (CimObjectPath const& p : paths) {
         out.push_back(CimValue::reference(p));
     }
     return out;
 }
 
-CMPIStatus notSupported(const CMPIBroker* mb, const char* what) {
+CMPIStatus notSupported(CMPIBroker const* mb, char const* what) {
     return BrokerStatus::make(registryOf(mb), CMPI_RC_ERR_NOT_SUPPORTED,
                               std::string(what) + " is not supported by " + Broker::name);
 }
 
 // ---- Main table ----------------------------------------------------------
 
-CMPIContext* prepareAttachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
+CMPIContext* prepareAttachThread(CMPIBroker const* mb, CMPIContext const* ctx) {
     try {
         Broker& b = brokerOf(mb);
         BrokerContext* from = BrokerContext::from(ctx);
@@ -137,7 +137,7 @@ CMPIContext* prepareAttachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
     }
 }
 
-CMPIStatus attachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
+CMPIStatus attachThread(CMPIBroker const* mb, CMPIContext const* ctx) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         Broker& b = brokerOf(mb);
         if (BrokerContext::from(ctx) == nullptr) {
@@ -148,7 +148,7 @@ CMPIStatus attachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
     });
 }
 
-CMPIStatus detachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
+CMPIStatus detachThread(CMPIBroker const* mb, CMPIContext const* ctx) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         Broker& b = brokerOf(mb);
         BrokerContext* c = BrokerContext::from(ctx);
@@ -167,8 +167,8 @@ CMPIStatus detachThread(const CMPIBroker* mb, const CMPIContext* ctx) {
     });
 }
 
-CMPIStatus deliverIndication(const CMPIBroker* mb, const CMPIContext*, const char* ns,
-                             const CMPIInstance* ind) {
+CMPIStatus deliverIndication(CMPIBroker const* mb, CMPIContext const*, char const* ns,
+                             CMPIInstance const* ind) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         Broker& b = brokerOf(mb);
         BrokerInstance* i = BrokerInstance::from(ind);
@@ -180,16 +180,16 @@ CMPIStatus deliverIndication(const CMPIBroker* mb, const CMPIContext*, const cha
     });
 }
 
-CMPIEnumeration* enumerateInstanceNames(const CMPIBroker* mb, const CMPIContext*,
-                                        const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIEnumeration* enumerateInstanceNames(CMPIBroker const* mb, CMPIContext const*,
+                                        CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         return enumerationOf(b, asValues(b.upcalls().enumerateInstanceNames(requestPath(op))));
     });
 }
 
-CMPIInstance* getInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                          const char** properties, CMPIStatus* rc) {
+CMPIInstance* getInstance(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                          char const** properties, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIInstance*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
@@ -199,31 +199,31 @@ CMPIInstance* getInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIOb
     });
 }
 
-CMPIObjectPath* createInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*,
-                               const CMPIInstance*, CMPIStatus* rc) {
+CMPIObjectPath* createInstance(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*,
+                               CMPIInstance const*, CMPIStatus* rc) {
     if (rc)
         *rc = notSupported(mb, "createInstance");
     return nullptr;
 }
 
-CMPIStatus modifyInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*,
-                          const CMPIInstance*, const char**) {
+CMPIStatus modifyInstance(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*,
+                          CMPIInstance const*, char const**) {
     return notSupported(mb, "modifyInstance");
 }
 
-CMPIStatus deleteInstance(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*) {
+CMPIStatus deleteInstance(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*) {
     return notSupported(mb, "deleteInstance");
 }
 
-CMPIEnumeration* execQuery(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*,
-                           const char*, const char*, CMPIStatus* rc) {
+CMPIEnumeration* execQuery(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*,
+                           char const*, char const*, CMPIStatus* rc) {
     if (rc)
         *rc = notSupported(mb, "execQuery");
     return nullptr;
 }
 
-CMPIEnumeration* enumerateInstances(const CMPIBroker* mb, const CMPIContext*,
-                                    const CMPIObjectPath* op, const char** properties,
+CMPIEnumeration* enumerateInstances(CMPIBroker const* mb, CMPIContext const*,
+                                    CMPIObjectPath const* op, char const** properties,
                                     CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
@@ -234,9 +234,9 @@ CMPIEnumeration* enumerateInstances(const CMPIBroker* mb, const CMPIContext*,
     });
 }
 
-CMPIEnumeration* associators(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                             const char* assocClass, const char* resultClass, const char* role,
-                             const char* resultRole, const char** properties, CMPIStatus* rc) {
+CMPIEnumeration* associators(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                             char const* assocClass, char const* resultClass, char const* role,
+                             char const* resultRole, char const** properties, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
@@ -247,9 +247,9 @@ CMPIEnumeration* associators(const CMPIBroker* mb, const CMPIContext*, const CMP
     });
 }
 
-CMPIEnumeration* associatorNames(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                                 const char* assocClass, const char* resultClass, const char* role,
-                                 const char* resultRole, CMPIStatus* rc) {
+CMPIEnumeration* associatorNames(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                                 char const* assocClass, char const* resultClass, char const* role,
+                                 char const* resultRole, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         return enumerationOf(b, asValues(b.upcalls().associatorNames(
@@ -258,8 +258,8 @@ CMPIEnumeration* associatorNames(const CMPIBroker* mb, const CMPIContext*, const
     });
 }
 
-CMPIEnumeration* references(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                            const char* resultClass, const char* role, const char** properties,
+CMPIEnumeration* references(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                            char const* resultClass, char const* role, char const** properties,
                             CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
@@ -271,8 +271,8 @@ CMPIEnumeration* references(const CMPIBroker* mb, const CMPIContext*, const CMPI
     });
 }
 
-CMPIEnumeration* referenceNames(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                                const char* resultClass, const char* role, CMPIStatus* rc) {
+CMPIEnumeration* referenceNames(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                                char const* resultClass, char const* role, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         return enumerationOf(b, asValues(b.upcalls().referenceNames(
@@ -280,8 +280,8 @@ CMPIEnumeration* referenceNames(const CMPIBroker* mb, const CMPIContext*, const 
     });
 }
 
-CMPIData invokeMethod(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath* op,
-                      const char* method, const CMPIArgs* in, CMPIArgs* out, CMPIStatus* rc) {
+CMPIData invokeMethod(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const* op,
+                      char const* method, CMPIArgs const* in, CMPIArgs* out, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIData>(registryOf(mb), rc, ValueConverter::notFound(), [&] {
         Broker& b = brokerOf(mb);
         if (method == nullptr) {
@@ -309,12 +309,12 @@ CMPIData invokeMethod(const CMPIBroker* mb, const CMPIContext*, const CMPIObject
     });
 }
 
-CMPIStatus setProperty(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*, const char*,
-                       const CMPIValue*, CMPIType) {
+CMPIStatus setProperty(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*, char const*,
+                       CMPIValue const*, CMPIType) {
     return notSupported(mb, "setProperty");
 }
 
-CMPIData getProperty(const CMPIBroker* mb, const CMPIContext*, const CMPIObjectPath*, const char*,
+CMPIData getProperty(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath const*, char const*,
                      CMPIStatus* rc) {
     if (rc)
         *rc = notSupported(mb, "getProperty");
@@ -347,7 +347,7 @@ const CMPIBrokerFT mainTable = {CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_As
 
 // ---- Encapsulated table --------------------------------------------------
 
-CMPIInstance* newInstance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIInstance* newInstance(CMPIBroker const* mb, CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIInstance*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         const CimObjectPath& path = pathOf(op).path();
@@ -363,7 +363,7 @@ CMPIInstance* newInstance(const CMPIBroker* mb, const CMPIObjectPath* op, CMPISt
     });
 }
 
-CMPIObjectPath* newObjectPath(const CMPIBroker* mb, const char* ns, const char* cn,
+CMPIObjectPath* newObjectPath(CMPIBroker const* mb, char const* ns, char const* cn,
                               CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIObjectPath*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb)
@@ -373,25 +373,25 @@ CMPIObjectPath* newObjectPath(const CMPIBroker* mb, const char* ns, const char* 
     });
 }
 
-CMPIArgs* newArgs(const CMPIBroker* mb, CMPIStatus* rc) {
+CMPIArgs* newArgs(CMPIBroker const* mb, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIArgs*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb).registry().make<BrokerArgs>()->cmpi();
     });
 }
 
-CMPIString* newString(const CMPIBroker* mb, const char* data, CMPIStatus* rc) {
+CMPIString* newString(CMPIBroker const* mb, char const* data, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIString*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb).registry().make<BrokerString>(text(data))->cmpi();
     });
 }
 
-CMPIArray* newArray(const CMPIBroker* mb, CMPICount max, CMPIType type, CMPIStatus* rc) {
+CMPIArray* newArray(CMPIBroker const* mb, CMPICount max, CMPIType type, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIArray*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb).registry().make<BrokerArray>(max, type)->cmpi();
     });
 }
 
-CMPIDateTime* newDateTime(const CMPIBroker* mb, CMPIStatus* rc) {
+CMPIDateTime* newDateTime(CMPIBroker const* mb, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIDateTime*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb)
             .registry()
@@ -400,7 +400,7 @@ CMPIDateTime* newDateTime(const CMPIBroker* mb, CMPIStatus* rc) {
     });
 }
 
-CMPIDateTime* newDateTimeFromBinary(const CMPIBroker* mb, CMPIUint64 binTime, CMPIBoolean interval,
+CMPIDateTime* newDateTimeFromBinary(CMPIBroker const* mb, CMPIUint64 binTime, CMPIBoolean interval,
                                     CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIDateTime*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb)
@@ -410,20 +410,20 @@ CMPIDateTime* newDateTimeFromBinary(const CMPIBroker* mb, CMPIUint64 binTime, CM
     });
 }
 
-CMPIDateTime* newDateTimeFromChars(const CMPIBroker* mb, const char* datetime, CMPIStatus* rc) {
+CMPIDateTime* newDateTimeFromChars(CMPIBroker const* mb, char const* datetime, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIDateTime*>(registryOf(mb), rc, nullptr, [&] {
         return brokerOf(mb).registry().make<BrokerDateTime>(text(datetime))->cmpi();
     });
 }
 
-CMPISelectExp* newSelectExp(const CMPIBroker* mb, const char*, const char*, CMPIArray**,
+CMPISelectExp* newSelectExp(CMPIBroker const* mb, char const*, char const*, CMPIArray**,
                             CMPIStatus* rc) {
     if (rc)
         *rc = notSupported(mb, "newSelectExp");
     return nullptr;
 }
 
-CMPIBoolean classPathIsA(const CMPIBroker* mb, const CMPIObjectPath* op, const char* type,
+CMPIBoolean classPathIsA(CMPIBroker const* mb, CMPIObjectPath const* op, char const* type,
                          CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIBoolean>(registryOf(mb), rc, 0, [&] {
         Broker& b = brokerOf(mb);
@@ -435,7 +435,7 @@ CMPIBoolean classPathIsA(const CMPIBroker* mb, const CMPIObjectPath* op, const c
     });
 }
 
-CMPIString* toString(const CMPIBroker* mb, const void* object, CMPIStatus* rc) {
+CMPIString* toString(CMPIBroker const* mb, void const* object, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIString*>(registryOf(mb), rc, nullptr, [&] {
         EncapsulatedObject* o = identify(object);
         if (o == nullptr) {
@@ -445,7 +445,7 @@ CMPIString* toString(const CMPIBroker* mb, const void* object, CMPIStatus* rc) {
     });
 }
 
-CMPIBoolean isOfType(const CMPIBroker* mb, const void* object, const char* type, CMPIStatus* rc) {
+CMPIBoolean isOfType(CMPIBroker const* mb, void const* object, char const* type, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIBoolean>(registryOf(mb), rc, 0, [&] {
         EncapsulatedObject* o = identify(object);
         if (o == nullptr) {
@@ -456,7 +456,7 @@ CMPIBoolean isOfType(const CMPIBroker* mb, const void* object, const char* type,
     });
 }
 
-CMPIString* getType(const CMPIBroker* mb, const void* object, CMPIStatus* rc) {
+CMPIString* getType(CMPIBroker const* mb, void const* object, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIString*>(registryOf(mb), rc, nullptr, [&] {
         EncapsulatedObject* o = identify(object);
         if (o == nullptr) {
@@ -468,16 +468,16 @@ CMPIString* getType(const CMPIBroker* mb, const void* object, CMPIStatus* rc) {
 
 // The default message with $0..$9 replaced by the insert values, which come
 // as (type, value) pairs as the formatting macros of CMPI pass them.
-std::string formatMessage(const char* defMsg, CMPICount count, va_list ap) {
+std::string formatMessage(char const* defMsg, CMPICount count, va_list ap) {
     std::vector<std::string> inserts;
     for (CMPICount i = 0; i < count && i < 10; ++i) {
-        const int type = va_arg(ap, int);
+        int const type = va_arg(ap, int);
         switch (type) {
         case CMPI_chars:
-            inserts.push_back(text(va_arg(ap, const char*)));
+            inserts.push_back(text(va_arg(ap, char const*)));
             break;
         case CMPI_string: {
-            BrokerString* s = BrokerString::from(va_arg(ap, const CMPIString*));
+            BrokerString* s = BrokerString::from(va_arg(ap, CMPIString const*));
             inserts.push_back(s ? s->text() : std::string());
             break;
         }
@@ -511,7 +511,7 @@ std::string formatMessage(const char* defMsg, CMPICount count, va_list ap) {
         }
     }
     std::string out;
-    for (const char* p = defMsg ? defMsg : ""; *p != '\0'; ++p) {
+    for (char const* p = defMsg ? defMsg : ""; *p != '\0'; ++p) {
         if (*p == '$' && p[1] >= '0' && p[1] <= '9' &&
             static_cast<std::size_t>(p[1] - '0') < inserts.size()) {
             out += inserts[static_cast<std::size_t>(p[1] - '0')];
@@ -523,7 +523,7 @@ std::string formatMessage(const char* defMsg, CMPICount count, va_list ap) {
     return out;
 }
 
-CMPIString* getMessage(const CMPIBroker* mb, const char*, const char* defMsg, CMPIStatus* rc,
+CMPIString* getMessage(CMPIBroker const* mb, char const*, char const* defMsg, CMPIStatus* rc,
                        CMPICount count, ...) {
     va_list ap;
     va_start(ap, count);
@@ -534,7 +534,7 @@ CMPIString* getMessage(const CMPIBroker* mb, const char*, const char* defMsg, CM
     });
 }
 
-std::string logText(const char* id, const char* txt, const CMPIString* string) {
+std::string logText(char const* id, char const* txt, CMPIString const* string) {
     std::string body = txt ? std::string(txt) : std::string();
     if (txt == nullptr) {
         if (BrokerString* s = BrokerString::from(string)) {
@@ -544,19 +544,19 @@ std::string logText(const char* id, const char* txt, const CMPIString* string) {
     return id ? std::string(id) + ": " + body : body;
 }
 
-CMPIStatus logMessage(const CMPIBroker* mb, int severity, const char* id, const char* txt,
-                      const CMPIString* string) {
+CMPIStatus logMessage(CMPIBroker const* mb, int severity, char const* id, char const* txt,
+                      CMPIString const* string) {
     return BrokerStatus::guard(registryOf(mb),
                                [&] { brokerOf(mb).log(severity, logText(id, txt, string)); });
 }
 
-CMPIStatus trace(const CMPIBroker* mb, int, const char* component, const char* txt,
-                 const CMPIString* string) {
+CMPIStatus trace(CMPIBroker const* mb, int, char const* component, char const* txt,
+                 CMPIString const* string) {
     return BrokerStatus::guard(
         registryOf(mb), [&] { brokerOf(mb).log(CMPI_DEV_DEBUG, logText(component, txt, string)); });
 }
 
-CMPIError* newCMPIError(const CMPIBroker* mb, const char*, const char*, const char*,
+CMPIError* newCMPIError(CMPIBroker const* mb, char const*, char const*, char const*,
                         const CMPIErrorSeverity, const CMPIErrorProbableCause, const CMPIrc,
                         CMPIStatus* rc) {
     if (rc)
@@ -565,7 +565,7 @@ CMPIError* newCMPIError(const CMPIBroker* mb, const char*, const char*, const ch
 }
 
 // Without message files, every lookup falls back to the default message.
-CMPIStatus openMessageFile(const CMPIBroker* mb, const char*, CMPIMsgFileHandle* handle) {
+CMPIStatus openMessageFile(CMPIBroker const* mb, char const*, CMPIMsgFileHandle* handle) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         brokerOf(mb);
         if (handle != nullptr) {
@@ -574,12 +574,12 @@ CMPIStatus openMessageFile(const CMPIBroker* mb, const char*, CMPIMsgFileHandle*
     });
 }
 
-CMPIStatus closeMessageFile(const CMPIBroker* mb, const CMPIMsgFileHandle) {
+CMPIStatus closeMessageFile(CMPIBroker const* mb, const CMPIMsgFileHandle) {
     return BrokerStatus::guard(registryOf(mb), [&] { brokerOf(mb); });
 }
 
-CMPIString* getMessage2(const CMPIBroker* mb, const char*, const CMPIMsgFileHandle,
-                        const char* defMsg, CMPIStatus* rc, CMPICount count, ...) {
+CMPIString* getMessage2(CMPIBroker const* mb, char const*, const CMPIMsgFileHandle,
+                        char const* defMsg, CMPIStatus* rc, CMPICount count, ...) {
     va_list ap;
     va_start(ap, count);
     std::string msg = formatMessage(defMsg, count, ap);
@@ -613,7 +613,7 @@ const CMPIBrokerEncFT encTable = {CMPICurrentVersion,
 
 // ---- Extended (operating system) table -------------------------------------
 
-char* resolveFileName(const char* filename) {
+char* resolveFileName(char const* filename) {
     if (filename == nullptr) {
         return nullptr;
     }
@@ -760,13 +760,13 @@ const CMPIBrokerExtFT extTable = {
 
 // ---- Memory table ---------------------------------------------------------------
 
-CMPIGcStat* mark(const CMPIBroker* mb, CMPIStatus* rc) {
+CMPIGcStat* mark(CMPIBroker const* mb, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIGcStat*>(registryOf(mb), rc, nullptr, [&] {
         return static_cast<CMPIGcStat*>(brokerOf(mb).registry().pushArena());
     });
 }
 
-CMPIStatus releaseMark(const CMPIBroker* mb, const CMPIGcStat* gc) {
+CMPIStatus releaseMark(CMPIBroker const* mb, CMPIGcStat const* gc) {
     return BrokerStatus::guard(registryOf(mb), [&] {
         auto* arena = static_cast<ObjectRegistry::Arena*>(const_cast<CMPIGcStat*>(gc));
         if (!brokerOf(mb).registry().popArena(arena)) {
@@ -775,12 +775,12 @@ CMPIStatus releaseMark(const CMPIBroker* mb, const CMPIGcStat* gc) {
     });
 }
 
-void* cmpiMalloc(const CMPIBroker* mb, size_t size) {
+void* cmpiMalloc(CMPIBroker const* mb, size_t size) {
     ObjectRegistry* r = registryOf(mb);
     return r ? r->allocate(size) : nullptr;
 }
 
-void* cmpiCalloc(const CMPIBroker* mb, size_t n, size_t size) {
+void* cmpiCalloc(CMPIBroker const* mb, size_t n, size_t size) {
     ObjectRegistry* r = registryOf(mb);
     if (r == nullptr || (size != 0 && n > SIZE_MAX / size)) {
         return nullptr;
@@ -792,12 +792,12 @@ void* cmpiCalloc(const CMPIBroker* mb, size_t n, size_t size) {
     return p;
 }
 
-void* cmpiRealloc(const CMPIBroker* mb, void* p, size_t size) {
+void* cmpiRealloc(CMPIBroker const* mb, void* p, size_t size) {
     ObjectRegistry* r = registryOf(mb);
     return r ? r->reallocate(p, size) : nullptr;
 }
 
-char* cmpiStrDup(const CMPIBroker* mb, const char* s) {
+char* cmpiStrDup(CMPIBroker const* mb, char const* s) {
     ObjectRegistry* r = registryOf(mb);
     if (r == nullptr || s == nullptr) {
         return nullptr;
@@ -810,38 +810,38 @@ char* cmpiStrDup(const CMPIBroker* mb, const char* s) {
     return out;
 }
 
-void cmpiFree(const CMPIBroker* mb, void* p) {
+void cmpiFree(CMPIBroker const* mb, void* p) {
     if (ObjectRegistry* r = registryOf(mb)) {
         r->deallocate(p);
     }
 }
 
-template <class Obj, class C> void freeObject(const CMPIBroker* mb, C* handle) {
+template <class Obj, class C> void freeObject(CMPIBroker const* mb, C* handle) {
     ObjectRegistry* r = registryOf(mb);
     if (Obj* o = Obj::from(handle); r != nullptr && o != nullptr) {
         r->release(o);
     }
 }
 
-void freeInstance(const CMPIBroker* mb, CMPIInstance* i) {
+void freeInstance(CMPIBroker const* mb, CMPIInstance* i) {
     freeObject<BrokerInstance>(mb, i);
 }
-void freeObjectPath(const CMPIBroker* mb, CMPIObjectPath* p) {
+void freeObjectPath(CMPIBroker const* mb, CMPIObjectPath* p) {
     freeObject<BrokerObjectPath>(mb, p);
 }
-void freeArgs(const CMPIBroker* mb, CMPIArgs* a) {
+void freeArgs(CMPIBroker const* mb, CMPIArgs* a) {
     freeObject<BrokerArgs>(mb, a);
 }
-void freeString(const CMPIBroker* mb, CMPIString* s) {
+void freeString(CMPIBroker const* mb, CMPIString* s) {
     freeObject<BrokerString>(mb, s);
 }
-void freeArray(const CMPIBroker* mb, CMPIArray* a) {
+void freeArray(CMPIBroker const* mb, CMPIArray* a) {
     freeObject<BrokerArray>(mb, a);
 }
-void freeDateTime(const CMPIBroker* mb, CMPIDateTime* d) {
+void freeDateTime(CMPIBroker const* mb, CMPIDateTime* d) {
     freeObject<BrokerDateTime>(mb, d);
 }
-void freeSelectExp(const CMPIBroker*, CMPISelectExp*) {
+void freeSelectExp(CMPIBroker const*, CMPISelectExp*) {
     // The broker never makes select expressions.
 }
 
@@ -863,11 +863,11 @@ void Broker::reportVersions(unsigned int brokerVersion, int encapsulatedVersion)
 
 Broker::~Broker() {
     attachedArenas.erase(std::remove_if(attachedArenas.begin(), attachedArenas.end(),
-                                        [this](const auto& e) { return e.first == this; }),
+                                        [this](auto const& e) { return e.first == this; }),
                          attachedArenas.end());
 }
 
-Broker* Broker::from(const CMPIBroker* mb) {
+Broker* Broker::from(CMPIBroker const* mb) {
     // Each broker has its own copy of the table; its functions are what identify it.
     return (mb != nullptr && mb->bft != nullptr &&
             mb->bft->prepareAttachThread == mainTable.prepareAttachThread)
@@ -895,8 +895,8 @@ void Broker::setLog(LogFunction log) {
     _log = std::move(log);
 }
 
-BrokerContext* Broker::newContext(const std::string& nameSpace, CMPIFlags flags,
-                                  const std::string& principal) {
+BrokerContext* Broker::newContext(std::string const& nameSpace, CMPIFlags flags,
+                                  std::string const& principal) {
     return _registry.make<BrokerContext>(
         std::vector<BrokerContext::Entry>{{CMPIInvocationFlags, CimValue::uint32(flags)},
                                           {CMPIInitNameSpace, CimValue::string(nameSpace)},
@@ -911,7 +911,7 @@ BrokerUpcalls& Broker::upcalls() {
     return *_upcalls;
 }
 
-void Broker::deliver(const std::string& nameSpace, const CimInstance& indication) {
+void Broker::deliver(std::string const& nameSpace, CimInstance const& indication) {
     std::shared_ptr<IndicationSink> sink;
     {
         std::lock_guard<std::mutex> lock(_mutex);
@@ -922,8 +922,8 @@ void Broker::deliver(const std::string& nameSpace, const CimInstance& indication
     }
 }
 
-bool Broker::isA(const std::string& nameSpace, const std::string& className,
-                 const std::string& ancestor) {
+bool Broker::isA(std::string const& nameSpace, std::string const& className,
+                 std::string const& ancestor) {
     ClassIsA isA;
     {
         std::lock_guard<std::mutex> lock(_mutex);
@@ -935,7 +935,7 @@ bool Broker::isA(const std::string& nameSpace, const std::string& className,
     return isA ? isA(nameSpace, className, ancestor) : false;
 }
 
-void Broker::log(int severity, const std::string& text) {
+void Broker::log(int severity, std::string const& text) {
     LogFunction log;
     {
         std::lock_guard<std::mutex> lock(_mutex);

@@ -20,19 +20,19 @@ class BrokerContext;
 class Broker {
 public:
     // True when className is ancestor or derives from it in nameSpace.
-    using ClassIsA = std::function<bool(const std::string& nameSpace, const std::string& className,
-                                        const std::string& ancestor)>;
+    using ClassIsA = std::function<bool(std::string const& nameSpace, std::string const& className,
+                                        std::string const& ancestor)>;
     // severity: CMPI_SEV_ERROR, CMPI_SEV_INFO, CMPI_SEV_WARNING, CMPI_DEV_DEBUG.
-    using LogFunction = std::function<void(int severity, const std::string& text)>;
+    using LogFunction = std::function<void(int severity, std::string const& text)>;
 
-    static constexpr const char* name = "veldra-cimd";
+    static constexpr char const* name = "veldra-cimd";
 
     Broker();
     ~Broker();
-    Broker(const Broker&) = delete;
-    Broker& operator=(const Broker&) = delete;
+    Broker(Broker const&) = delete;
+    Broker& operator=(Broker const&) = delete;
 
-    const CMPIBroker* cmpi() const { return &_cmpi; }
+    CMPIBroker const* cmpi() const { return &_cmpi; }
 
     // The versions this broker reports: CMPI 2.0 (200) in both by default.
     // Lower ones let tests stand in for an older object manager (SFCB 1.3
@@ -48,16 +48,16 @@ public:
 
     // A context of the current arena carrying the invocation flags, the
     // namespace (as CMPIInitNameSpace) and the principal.
-    BrokerContext* newContext(const std::string& nameSpace, CMPIFlags flags,
-                              const std::string& principal = std::string());
+    BrokerContext* newContext(std::string const& nameSpace, CMPIFlags flags,
+                              std::string const& principal = std::string());
 
     // Used by the table functions.
-    static Broker* from(const CMPIBroker* mb);
+    static Broker* from(CMPIBroker const* mb);
     BrokerUpcalls& upcalls();
-    void deliver(const std::string& nameSpace, const CimInstance& indication);
-    bool isA(const std::string& nameSpace, const std::string& className,
-             const std::string& ancestor);
-    void log(int severity, const std::string& text);
+    void deliver(std::string const& nameSpace, CimInstance const& indication);
+    bool isA(std::string const& nameSpace, std::string const& className,
+             std::string const& ancestor);
+    void log(int severity, std::string const& text);
 
 private:
     CMPIBrokerFT _mainTable;

@@ -15,13 +15,13 @@ CMPIStatus release(CMPIArgs* a) {
     return BrokerStatus::onStatus<Self>(a, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIArgs* clone(const CMPIArgs* a, CMPIStatus* rc) {
+CMPIArgs* clone(CMPIArgs const* a, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(a, rc, static_cast<CMPIArgs*>(nullptr), [](Self& self) {
         return self.registry().makeDetached<Self>(self.args())->cmpi();
     });
 }
 
-CMPIStatus addArg(const CMPIArgs* a, const char* name, const CMPIValue* value,
+CMPIStatus addArg(CMPIArgs const* a, char const* name, CMPIValue const* value,
                   const CMPIType type) {
     return BrokerStatus::onStatus<Self>(a, [&](Self& self) {
         if (name == nullptr) {
@@ -31,7 +31,7 @@ CMPIStatus addArg(const CMPIArgs* a, const char* name, const CMPIValue* value,
     });
 }
 
-CMPIData getArg(const CMPIArgs* a, const char* name, CMPIStatus* rc) {
+CMPIData getArg(CMPIArgs const* a, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(a, rc, ValueConverter::notFound(), [&](Self& self) {
         for (const auto& [n, v] : self.args()) {
             if (name != nullptr && CimName::equal(n, name)) {
@@ -43,7 +43,7 @@ CMPIData getArg(const CMPIArgs* a, const char* name, CMPIStatus* rc) {
     });
 }
 
-CMPIData getArgAt(const CMPIArgs* a, CMPICount index, CMPIString** name, CMPIStatus* rc) {
+CMPIData getArgAt(CMPIArgs const* a, CMPICount index, CMPIString** name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(a, rc, ValueConverter::notFound(), [&](Self& self) {
         if (index >= self.args().size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
@@ -56,7 +56,7 @@ CMPIData getArgAt(const CMPIArgs* a, CMPICount index, CMPIString** name, CMPISta
     });
 }
 
-CMPICount getArgCount(const CMPIArgs* a, CMPIStatus* rc) {
+CMPICount getArgCount(CMPIArgs const* a, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(
         a, rc, CMPICount(0), [](Self& self) { return static_cast<CMPICount>(self.args().size()); });
 }
@@ -69,7 +69,7 @@ const CMPIArgsFT argsTable = {CMPICurrentVersion, release,    clone, addArg, get
 BrokerArgs::BrokerArgs(ObjectRegistry& registry, std::vector<Arg> args)
     : EncapsulatedObject(registry), _cmpi{this, &argsTable}, _args(std::move(args)) {}
 
-void BrokerArgs::add(const std::string& name, CimValue value) {
+void BrokerArgs::add(std::string const& name, CimValue value) {
     for (Arg& a : _args) {
         if (CimName::equal(a.first, name)) {
             a.second = std::move(value);
@@ -79,6 +79,6 @@ void BrokerArgs::add(const std::string& name, CimValue value) {
     _args.emplace_back(name, std::move(value));
 }
 
-BrokerArgs* BrokerArgs::from(const CMPIArgs* a) {
+BrokerArgs* BrokerArgs::from(CMPIArgs const* a) {
     return (a != nullptr && a->ft == &argsTable) ? static_cast<BrokerArgs*>(a->hdl) : nullptr;
 }

@@ -17,11 +17,11 @@ public:
     BrokerArgs(ObjectRegistry& registry, std::vector<Arg> args = {});
 
     CMPIArgs* cmpi() { return &_cmpi; }
-    const std::vector<Arg>& args() const { return _args; }
-    void add(const std::string& name, CimValue value);
-    const char* cmpiTypeName() const override { return "CMPIArgs"; }
+    std::vector<Arg> const& args() const { return _args; }
+    void add(std::string const& name, CimValue value);
+    char const* cmpiTypeName() const override { return "CMPIArgs"; }
 
-    static BrokerArgs* from(const CMPIArgs* a);
+    static BrokerArgs* from(CMPIArgs const* a);
 
 private:
     CMPIArgs _cmpi;

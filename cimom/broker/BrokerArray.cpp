@@ -17,7 +17,7 @@ CMPIStatus release(CMPIArray* a) {
         a, [](BrokerArray& self) { self.registry().release(&self); });
 }
 
-CMPIArray* clone(const CMPIArray* a, CMPIStatus* rc) {
+CMPIArray* clone(CMPIArray const* a, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerArray>(
         a, rc, static_cast<CMPIArray*>(nullptr), [](BrokerArray& self) {
             return self.registry()
@@ -26,18 +26,18 @@ CMPIArray* clone(const CMPIArray* a, CMPIStatus* rc) {
         });
 }
 
-CMPICount getSize(const CMPIArray* a, CMPIStatus* rc) {
+CMPICount getSize(CMPIArray const* a, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerArray>(a, rc, CMPICount(0), [](BrokerArray& self) {
         return static_cast<CMPICount>(self.elements().size());
     });
 }
 
-CMPIType getSimpleType(const CMPIArray* a, CMPIStatus* rc) {
+CMPIType getSimpleType(CMPIArray const* a, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerArray>(a, rc, CMPIType(CMPI_null),
                                          [](BrokerArray& self) { return self.elementType(); });
 }
 
-CMPIData getElementAt(const CMPIArray* a, CMPICount index, CMPIStatus* rc) {
+CMPIData getElementAt(CMPIArray const* a, CMPICount index, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerArray>(a, rc, ValueConverter::notFound(), [&](BrokerArray& self) {
         if (index >= self.elements().size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
@@ -47,7 +47,7 @@ CMPIData getElementAt(const CMPIArray* a, CMPICount index, CMPIStatus* rc) {
     });
 }
 
-CMPIStatus setElementAt(CMPIArray* a, CMPICount index, const CMPIValue* value, CMPIType type) {
+CMPIStatus setElementAt(CMPIArray* a, CMPICount index, CMPIValue const* value, CMPIType type) {
     return BrokerStatus::onStatus<BrokerArray>(a, [&](BrokerArray& self) {
         if (index >= self.elements().size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
@@ -81,6 +81,6 @@ BrokerArray::BrokerArray(ObjectRegistry& registry, CMPIType elementType,
     : EncapsulatedObject(registry), _cmpi{this, &arrayTable}, _elementType(normalized(elementType)),
       _elements(std::move(elements)) {}
 
-BrokerArray* BrokerArray::from(const CMPIArray* a) {
+BrokerArray* BrokerArray::from(CMPIArray const* a) {
     return (a != nullptr && a->ft == &arrayTable) ? static_cast<BrokerArray*>(a->hdl) : nullptr;
 }

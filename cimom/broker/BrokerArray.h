@@ -16,11 +16,11 @@ public:
     CMPIArray* cmpi() { return &_cmpi; }
     CMPIType elementType() const { return _elementType; }
     std::vector<CimValue>& elements() { return _elements; }
-    const std::vector<CimValue>& elements() const { return _elements; }
+    std::vector<CimValue> const& elements() const { return _elements; }
     CimValue value() const { return CimValue::array(_elementType, _elements); }
-    const char* cmpiTypeName() const override { return "CMPIArray"; }
+    char const* cmpiTypeName() const override { return "CMPIArray"; }
 
-    static BrokerArray* from(const CMPIArray* a);
+    static BrokerArray* from(CMPIArray const* a);
 
 private:
     CMPIArray _cmpi;

@@ -14,13 +14,13 @@ CMPIStatus release(CMPIContext* c) {
     return BrokerStatus::onStatus<Self>(c, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIContext* clone(const CMPIContext* c, CMPIStatus* rc) {
+CMPIContext* clone(CMPIContext const* c, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(c, rc, static_cast<CMPIContext*>(nullptr), [](Self& self) {
         return self.registry().makeDetached<Self>(self.entries())->cmpi();
     });
 }
 
-CMPIData getEntry(const CMPIContext* c, const char* name, CMPIStatus* rc) {
+CMPIData getEntry(CMPIContext const* c, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(c, rc, ValueConverter::notFound(), [&](Self& self) {
         // Context entry names are case-sensitive, as CMPI defines them.
         for (const auto& [n, v] : self.entries()) {
@@ -33,7 +33,7 @@ CMPIData getEntry(const CMPIContext* c, const char* name, CMPIStatus* rc) {
     });
 }
 
-CMPIData getEntryAt(const CMPIContext* c, CMPICount index, CMPIString** name, CMPIStatus* rc) {
+CMPIData getEntryAt(CMPIContext const* c, CMPICount index, CMPIString** name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(c, rc, ValueConverter::notFound(), [&](Self& self) {
         if (index >= self.entries().size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
@@ -46,13 +46,13 @@ CMPIData getEntryAt(const CMPIContext* c, CMPICount index, CMPIString** name, CM
     });
 }
 
-CMPICount getEntryCount(const CMPIContext* c, CMPIStatus* rc) {
+CMPICount getEntryCount(CMPIContext const* c, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(c, rc, CMPICount(0), [](Self& self) {
         return static_cast<CMPICount>(self.entries().size());
     });
 }
 
-CMPIStatus addEntry(const CMPIContext* c, const char* name, const CMPIValue* value,
+CMPIStatus addEntry(CMPIContext const* c, char const* name, CMPIValue const* value,
                     const CMPIType type) {
     return BrokerStatus::onStatus<Self>(c, [&](Self& self) {
         if (name == nullptr) {
@@ -70,7 +70,7 @@ const CMPIContextFT contextTable = {CMPICurrentVersion, release,       clone,   
 BrokerContext::BrokerContext(ObjectRegistry& registry, std::vector<Entry> entries)
     : EncapsulatedObject(registry), _cmpi{this, &contextTable}, _entries(std::move(entries)) {}
 
-void BrokerContext::add(const std::string& name, CimValue value) {
+void BrokerContext::add(std::string const& name, CimValue value) {
     for (Entry& e : _entries) {
         if (e.first == name) {
             e.second = std::move(value);
@@ -80,6 +80,6 @@ void BrokerContext::add(const std::string& name, CimValue value) {
     _entries.emplace_back(name, std::move(value));
 }
 
-BrokerContext* BrokerContext::from(const CMPIContext* c) {
+BrokerContext* BrokerContext::from(CMPIContext const* c) {
     return (c != nullptr && c->ft == &contextTable) ? static_cast<BrokerContext*>(c->hdl) : nullptr;
 }

@@ -17,11 +17,11 @@ public:
     BrokerContext(ObjectRegistry& registry, std::vector<Entry> entries = {});
 
     CMPIContext* cmpi() { return &_cmpi; }
-    const std::vector<Entry>& entries() const { return _entries; }
-    void add(const std::string& name, CimValue value);
-    const char* cmpiTypeName() const override { return "CMPIContext"; }
+    std::vector<Entry> const& entries() const { return _entries; }
+    void add(std::string const& name, CimValue value);
+    char const* cmpiTypeName() const override { return "CMPIContext"; }
 
-    static BrokerContext* from(const CMPIContext* c);
+    static BrokerContext* from(CMPIContext const* c);
 
 private:
     CMPIContext _cmpi;

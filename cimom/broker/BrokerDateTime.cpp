@@ -13,28 +13,28 @@ CMPIStatus release(CMPIDateTime* d) {
         d, [](BrokerDateTime& self) { self.registry().release(&self); });
 }
 
-CMPIDateTime* clone(const CMPIDateTime* d, CMPIStatus* rc) {
+CMPIDateTime* clone(CMPIDateTime const* d, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerDateTime>(
         d, rc, static_cast<CMPIDateTime*>(nullptr), [](BrokerDateTime& self) {
             return self.registry().makeDetached<BrokerDateTime>(self.text())->cmpi();
         });
 }
 
-CMPIUint64 getBinaryFormat(const CMPIDateTime* d, CMPIStatus* rc) {
+CMPIUint64 getBinaryFormat(CMPIDateTime const* d, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerDateTime>(d, rc, CMPIUint64(0), [](BrokerDateTime& self) {
         bool interval = false;
         return static_cast<CMPIUint64>(CimDateTime::toBinary(self.text(), interval));
     });
 }
 
-CMPIString* getStringFormat(const CMPIDateTime* d, CMPIStatus* rc) {
+CMPIString* getStringFormat(CMPIDateTime const* d, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerDateTime>(
         d, rc, static_cast<CMPIString*>(nullptr), [](BrokerDateTime& self) {
             return self.registry().make<BrokerString>(self.text())->cmpi();
         });
 }
 
-CMPIBoolean isInterval(const CMPIDateTime* d, CMPIStatus* rc) {
+CMPIBoolean isInterval(CMPIDateTime const* d, CMPIStatus* rc) {
     return BrokerStatus::on<BrokerDateTime>(d, rc, CMPIBoolean(0), [](BrokerDateTime& self) {
         return static_cast<CMPIBoolean>(CimDateTime::isInterval(self.text()) ? 1 : 0);
     });
@@ -49,7 +49,7 @@ BrokerDateTime::BrokerDateTime(ObjectRegistry& registry, std::string cimText)
     : EncapsulatedObject(registry), _cmpi{this, &dateTimeTable},
       _text(CimValue::dateTime(std::move(cimText)).asString()) {}
 
-BrokerDateTime* BrokerDateTime::from(const CMPIDateTime* d) {
+BrokerDateTime* BrokerDateTime::from(CMPIDateTime const* d) {
     return (d != nullptr && d->ft == &dateTimeTable) ? static_cast<BrokerDateTime*>(d->hdl)
                                                      : nullptr;
 }

@@ -12,11 +12,11 @@ public:
     BrokerDateTime(ObjectRegistry& registry, std::string cimText);
 
     CMPIDateTime* cmpi() { return &_cmpi; }
-    const std::string& text() const { return _text; }
-    const char* cmpiTypeName() const override { return "CMPIDateTime"; }
+    std::string const& text() const { return _text; }
+    char const* cmpiTypeName() const override { return "CMPIDateTime"; }
     std::string describe() const override { return _text; }
 
-    static BrokerDateTime* from(const CMPIDateTime* d);
+    static BrokerDateTime* from(CMPIDateTime const* d);
 
 private:
     CMPIDateTime _cmpi;

@@ -14,13 +14,13 @@ CMPIStatus release(CMPIEnumeration* e) {
     return BrokerStatus::onStatus<Self>(e, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIEnumeration* clone(const CMPIEnumeration* e, CMPIStatus* rc) {
+CMPIEnumeration* clone(CMPIEnumeration const* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, static_cast<CMPIEnumeration*>(nullptr), [](Self& self) {
         return self.registry().makeDetached<Self>(self.items(), self.position())->cmpi();
     });
 }
 
-CMPIData getNext(const CMPIEnumeration* e, CMPIStatus* rc) {
+CMPIData getNext(CMPIEnumeration const* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, ValueConverter::notFound(), [](Self& self) {
         if (self.position() >= self.items().size()) {
             throw CimError(CMPI_RC_ERR_NOT_FOUND, "enumeration is exhausted");
@@ -29,13 +29,13 @@ CMPIData getNext(const CMPIEnumeration* e, CMPIStatus* rc) {
     });
 }
 
-CMPIBoolean hasNext(const CMPIEnumeration* e, CMPIStatus* rc) {
+CMPIBoolean hasNext(CMPIEnumeration const* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, CMPIBoolean(0), [](Self& self) {
         return static_cast<CMPIBoolean>(self.position() < self.items().size() ? 1 : 0);
     });
 }
 
-CMPIArray* toArray(const CMPIEnumeration* e, CMPIStatus* rc) {
+CMPIArray* toArray(CMPIEnumeration const* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, static_cast<CMPIArray*>(nullptr), [](Self& self) {
         const CMPIType type =
             self.items().empty() ? CMPIType(CMPI_ref) : self.items().front().type();
@@ -53,7 +53,7 @@ BrokerEnumeration::BrokerEnumeration(ObjectRegistry& registry, std::vector<CimVa
     : EncapsulatedObject(registry), _cmpi{this, &enumerationTable}, _items(std::move(items)),
       _position(position) {}
 
-BrokerEnumeration* BrokerEnumeration::from(const CMPIEnumeration* e) {
+BrokerEnumeration* BrokerEnumeration::from(CMPIEnumeration const* e) {
     return (e != nullptr && e->ft == &enumerationTable) ? static_cast<BrokerEnumeration*>(e->hdl)
                                                         : nullptr;
 }

@@ -15,11 +15,11 @@ public:
                       std::size_t position = 0);
 
     CMPIEnumeration* cmpi() { return &_cmpi; }
-    const std::vector<CimValue>& items() const { return _items; }
+    std::vector<CimValue> const& items() const { return _items; }
     std::size_t& position() { return _position; }
-    const char* cmpiTypeName() const override { return "CMPIEnumeration"; }
+    char const* cmpiTypeName() const override { return "CMPIEnumeration"; }
 
-    static BrokerEnumeration* from(const CMPIEnumeration* e);
+    static BrokerEnumeration* from(CMPIEnumeration const* e);
 
 private:
     CMPIEnumeration _cmpi;

@@ -16,13 +16,13 @@ CMPIStatus release(CMPIInstance* inst) {
     return BrokerStatus::onStatus<Self>(inst, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIInstance* clone(const CMPIInstance* inst, CMPIStatus* rc) {
+CMPIInstance* clone(CMPIInstance const* inst, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, static_cast<CMPIInstance*>(nullptr), [](Self& self) {
         return self.registry().makeDetached<Self>(self.instance())->cmpi();
     });
 }
 
-CMPIData getProperty(const CMPIInstance* inst, const char* name, CMPIStatus* rc) {
+CMPIData getProperty(CMPIInstance const* inst, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, ValueConverter::notFound(), [&](Self& self) {
         const CimValue* v = name ? self.instance().property(name) : nullptr;
         if (v == nullptr) {
@@ -33,7 +33,7 @@ CMPIData getProperty(const CMPIInstance* inst, const char* name, CMPIStatus* rc)
     });
 }
 
-CMPIData getPropertyAt(const CMPIInstance* inst, CMPICount index, CMPIString** name,
+CMPIData getPropertyAt(CMPIInstance const* inst, CMPICount index, CMPIString** name,
                        CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, ValueConverter::notFound(), [&](Self& self) {
         const auto& props = self.instance().properties();
@@ -48,13 +48,13 @@ CMPIData getPropertyAt(const CMPIInstance* inst, CMPICount index, CMPIString** n
     });
 }
 
-CMPICount getPropertyCount(const CMPIInstance* inst, CMPIStatus* rc) {
+CMPICount getPropertyCount(CMPIInstance const* inst, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, CMPICount(0), [](Self& self) {
         return static_cast<CMPICount>(self.instance().properties().size());
     });
 }
 
-CMPIStatus setProperty(const CMPIInstance* inst, const char* name, const CMPIValue* value,
+CMPIStatus setProperty(CMPIInstance const* inst, char const* name, CMPIValue const* value,
                        CMPIType type) {
     return BrokerStatus::onStatus<Self>(inst, [&](Self& self) {
         if (name == nullptr) {
@@ -64,13 +64,13 @@ CMPIStatus setProperty(const CMPIInstance* inst, const char* name, const CMPIVal
     });
 }
 
-CMPIObjectPath* getObjectPath(const CMPIInstance* inst, CMPIStatus* rc) {
+CMPIObjectPath* getObjectPath(CMPIInstance const* inst, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, static_cast<CMPIObjectPath*>(nullptr), [](Self& self) {
         return self.registry().make<BrokerObjectPath>(self.instance().path())->cmpi();
     });
 }
 
-CMPIStatus setPropertyFilter(CMPIInstance* inst, const char** propertyList, const char**) {
+CMPIStatus setPropertyFilter(CMPIInstance* inst, char const** propertyList, char const**) {
     return BrokerStatus::onStatus<Self>(inst, [&](Self& self) {
         if (propertyList == nullptr) {
             self.setFilter(std::nullopt);
@@ -84,7 +84,7 @@ CMPIStatus setPropertyFilter(CMPIInstance* inst, const char** propertyList, cons
     });
 }
 
-CMPIStatus setObjectPath(CMPIInstance* inst, const CMPIObjectPath* op) {
+CMPIStatus setObjectPath(CMPIInstance* inst, CMPIObjectPath const* op) {
     return BrokerStatus::onStatus<Self>(inst, [&](Self& self) {
         BrokerObjectPath* path = BrokerObjectPath::from(op);
         if (path == nullptr) {
@@ -94,8 +94,8 @@ CMPIStatus setObjectPath(CMPIInstance* inst, const CMPIObjectPath* op) {
     });
 }
 
-CMPIStatus setPropertyWithOrigin(const CMPIInstance* inst, const char* name, const CMPIValue* value,
-                                 const CMPIType type, const char*) {
+CMPIStatus setPropertyWithOrigin(CMPIInstance const* inst, char const* name, CMPIValue const* value,
+                                 const CMPIType type, char const*) {
     // The class origin is not kept: responses take it from the class repository.
     return setProperty(inst, name, value, type);
 }
@@ -111,23 +111,24 @@ BrokerInstance::BrokerInstance(ObjectRegistry& registry, CimInstance instance)
     : EncapsulatedObject(registry), _cmpi{this, &instanceTable}, _instance(std::move(instance)) {}
 
 void BrokerInstance::setProperty(std::string_view name, CimValue value) {
-    const bool isKey = _instance.path().key(name) != nullptr;
+    bool const isKey = _instance.path().key(name) != nullptr;
     if (_filter && !isKey) {
         bool listed = false;
-        for (const std::string& n : *_filter) {
+        for (std::string const& n : *_filter) {
             listed = listed || CimName::equal(n, name);
         }
         if (!listed) {
             return;
         }
     }
-    if (isKey) _instance.setKey(std::string(name), value);
+    if (isKey)
+        _instance.setKey(std::string(name), value);
     _instance.setProperty(name, std::move(value));
 }
 
 std::string BrokerInstance::describe() const {
     std::string out = "instance of " + _instance.className() + " {";
-    for (const auto& p : _instance.properties()) {
+    for (auto const& p : _instance.properties()) {
         out += " " + p.name + "=";
         out +=
             p.value.isNull() ? "NULL"
@@ -139,7 +140,7 @@ std::string BrokerInstance::describe() const {
     return out + " }";
 }
 
-BrokerInstance* BrokerInstance::from(const CMPIInstance* inst) {
+BrokerInstance* BrokerInstance::from(CMPIInstance const* inst) {
     return (inst != nullptr && inst->ft == &instanceTable) ? static_cast<BrokerInstance*>(inst->hdl)
                                                            : nullptr;
 }

@@ -18,15 +18,15 @@ public:
 
     CMPIInstance* cmpi() { return &_cmpi; }
     CimInstance& instance() { return _instance; }
-    const CimInstance& instance() const { return _instance; }
-    const char* cmpiTypeName() const override { return "CMPIInstance"; }
+    CimInstance const& instance() const { return _instance; }
+    char const* cmpiTypeName() const override { return "CMPIInstance"; }
     std::string describe() const override;
 
     // Honours a filter set with setPropertyFilter.
     void setProperty(std::string_view name, CimValue value);
     void setFilter(std::optional<std::vector<std::string>> filter) { _filter = std::move(filter); }
 
-    static BrokerInstance* from(const CMPIInstance* inst);
+    static BrokerInstance* from(CMPIInstance const* inst);
 
 private:
     CMPIInstance _cmpi;

@@ -10,7 +10,7 @@ namespace {
 
 using Self = BrokerObjectPath;
 
-CMPIString* newString(Self& self, const std::string& s) {
+CMPIString* newString(Self& self, std::string const& s) {
     return self.registry().make<BrokerString>(s)->cmpi();
 }
 
@@ -18,64 +18,64 @@ CMPIStatus release(CMPIObjectPath* op) {
     return BrokerStatus::onStatus<Self>(op, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIObjectPath* clone(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIObjectPath* clone(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, static_cast<CMPIObjectPath*>(nullptr), [](Self& self) {
         return self.registry().makeDetached<Self>(self.path())->cmpi();
     });
 }
 
-const char* required(const char* s, const char* what) {
+char const* required(char const* s, char const* what) {
     if (s == nullptr) {
         throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, std::string(what) + " is null");
     }
     return s;
 }
 
-CMPIStatus setNameSpace(CMPIObjectPath* op, const char* ns) {
+CMPIStatus setNameSpace(CMPIObjectPath* op, char const* ns) {
     return BrokerStatus::onStatus<Self>(
         op, [&](Self& self) { self.path().setNameSpace(ns ? ns : ""); });
 }
 
-CMPIString* getNameSpace(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIString* getNameSpace(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
         return newString(self, self.path().nameSpace());
     });
 }
 
-CMPIStatus setHostname(CMPIObjectPath* op, const char* hn) {
+CMPIStatus setHostname(CMPIObjectPath* op, char const* hn) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) { self.path().setHost(hn ? hn : ""); });
 }
 
-CMPIString* getHostname(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIString* getHostname(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr),
                                   [](Self& self) { return newString(self, self.path().host()); });
 }
 
-CMPIStatus setClassName(CMPIObjectPath* op, const char* cn) {
+CMPIStatus setClassName(CMPIObjectPath* op, char const* cn) {
     return BrokerStatus::onStatus<Self>(
         op, [&](Self& self) { self.path().setClassName(required(cn, "class name")); });
 }
 
-CMPIString* getClassName(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIString* getClassName(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
         return newString(self, self.path().className());
     });
 }
 
-CMPIStatus addKey(CMPIObjectPath* op, const char* name, const CMPIValue* value,
+CMPIStatus addKey(CMPIObjectPath* op, char const* name, CMPIValue const* value,
                   const CMPIType type) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) {
         self.path().addKey(required(name, "key name"), ValueConverter::toCim(value, type));
     });
 }
 
-CMPIData keyData(Self& self, const CimValue& v) {
+CMPIData keyData(Self& self, CimValue const& v) {
     CMPIData d = ValueConverter::toData(self.registry(), v);
     d.state = static_cast<CMPIValueState>(d.state | CMPI_keyValue);
     return d;
 }
 
-CMPIData getKey(const CMPIObjectPath* op, const char* name, CMPIStatus* rc) {
+CMPIData getKey(CMPIObjectPath const* op, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [&](Self& self) {
         const CimValue* v = self.path().key(required(name, "key name"));
         if (v == nullptr) {
@@ -85,7 +85,7 @@ CMPIData getKey(const CMPIObjectPath* op, const char* name, CMPIStatus* rc) {
     });
 }
 
-CMPIData getKeyAt(const CMPIObjectPath* op, CMPICount index, CMPIString** name, CMPIStatus* rc) {
+CMPIData getKeyAt(CMPIObjectPath const* op, CMPICount index, CMPIString** name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [&](Self& self) {
         const auto& keys = self.path().keys();
         if (index >= keys.size()) {
@@ -99,13 +99,13 @@ CMPIData getKeyAt(const CMPIObjectPath* op, CMPICount index, CMPIString** name, 
     });
 }
 
-CMPICount getKeyCount(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPICount getKeyCount(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, CMPICount(0), [](Self& self) {
         return static_cast<CMPICount>(self.path().keys().size());
     });
 }
 
-CMPIStatus setNameSpaceFromObjectPath(CMPIObjectPath* op, const CMPIObjectPath* src) {
+CMPIStatus setNameSpaceFromObjectPath(CMPIObjectPath* op, CMPIObjectPath const* src) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) {
         Self* from = Self::from(src);
         if (from == nullptr) {
@@ -115,7 +115,7 @@ CMPIStatus setNameSpaceFromObjectPath(CMPIObjectPath* op, const CMPIObjectPath* 
     });
 }
 
-CMPIStatus setHostAndNameSpaceFromObjectPath(CMPIObjectPath* op, const CMPIObjectPath* src) {
+CMPIStatus setHostAndNameSpaceFromObjectPath(CMPIObjectPath* op, CMPIObjectPath const* src) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) {
         Self* from = Self::from(src);
         if (from == nullptr) {
@@ -127,26 +127,26 @@ CMPIStatus setHostAndNameSpaceFromObjectPath(CMPIObjectPath* op, const CMPIObjec
 }
 
 // Qualifier access would need the class repository; no provider of ours asks.
-CMPIData noQualifiers(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIData noQualifiers(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [](Self&) -> CMPIData {
         throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "qualifiers are not available to providers");
     });
 }
-CMPIData getClassQualifier(const CMPIObjectPath* op, const char*, CMPIStatus* rc) {
+CMPIData getClassQualifier(CMPIObjectPath const* op, char const*, CMPIStatus* rc) {
     return noQualifiers(op, rc);
 }
-CMPIData getPropertyQualifier(const CMPIObjectPath* op, const char*, const char*, CMPIStatus* rc) {
+CMPIData getPropertyQualifier(CMPIObjectPath const* op, char const*, char const*, CMPIStatus* rc) {
     return noQualifiers(op, rc);
 }
-CMPIData getMethodQualifier(const CMPIObjectPath* op, const char*, const char*, CMPIStatus* rc) {
+CMPIData getMethodQualifier(CMPIObjectPath const* op, char const*, char const*, CMPIStatus* rc) {
     return noQualifiers(op, rc);
 }
-CMPIData getParameterQualifier(const CMPIObjectPath* op, const char*, const char*, const char*,
+CMPIData getParameterQualifier(CMPIObjectPath const* op, char const*, char const*, char const*,
                                CMPIStatus* rc) {
     return noQualifiers(op, rc);
 }
 
-CMPIString* toString(const CMPIObjectPath* op, CMPIStatus* rc) {
+CMPIString* toString(CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, static_cast<CMPIString*>(nullptr), [](Self& self) {
         return newString(self, self.path().toString());
     });
@@ -178,7 +178,7 @@ const CMPIObjectPathFT pathTable = {CMPICurrentVersion,
 BrokerObjectPath::BrokerObjectPath(ObjectRegistry& registry, CimObjectPath path)
     : EncapsulatedObject(registry), _cmpi{this, &pathTable}, _path(std::move(path)) {}
 
-BrokerObjectPath* BrokerObjectPath::from(const CMPIObjectPath* op) {
+BrokerObjectPath* BrokerObjectPath::from(CMPIObjectPath const* op) {
     return (op != nullptr && op->ft == &pathTable) ? static_cast<BrokerObjectPath*>(op->hdl)
                                                    : nullptr;
 }

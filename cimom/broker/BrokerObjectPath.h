@@ -11,11 +11,11 @@ public:
 
     CMPIObjectPath* cmpi() { return &_cmpi; }
     CimObjectPath& path() { return _path; }
-    const CimObjectPath& path() const { return _path; }
-    const char* cmpiTypeName() const override { return "CMPIObjectPath"; }
+    CimObjectPath const& path() const { return _path; }
+    char const* cmpiTypeName() const override { return "CMPIObjectPath"; }
     std::string describe() const override { return _path.toString(); }
 
-    static BrokerObjectPath* from(const CMPIObjectPath* op);
+    static BrokerObjectPath* from(CMPIObjectPath const* op);
 
 private:
     CMPIObjectPath _cmpi;

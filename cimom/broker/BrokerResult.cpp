@@ -15,19 +15,19 @@ CMPIStatus release(CMPIResult* r) {
     return BrokerStatus::onStatus<Self>(r, [](Self& self) { self.registry().release(&self); });
 }
 
-CMPIResult* clone(const CMPIResult* r, CMPIStatus* rc) {
+CMPIResult* clone(CMPIResult const* r, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(
         r, rc, static_cast<CMPIResult*>(nullptr), [](Self&) -> CMPIResult* {
             throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "a result cannot be cloned");
         });
 }
 
-CMPIStatus returnData(const CMPIResult* r, const CMPIValue* value, const CMPIType type) {
+CMPIStatus returnData(CMPIResult const* r, CMPIValue const* value, const CMPIType type) {
     return BrokerStatus::onStatus<Self>(
         r, [&](Self& self) { self.addData(ValueConverter::toCim(value, type)); });
 }
 
-CMPIStatus returnInstance(const CMPIResult* r, const CMPIInstance* inst) {
+CMPIStatus returnInstance(CMPIResult const* r, CMPIInstance const* inst) {
     return BrokerStatus::onStatus<Self>(r, [&](Self& self) {
         BrokerInstance* i = BrokerInstance::from(inst);
         if (i == nullptr) {
@@ -38,7 +38,7 @@ CMPIStatus returnInstance(const CMPIResult* r, const CMPIInstance* inst) {
     });
 }
 
-CMPIStatus returnObjectPath(const CMPIResult* r, const CMPIObjectPath* ref) {
+CMPIStatus returnObjectPath(CMPIResult const* r, CMPIObjectPath const* ref) {
     return BrokerStatus::onStatus<Self>(r, [&](Self& self) {
         BrokerObjectPath* p = BrokerObjectPath::from(ref);
         if (p == nullptr) {
@@ -48,11 +48,11 @@ CMPIStatus returnObjectPath(const CMPIResult* r, const CMPIObjectPath* ref) {
     });
 }
 
-CMPIStatus returnDone(const CMPIResult* r) {
+CMPIStatus returnDone(CMPIResult const* r) {
     return BrokerStatus::onStatus<Self>(r, [](Self& self) { self.markDone(); });
 }
 
-CMPIStatus returnError(const CMPIResult* r, const CMPIError*) {
+CMPIStatus returnError(CMPIResult const* r, CMPIError const*) {
     return BrokerStatus::onStatus<Self>(r, [](Self&) {
         throw CimError(CMPI_RC_ERR_NOT_SUPPORTED, "extended errors are not supported");
     });
@@ -106,6 +106,6 @@ bool BrokerResult::done() const {
     return _done;
 }
 
-BrokerResult* BrokerResult::from(const CMPIResult* r) {
+BrokerResult* BrokerResult::from(CMPIResult const* r) {
     return (r != nullptr && r->ft == &resultTable) ? static_cast<BrokerResult*>(r->hdl) : nullptr;
 }

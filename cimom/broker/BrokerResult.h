@@ -16,7 +16,7 @@ public:
     explicit BrokerResult(ObjectRegistry& registry);
 
     CMPIResult* cmpi() { return &_cmpi; }
-    const char* cmpiTypeName() const override { return "CMPIResult"; }
+    char const* cmpiTypeName() const override { return "CMPIResult"; }
 
     void addInstance(CimInstance inst);
     void addPath(CimObjectPath path);
@@ -28,7 +28,7 @@ public:
     std::vector<CimValue> takeData();
     bool done() const;
 
-    static BrokerResult* from(const CMPIResult* r);
+    static BrokerResult* from(CMPIResult const* r);
 
 private:
     CMPIResult _cmpi;

@@ -6,7 +6,7 @@
 #include "CimError.h"
 #include "ObjectRegistry.h"
 
-CMPIStatus BrokerStatus::make(ObjectRegistry* registry, CMPIrc rc, const std::string& message) {
+CMPIStatus BrokerStatus::make(ObjectRegistry* registry, CMPIrc rc, std::string const& message) {
     CMPIStatus st{rc, nullptr};
     if (registry != nullptr && !message.empty()) {
         try {
@@ -19,7 +19,7 @@ CMPIStatus BrokerStatus::make(ObjectRegistry* registry, CMPIrc rc, const std::st
 }
 
 void BrokerStatus::set(CMPIStatus* out, ObjectRegistry* registry, CMPIrc rc,
-                       const std::string& message) {
+                       std::string const& message) {
     if (out != nullptr) {
         *out = make(registry, rc, message);
     }
@@ -28,20 +28,20 @@ void BrokerStatus::set(CMPIStatus* out, ObjectRegistry* registry, CMPIrc rc,
 CMPIStatus BrokerStatus::fromCurrentException(ObjectRegistry* registry) {
     try {
         throw;
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         return make(registry, e.code(), e.description());
-    } catch (const std::exception& e) {
+    } catch (std::exception const& e) {
         return make(registry, CMPI_RC_ERR_FAILED, e.what());
     } catch (...) {
         return make(registry, CMPI_RC_ERR_FAILED, "unknown exception in the broker");
     }
 }
 
-std::string BrokerStatus::message(const CMPIStatus& status) {
+std::string BrokerStatus::message(CMPIStatus const& status) {
     if (status.msg == nullptr || status.msg->ft == nullptr ||
         status.msg->ft->getCharPtr == nullptr) {
         return std::string();
     }
-    const char* text = status.msg->ft->getCharPtr(status.msg, nullptr);
+    char const* text = status.msg->ft->getCharPtr(status.msg, nullptr);
     return text != nullptr ? std::string(text) : std::string();
 }

@@ -13,9 +13,9 @@ class BrokerStatus {
 public:
     static CMPIStatus ok() { return CMPIStatus{CMPI_RC_OK, nullptr}; }
     // The message is a CMPIString of the current arena (none without a registry).
-    static CMPIStatus make(ObjectRegistry* registry, CMPIrc rc, const std::string& message);
+    static CMPIStatus make(ObjectRegistry* registry, CMPIrc rc, std::string const& message);
     static void set(CMPIStatus* out, ObjectRegistry* registry, CMPIrc rc,
-                    const std::string& message);
+                    std::string const& message);
     static void setOk(CMPIStatus* out) {
         if (out != nullptr) {
             *out = ok();
@@ -24,7 +24,7 @@ public:
     // Call from inside a catch block.
     static CMPIStatus fromCurrentException(ObjectRegistry* registry);
     // The text of a status a provider returned ("" without a message).
-    static std::string message(const CMPIStatus& status);
+    static std::string message(CMPIStatus const& status);
 
     // Runs f on the object behind a C handle of type Obj, or answers
     // CMPI_RC_ERR_INVALID_HANDLE when the handle is not one of ours.

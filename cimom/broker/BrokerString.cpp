@@ -14,7 +14,7 @@ CMPIStatus release(CMPIString* s) {
     return BrokerStatus::ok();
 }
 
-CMPIString* clone(const CMPIString* s, CMPIStatus* rc) {
+CMPIString* clone(CMPIString const* s, CMPIStatus* rc) {
     BrokerString* self = BrokerString::from(s);
     if (self == nullptr) {
         BrokerStatus::set(rc, nullptr, CMPI_RC_ERR_INVALID_HANDLE, "");
@@ -25,7 +25,7 @@ CMPIString* clone(const CMPIString* s, CMPIStatus* rc) {
     });
 }
 
-char* getCharPtr(const CMPIString* s, CMPIStatus* rc) {
+char* getCharPtr(CMPIString const* s, CMPIStatus* rc) {
     BrokerString* self = BrokerString::from(s);
     if (self == nullptr) {
         BrokerStatus::set(rc, nullptr, CMPI_RC_ERR_INVALID_HANDLE, "");
@@ -42,6 +42,6 @@ const CMPIStringFT stringTable = {CMPICurrentVersion, release, clone, getCharPtr
 BrokerString::BrokerString(ObjectRegistry& registry, std::string text)
     : EncapsulatedObject(registry), _cmpi{this, &stringTable}, _text(std::move(text)) {}
 
-BrokerString* BrokerString::from(const CMPIString* s) {
+BrokerString* BrokerString::from(CMPIString const* s) {
     return (s != nullptr && s->ft == &stringTable) ? static_cast<BrokerString*>(s->hdl) : nullptr;
 }

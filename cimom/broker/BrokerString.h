@@ -11,12 +11,12 @@ public:
     BrokerString(ObjectRegistry& registry, std::string text);
 
     CMPIString* cmpi() { return &_cmpi; }
-    const std::string& text() const { return _text; }
-    const char* cmpiTypeName() const override { return "CMPIString"; }
+    std::string const& text() const { return _text; }
+    char const* cmpiTypeName() const override { return "CMPIString"; }
     std::string describe() const override { return _text; }
 
     // The object behind a CMPIString of ours, or null for anything else.
-    static BrokerString* from(const CMPIString* s);
+    static BrokerString* from(CMPIString const* s);
 
 private:
     CMPIString _cmpi;

@@ -19,27 +19,27 @@ public:
 
     virtual ~BrokerUpcalls() = default;
 
-    virtual std::vector<CimObjectPath> enumerateInstanceNames(const CimObjectPath& classPath) = 0;
-    virtual std::vector<CimInstance> enumerateInstances(const CimObjectPath& classPath,
-                                                        const PropertyList* propertyList) = 0;
-    virtual CimInstance getInstance(const CimObjectPath& path,
-                                    const PropertyList* propertyList) = 0;
+    virtual std::vector<CimObjectPath> enumerateInstanceNames(CimObjectPath const& classPath) = 0;
+    virtual std::vector<CimInstance> enumerateInstances(CimObjectPath const& classPath,
+                                                        PropertyList const* propertyList) = 0;
+    virtual CimInstance getInstance(CimObjectPath const& path,
+                                    PropertyList const* propertyList) = 0;
     virtual std::vector<CimInstance>
-    associators(const CimObjectPath& path, const std::string& assocClass,
-                const std::string& resultClass, const std::string& role,
-                const std::string& resultRole, const PropertyList* propertyList) = 0;
-    virtual std::vector<CimObjectPath> associatorNames(const CimObjectPath& path,
-                                                       const std::string& assocClass,
-                                                       const std::string& resultClass,
-                                                       const std::string& role,
-                                                       const std::string& resultRole) = 0;
-    virtual std::vector<CimInstance> references(const CimObjectPath& path,
-                                                const std::string& resultClass,
-                                                const std::string& role,
-                                                const PropertyList* propertyList) = 0;
-    virtual std::vector<CimObjectPath> referenceNames(const CimObjectPath& path,
-                                                      const std::string& resultClass,
-                                                      const std::string& role) = 0;
-    virtual MethodResult invokeMethod(const CimObjectPath& path, const std::string& method,
-                                      const Args& inArgs) = 0;
+    associators(CimObjectPath const& path, std::string const& assocClass,
+                std::string const& resultClass, std::string const& role,
+                std::string const& resultRole, PropertyList const* propertyList) = 0;
+    virtual std::vector<CimObjectPath> associatorNames(CimObjectPath const& path,
+                                                       std::string const& assocClass,
+                                                       std::string const& resultClass,
+                                                       std::string const& role,
+                                                       std::string const& resultRole) = 0;
+    virtual std::vector<CimInstance> references(CimObjectPath const& path,
+                                                std::string const& resultClass,
+                                                std::string const& role,
+                                                PropertyList const* propertyList) = 0;
+    virtual std::vector<CimObjectPath> referenceNames(CimObjectPath const& path,
+                                                      std::string const& resultClass,
+                                                      std::string const& role) = 0;
+    virtual MethodResult invokeMethod(CimObjectPath const& path, std::string const& method,
+                                      Args const& inArgs) = 0;
 };

@@ -11,12 +11,12 @@ namespace {
 constexpr std::uint64_t usPerSecond = 1000000ULL;
 constexpr std::uint64_t secondsPerDay = 86400ULL;
 
-[[noreturn]] void bad(const std::string& text, const char* why) {
+[[noreturn]] void bad(std::string const& text, char const* why) {
     throw CimError(CMPI_RC_ERR_INVALID_PARAMETER,
                    "datetime \"" + text + "\" has no binary value: " + why);
 }
 
-std::uint64_t digits(const std::string& s, std::size_t from, std::size_t count) {
+std::uint64_t digits(std::string const& s, std::size_t from, std::size_t count) {
     std::uint64_t v = 0;
     for (std::size_t i = from; i < from + count; ++i) {
         if (s[i] < '0' || s[i] > '9') {
@@ -52,11 +52,11 @@ std::string CimDateTime::fromBinary(std::uint64_t microseconds, bool interval) {
     return buf;
 }
 
-bool CimDateTime::isInterval(const std::string& text) {
+bool CimDateTime::isInterval(std::string const& text) {
     return text.size() == 25 && text[21] == ':';
 }
 
-std::uint64_t CimDateTime::toBinary(const std::string& text, bool& interval) {
+std::uint64_t CimDateTime::toBinary(std::string const& text, bool& interval) {
     // Validates the shape (and throws on bad text) before reading digits.
     CimValue::dateTime(text);
     interval = isInterval(text);
@@ -88,7 +88,7 @@ std::uint64_t CimDateTime::toBinary(const std::string& text, bool& interval) {
 }
 
 std::uint64_t CimDateTime::nowMicroseconds() {
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    auto const now = std::chrono::system_clock::now().time_since_epoch();
     return static_cast<std::uint64_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(now).count());
 }

@@ -13,7 +13,7 @@ public:
     static std::string fromBinary(std::uint64_t microseconds, bool interval);
     // Throws CimError(CMPI_RC_ERR_INVALID_PARAMETER) on malformed text or on
     // a text with unspecified ('*') fields, which has no binary value.
-    static std::uint64_t toBinary(const std::string& text, bool& interval);
-    static bool isInterval(const std::string& text);
+    static std::uint64_t toBinary(std::string const& text, bool& interval);
+    static bool isInterval(std::string const& text);
     static std::uint64_t nowMicroseconds();
 };

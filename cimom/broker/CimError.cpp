@@ -8,7 +8,7 @@ namespace {
 // "CMPI_RC_" before the part of a name that the CIM name shares.
 constexpr std::size_t cmpiPrefix = 8;
 
-std::string whatText(CMPIrc code, const std::string& description) {
+std::string whatText(CMPIrc code, std::string const& description) {
     std::string text = CimError::codeName(code);
     if (!description.empty()) {
         text += ": " + description;
@@ -17,10 +17,10 @@ std::string whatText(CMPIrc code, const std::string& description) {
 }
 } // namespace
 
-CimError::CimError(CMPIrc code, const std::string& description)
+CimError::CimError(CMPIrc code, std::string const& description)
     : std::runtime_error(whatText(code, description)), _code(code), _description(description) {}
 
-const char* CimError::codeName(int code) {
+char const* CimError::codeName(int code) {
     // The CIM status codes 1..17 are the CMPI codes of the same number; their
     // names are the CMPI names with the CIM prefix.
     static const std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> shared = [] {
@@ -30,7 +30,7 @@ const char* CimError::codeName(int code) {
         return names;
     }();
     // The codes of pulled enumerations came after CMPI 2.0 and exist in CIM-XML only.
-    static const char* const pullCodes[] = {
+    static char const* const pullCodes[] = {
         "CIM_ERR_NAMESPACE_NOT_EMPTY",
         "CIM_ERR_INVALID_ENUMERATION_CONTEXT",
         "CIM_ERR_INVALID_OPERATION_TIMEOUT",
@@ -48,7 +48,7 @@ const char* CimError::codeName(int code) {
     // CMPI's own codes keep their CMPI names; a provider may also hand back
     // any other integer, which is still a failure.
     if (code != CMPI_RC_OK) {
-        if (const char* name = cmpiRcName(static_cast<CMPIrc>(code)))
+        if (char const* name = cmpiRcName(static_cast<CMPIrc>(code)))
             return name;
     }
     return "CIM_ERR_FAILED";

@@ -10,15 +10,15 @@
 // the CIM-XML ERROR CODE (the CMPI codes 1..17 are the CIM status codes).
 class CimError : public std::runtime_error {
 public:
-    CimError(CMPIrc code, const std::string& description);
+    CimError(CMPIrc code, std::string const& description);
 
     CMPIrc code() const { return _code; }
-    const std::string& description() const { return _description; }
+    std::string const& description() const { return _description; }
 
     // "CIM_ERR_NOT_FOUND" and the like, for logs and messages: any CIM status
     // code, including those of pulled enumerations; "CIM_ERR_FAILED" for codes
     // nobody defines.
-    static const char* codeName(int code);
+    static char const* codeName(int code);
 
 private:
     CMPIrc _code;

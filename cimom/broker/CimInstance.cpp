@@ -14,8 +14,8 @@ void CimInstance::setProperty(std::string_view name, CimValue value) {
     _properties.push_back(Property{std::string(name), std::move(value)});
 }
 
-const CimValue* CimInstance::property(std::string_view name) const {
-    for (const Property& p : _properties) {
+CimValue const* CimInstance::property(std::string_view name) const {
+    for (Property const& p : _properties) {
         if (CimName::equal(p.name, name)) {
             return &p.value;
         }
@@ -24,8 +24,8 @@ const CimValue* CimInstance::property(std::string_view name) const {
 }
 
 bool CimInstance::removeProperty(std::string_view name) {
-    const auto it = std::find_if(_properties.begin(), _properties.end(),
-                                 [&](const Property& p) { return CimName::equal(p.name, name); });
+    auto const it = std::find_if(_properties.begin(), _properties.end(),
+                                 [&](Property const& p) { return CimName::equal(p.name, name); });
     if (it == _properties.end()) {
         return false;
     }
@@ -33,15 +33,15 @@ bool CimInstance::removeProperty(std::string_view name) {
     return true;
 }
 
-CimInstance CimInstance::filtered(const std::vector<std::string>* propertyList) const {
+CimInstance CimInstance::filtered(std::vector<std::string> const* propertyList) const {
     if (propertyList == nullptr) {
         return *this;
     }
     CimInstance out(_path);
-    for (const Property& p : _properties) {
-        const bool wanted =
+    for (Property const& p : _properties) {
+        bool const wanted =
             std::any_of(propertyList->begin(), propertyList->end(),
-                        [&](const std::string& n) { return CimName::equal(n, p.name); });
+                        [&](std::string const& n) { return CimName::equal(n, p.name); });
         if (wanted) {
             out._properties.push_back(p);
         }
@@ -49,11 +49,11 @@ CimInstance CimInstance::filtered(const std::vector<std::string>* propertyList) 
     return out;
 }
 
-bool CimInstance::operator==(const CimInstance& other) const {
+bool CimInstance::operator==(CimInstance const& other) const {
     if (_path != other._path || _properties.size() != other._properties.size()) {
         return false;
     }
-    return std::all_of(_properties.begin(), _properties.end(), [&](const Property& p) {
+    return std::all_of(_properties.begin(), _properties.end(), [&](Property const& p) {
         const CimValue* v = other.property(p.name);
         return v != nullptr && *v == p.value;
     });

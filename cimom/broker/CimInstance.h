@@ -20,27 +20,29 @@ public:
     CimInstance() = default;
     explicit CimInstance(CimObjectPath path) : _path(std::move(path)) {}
 
-    const CimObjectPath& path() const { return _path; }
+    CimObjectPath const& path() const { return _path; }
     void setPath(CimObjectPath path) { _path = std::move(path); }
     // Sets one key of the path in place.
-    void setKey(std::string name, CimValue value) { _path.addKey(std::move(name), std::move(value)); }
-    const std::string& className() const { return _path.className(); }
+    void setKey(std::string name, CimValue value) {
+        _path.addKey(std::move(name), std::move(value));
+    }
+    std::string const& className() const { return _path.className(); }
 
-    const std::vector<Property>& properties() const { return _properties; }
+    std::vector<Property> const& properties() const { return _properties; }
     void setProperty(std::string_view name, CimValue value);
     // Room for this many properties, for an instance built one by one.
     void reserve(std::size_t properties) { _properties.reserve(properties); }
     // The value, or null when the instance has no such property.
-    const CimValue* property(std::string_view name) const;
+    CimValue const* property(std::string_view name) const;
     bool removeProperty(std::string_view name);
 
     // Only the named properties (names without regard to case), order kept.
     // A null list means all; an empty list means none.
-    CimInstance filtered(const std::vector<std::string>* propertyList) const;
+    CimInstance filtered(std::vector<std::string> const* propertyList) const;
 
     // Same path, same properties in any order.
-    bool operator==(const CimInstance& other) const;
-    bool operator!=(const CimInstance& other) const { return !(*this == other); }
+    bool operator==(CimInstance const& other) const;
+    bool operator!=(CimInstance const& other) const { return !(*this == other); }
 
 private:
     CimObjectPath _path;

@@ -12,9 +12,11 @@ public:
     // Inline: every property set and looked up compares names, and most
     // differ in length.
     static bool equal(std::string_view a, std::string_view b) {
-        if (a.size() != b.size()) return false;
+        if (a.size() != b.size())
+            return false;
         for (std::size_t i = 0; i < a.size(); ++i)
-            if (a[i] != b[i] && lowerChar(a[i]) != lowerChar(b[i])) return false;
+            if (a[i] != b[i] && lowerChar(a[i]) != lowerChar(b[i]))
+                return false;
         return true;
     }
     static bool less(std::string_view a, std::string_view b);
@@ -22,5 +24,7 @@ public:
     static std::size_t hash(std::string_view name);
 
 private:
-    static char lowerChar(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+    static char lowerChar(char c) {
+        return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+    }
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-std::string quoted(const std::string& s) {
+std::string quoted(std::string const& s) {
     std::string out = "\"";
     for (char c : s) {
         if (c == '"' || c == '\\') {
@@ -20,7 +20,7 @@ std::string quoted(const std::string& s) {
     return out + "\"";
 }
 
-[[noreturn]] void badPath(std::string_view text, const std::string& why) {
+[[noreturn]] void badPath(std::string_view text, std::string const& why) {
     throw CimError(CMPI_RC_ERR_INVALID_PARAMETER,
                    "malformed object path \"" + std::string(text) + "\": " + why);
 }
@@ -44,8 +44,8 @@ void CimObjectPath::addKey(std::string name, CimValue value) {
     _keys.push_back(Key{std::move(name), std::move(value)});
 }
 
-const CimValue* CimObjectPath::key(std::string_view name) const {
-    for (const Key& k : _keys) {
+CimValue const* CimObjectPath::key(std::string_view name) const {
+    for (Key const& k : _keys) {
         if (CimName::equal(k.name, name)) {
             return &k.value;
         }
@@ -53,12 +53,12 @@ const CimValue* CimObjectPath::key(std::string_view name) const {
     return nullptr;
 }
 
-bool CimObjectPath::operator==(const CimObjectPath& other) const {
+bool CimObjectPath::operator==(CimObjectPath const& other) const {
     if (!CimName::equal(_className, other._className) || _keys.size() != other._keys.size()) {
         return false;
     }
-    for (const Key& k : _keys) {
-        const CimValue* v = other.key(k.name);
+    for (Key const& k : _keys) {
+        CimValue const* v = other.key(k.name);
         if (v == nullptr || !k.value.sameKeyValue(*v)) {
             return false;
         }
@@ -69,7 +69,7 @@ bool CimObjectPath::operator==(const CimObjectPath& other) const {
 namespace {
 // Agrees with CimValue::sameKeyValue: integers by value whatever their
 // width, references as paths, texts as they stand; other kinds add nothing.
-std::size_t keyValueHash(const CimValue& v) {
+std::size_t keyValueHash(CimValue const& v) {
     if (v.isNull()) {
         return 0;
     }
@@ -93,7 +93,7 @@ std::size_t keyValueHash(const CimValue& v) {
 // and a set of paths would compare each new path with all the others.
 std::size_t CimObjectPath::hash() const {
     std::size_t keys = 0;
-    for (const Key& k : _keys) {
+    for (Key const& k : _keys) {
         // A sum does not depend on the order the keys came in.
         keys += CimName::hash(CimName::lower(k.name)) * 31 + keyValueHash(k.value);
     }
@@ -110,9 +110,9 @@ std::string CimObjectPath::toString() const {
     }
     out += _className;
     for (std::size_t i = 0; i < _keys.size(); ++i) {
-        const Key& k = _keys[i];
+        Key const& k = _keys[i];
         out += (i == 0 ? "." : ",") + k.name + "=";
-        const CimValue& v = k.value;
+        CimValue const& v = k.value;
         if (v.isNull()) {
             out += "\"\"";
         } else if (v.type() == CMPI_ref) {
@@ -194,10 +194,10 @@ CimObjectPath CimObjectPath::parse(std::string_view text) {
             } else {
                 try {
                     value = CimValue::fromText(CMPI_sint64, raw);
-                } catch (const CimError&) {
+                } catch (CimError const&) {
                     try {
                         value = CimValue::fromText(CMPI_uint64, raw);
-                    } catch (const CimError&) {
+                    } catch (CimError const&) {
                         badPath(text, "key value \"" + std::string(raw) + "\" is not a number");
                     }
                 }

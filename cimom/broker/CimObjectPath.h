@@ -25,25 +25,25 @@ public:
     CimObjectPath() = default;
     CimObjectPath(std::string nameSpace, std::string className);
 
-    const std::string& nameSpace() const { return _nameSpace; }
+    std::string const& nameSpace() const { return _nameSpace; }
     void setNameSpace(std::string ns) { _nameSpace = std::move(ns); }
-    const std::string& host() const { return _host; }
+    std::string const& host() const { return _host; }
     void setHost(std::string host) { _host = std::move(host); }
-    const std::string& className() const { return _className; }
+    std::string const& className() const { return _className; }
     void setClassName(std::string cn) { _className = std::move(cn); }
 
-    const std::vector<Key>& keys() const { return _keys; }
+    std::vector<Key> const& keys() const { return _keys; }
     // Adds a key, or replaces the value of a key of that name in place.
     void addKey(std::string name, CimValue value);
     // The key's value, or null when there is no such key.
-    const CimValue* key(std::string_view name) const;
+    CimValue const* key(std::string_view name) const;
     void clearKeys() { _keys.clear(); }
 
     // No class name: the empty path of "nothing found".
     bool empty() const { return _className.empty(); }
 
-    bool operator==(const CimObjectPath& other) const;
-    bool operator!=(const CimObjectPath& other) const { return !(*this == other); }
+    bool operator==(CimObjectPath const& other) const;
+    bool operator!=(CimObjectPath const& other) const { return !(*this == other); }
     // Consistent with operator== (class and key names only).
     std::size_t hash() const;
 

@@ -6,5 +6,5 @@
 
 // Hash of a path for unordered containers, consistent with its operator==.
 struct CimObjectPathHash {
-    std::size_t operator()(const CimObjectPath& p) const { return p.hash(); }
+    std::size_t operator()(CimObjectPath const& p) const { return p.hash(); }
 };

@@ -14,7 +14,7 @@ namespace {
 
 struct TypeName {
     CMPIType type;
-    const char* name;
+    char const* name;
 };
 
 const TypeName typeNames[] = {
@@ -148,7 +148,7 @@ std::string utf8(std::uint16_t c) {
 
 // One UTF-8 character of the basic plane, or false.
 bool decodeChar16(std::string_view s, std::uint16_t& out) {
-    const auto b = [&](std::size_t i) { return static_cast<unsigned char>(s[i]); };
+    auto const b = [&](std::size_t i) { return static_cast<unsigned char>(s[i]); };
     if (s.size() == 1 && b(0) < 0x80) {
         out = b(0);
         return true;
@@ -221,17 +221,17 @@ CimValue CimValue::dateTime(std::string cimText) {
     return CimValue(CMPI_dateTime, std::move(cimText));
 }
 
-CimValue CimValue::reference(const CimObjectPath& path) {
+CimValue CimValue::reference(CimObjectPath const& path) {
     return CimValue(CMPI_ref, std::make_shared<const CimObjectPath>(path));
 }
 
-CimValue CimValue::instance(const CimInstance& inst) {
+CimValue CimValue::instance(CimInstance const& inst) {
     return CimValue(CMPI_instance, std::make_shared<const CimInstance>(inst));
 }
 
 CimValue CimValue::array(CMPIType elementType, std::vector<CimValue> elements) {
     elementType = static_cast<CMPIType>(elementType & ~CMPI_ARRAY);
-    for (const CimValue& e : elements) {
+    for (CimValue const& e : elements) {
         if (e.isArray() || (e._type != elementType && !(e.isNull() && e._type == CMPI_null))) {
             throw CimError(CMPI_RC_ERR_TYPE_MISMATCH, "array of " + typeName(elementType) +
                                                           " given an element of type " +
@@ -303,7 +303,7 @@ CimValue CimValue::fromText(CMPIType type, std::string_view text) {
 }
 
 CMPIType CimValue::typeFromName(std::string_view name) {
-    for (const TypeName& t : typeNames) {
+    for (TypeName const& t : typeNames) {
         if (CimName::equal(name, t.name)) {
             return t.type;
         }
@@ -311,7 +311,7 @@ CMPIType CimValue::typeFromName(std::string_view name) {
     return CMPI_null;
 }
 
-const char* CimValue::elementTypeName(CMPIType type) {
+char const* CimValue::elementTypeName(CMPIType type) {
     const CMPIType element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
     if (element == CMPI_chars) {
         return "string";
@@ -319,7 +319,7 @@ const char* CimValue::elementTypeName(CMPIType type) {
     if (element == CMPI_instance) {
         return "instance";
     }
-    for (const TypeName& t : typeNames) {
+    for (TypeName const& t : typeNames) {
         if (t.type == element) {
             return t.name;
         }
@@ -328,7 +328,7 @@ const char* CimValue::elementTypeName(CMPIType type) {
 }
 
 std::string CimValue::typeName(CMPIType type) {
-    const char* known = elementTypeName(type);
+    char const* known = elementTypeName(type);
     std::string name;
     if (known != nullptr) {
         name = known;
@@ -347,33 +347,33 @@ bool CimValue::isSigned() const {
     return isSignedType(_type);
 }
 
-void CimValue::_mismatch(const char* wanted) const {
+void CimValue::_mismatch(char const* wanted) const {
     throw CimError(CMPI_RC_ERR_TYPE_MISMATCH,
                    std::string(isNull() ? "null " : "") + typeName(_type) + " read as " + wanted);
 }
 
 bool CimValue::asBoolean() const {
-    if (const bool* b = std::get_if<bool>(&_data)) {
+    if (bool const* b = std::get_if<bool>(&_data)) {
         return *b;
     }
     _mismatch("boolean");
 }
 
 std::uint64_t CimValue::asUnsigned() const {
-    if (const std::uint64_t* v = std::get_if<std::uint64_t>(&_data); v && _type != CMPI_char16) {
+    if (std::uint64_t const* v = std::get_if<std::uint64_t>(&_data); v && _type != CMPI_char16) {
         return *v;
     }
-    if (const std::int64_t* v = std::get_if<std::int64_t>(&_data); v && *v >= 0) {
+    if (std::int64_t const* v = std::get_if<std::int64_t>(&_data); v && *v >= 0) {
         return static_cast<std::uint64_t>(*v);
     }
     _mismatch("unsigned integer");
 }
 
 std::int64_t CimValue::asSigned() const {
-    if (const std::int64_t* v = std::get_if<std::int64_t>(&_data)) {
+    if (std::int64_t const* v = std::get_if<std::int64_t>(&_data)) {
         return *v;
     }
-    if (const std::uint64_t* v = std::get_if<std::uint64_t>(&_data);
+    if (std::uint64_t const* v = std::get_if<std::uint64_t>(&_data);
         v && _type != CMPI_char16 &&
         *v <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
         return static_cast<std::int64_t>(*v);
@@ -382,42 +382,42 @@ std::int64_t CimValue::asSigned() const {
 }
 
 double CimValue::asReal() const {
-    if (const double* v = std::get_if<double>(&_data)) {
+    if (double const* v = std::get_if<double>(&_data)) {
         return *v;
     }
     _mismatch("real");
 }
 
-const std::string& CimValue::asString() const {
-    if (const std::string* v = std::get_if<std::string>(&_data)) {
+std::string const& CimValue::asString() const {
+    if (std::string const* v = std::get_if<std::string>(&_data)) {
         return *v;
     }
     _mismatch("string");
 }
 
 std::uint16_t CimValue::asChar16() const {
-    if (const std::uint64_t* v = std::get_if<std::uint64_t>(&_data); v && _type == CMPI_char16) {
+    if (std::uint64_t const* v = std::get_if<std::uint64_t>(&_data); v && _type == CMPI_char16) {
         return static_cast<std::uint16_t>(*v);
     }
     _mismatch("char16");
 }
 
-const CimObjectPath& CimValue::asReference() const {
-    if (const auto* v = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
+CimObjectPath const& CimValue::asReference() const {
+    if (auto const* v = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
         return **v;
     }
     _mismatch("reference");
 }
 
-const CimInstance& CimValue::asInstance() const {
-    if (const auto* v = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
+CimInstance const& CimValue::asInstance() const {
+    if (auto const* v = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
         return **v;
     }
     _mismatch("instance");
 }
 
-const std::vector<CimValue>& CimValue::elements() const {
-    if (const auto* v = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
+std::vector<CimValue> const& CimValue::elements() const {
+    if (auto const* v = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
         return **v;
     }
     _mismatch("array");
@@ -449,7 +449,7 @@ std::string CimValue::toText() const {
     case CMPI_real64: {
         // Shortest text that reads back to the same value.
         char buf[64];
-        const double v = std::get<double>(_data);
+        double const v = std::get<double>(_data);
         auto res = _type == CMPI_real32
                        ? std::to_chars(buf, buf + sizeof buf, static_cast<float>(v))
                        : std::to_chars(buf, buf + sizeof buf, v);
@@ -463,29 +463,29 @@ std::string CimValue::toText() const {
     }
 }
 
-bool CimValue::operator==(const CimValue& other) const {
+bool CimValue::operator==(CimValue const& other) const {
     if (_type != other._type || _data.index() != other._data.index()) {
         return false;
     }
-    if (const auto* p = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
+    if (auto const* p = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
         return **p == other.asReference();
     }
-    if (const auto* i = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
+    if (auto const* i = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
         return **i == other.asInstance();
     }
-    if (const auto* a = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
+    if (auto const* a = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
         return **a == other.elements();
     }
-    if (const double* d = std::get_if<double>(&_data)) {
+    if (double const* d = std::get_if<double>(&_data)) {
         return std::memcmp(d, &std::get<double>(other._data), sizeof(double)) == 0;
     }
     return _data == other._data;
 }
 
-bool CimValue::sameKeyValue(const CimValue& other) const {
+bool CimValue::sameKeyValue(CimValue const& other) const {
     if (isInteger() && other.isInteger()) {
-        const bool negA = isSigned() && asSigned() < 0;
-        const bool negB = other.isSigned() && other.asSigned() < 0;
+        bool const negA = isSigned() && asSigned() < 0;
+        bool const negB = other.isSigned() && other.asSigned() < 0;
         if (negA || negB) {
             return negA && negB && asSigned() == other.asSigned();
         }

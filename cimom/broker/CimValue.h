@@ -45,8 +45,8 @@ public:
     static CimValue string(std::string v);
     // A datetime in its CIM text form; throws CimError when malformed.
     static CimValue dateTime(std::string cimText);
-    static CimValue reference(const CimObjectPath& path);
-    static CimValue instance(const CimInstance& inst);
+    static CimValue reference(CimObjectPath const& path);
+    static CimValue instance(CimInstance const& inst);
     // Elements must be non-array values of elementType (nulls allowed).
     static CimValue array(CMPIType elementType, std::vector<CimValue> elements);
 
@@ -60,7 +60,7 @@ public:
     static std::string typeName(CMPIType type);
     // The MOF name of the element type without "[]", or null when it has
     // none; a static text, for writers that must not allocate.
-    static const char* elementTypeName(CMPIType type);
+    static char const* elementTypeName(CMPIType type);
 
     CMPIType type() const { return _type; }
     bool isNull() const { return std::holds_alternative<std::monostate>(_data); }
@@ -74,23 +74,23 @@ public:
     std::uint64_t asUnsigned() const;
     std::int64_t asSigned() const;
     double asReal() const;
-    const std::string& asString() const; // string and datetime
+    std::string const& asString() const; // string and datetime
     std::uint16_t asChar16() const;
-    const CimObjectPath& asReference() const;
-    const CimInstance& asInstance() const;
-    const std::vector<CimValue>& elements() const;
+    CimObjectPath const& asReference() const;
+    CimInstance const& asInstance() const;
+    std::vector<CimValue> const& elements() const;
 
     // Text of a non-null scalar (empty for null). Throws for arrays,
     // references and instances.
     std::string toText() const;
 
     // Same type and same value; for reals bitwise-equal doubles.
-    bool operator==(const CimValue& other) const;
-    bool operator!=(const CimValue& other) const { return !(*this == other); }
+    bool operator==(CimValue const& other) const;
+    bool operator!=(CimValue const& other) const { return !(*this == other); }
 
     // Key equality: integers of any width compare by value, references as
     // paths, everything else as operator==.
-    bool sameKeyValue(const CimValue& other) const;
+    bool sameKeyValue(CimValue const& other) const;
 
 private:
     using Data =
@@ -99,7 +99,7 @@ private:
                      std::shared_ptr<const std::vector<CimValue>>>;
 
     CimValue(CMPIType type, Data data);
-    [[noreturn]] void _mismatch(const char* wanted) const;
+    [[noreturn]] void _mismatch(char const* wanted) const;
 
     CMPIType _type;
     Data _data;

@@ -11,11 +11,11 @@ class EncapsulatedObject {
 public:
     explicit EncapsulatedObject(ObjectRegistry& registry) : _registry(registry) {}
     virtual ~EncapsulatedObject() = default;
-    EncapsulatedObject(const EncapsulatedObject&) = delete;
-    EncapsulatedObject& operator=(const EncapsulatedObject&) = delete;
+    EncapsulatedObject(EncapsulatedObject const&) = delete;
+    EncapsulatedObject& operator=(EncapsulatedObject const&) = delete;
 
     // The CMPI type name: "CMPIInstance", "CMPIObjectPath", ...
-    virtual const char* cmpiTypeName() const = 0;
+    virtual char const* cmpiTypeName() const = 0;
     // Readable text for the broker's toString service.
     virtual std::string describe() const { return cmpiTypeName(); }
 

@@ -10,5 +10,5 @@
 class IndicationSink {
 public:
     virtual ~IndicationSink() = default;
-    virtual void deliver(const std::string& nameSpace, const CimInstance& indication) = 0;
+    virtual void deliver(std::string const& nameSpace, CimInstance const& indication) = 0;
 };

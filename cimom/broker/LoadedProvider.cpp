@@ -9,9 +9,9 @@
 
 namespace {
 
-using Factory = void* (*)(const CMPIBroker*, const CMPIContext*, const char*, CMPIStatus*);
+using Factory = void* (*)(CMPIBroker const*, CMPIContext const*, char const*, CMPIStatus*);
 
-const char* entryPoint(ProviderRegistration::Kind kind) {
+char const* entryPoint(ProviderRegistration::Kind kind) {
     switch (kind) {
     case ProviderRegistration::Kind::Instance:
         return "_Generic_Create_InstanceMI";
@@ -27,13 +27,13 @@ const char* entryPoint(ProviderRegistration::Kind kind) {
 
 } // namespace
 
-LoadedProvider::LoadedProvider(const ProviderRegistration& registration,
-                               const std::string& libraryFile, Broker& broker)
+LoadedProvider::LoadedProvider(ProviderRegistration const& registration,
+                               std::string const& libraryFile, Broker& broker)
     : _registration(registration), _libraryFile(libraryFile), _broker(broker) {
     dlerror();
     _handle = dlopen(libraryFile.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (_handle == nullptr) {
-        const char* why = dlerror();
+        char const* why = dlerror();
         throw CimError(CMPI_RC_ERR_FAILED, "provider " + registration.name + ": cannot load " +
                                                libraryFile + ": " + (why ? why : "unknown reason"));
     }
@@ -51,7 +51,7 @@ LoadedProvider::~LoadedProvider() {
     shutdown();
 }
 
-void* LoadedProvider::_entry(const char* symbol) {
+void* LoadedProvider::_entry(char const* symbol) {
     dlerror();
     void* entry = dlsym(_handle, symbol);
     if (entry == nullptr) {
@@ -62,7 +62,7 @@ void* LoadedProvider::_entry(const char* symbol) {
 }
 
 void LoadedProvider::_create(ProviderRegistration::Kind kind) {
-    const char* symbol = entryPoint(kind);
+    char const* symbol = entryPoint(kind);
     auto factory = reinterpret_cast<Factory>(_entry(symbol));
     ObjectRegistry::Scope scope(_broker.registry());
     BrokerContext* ctx = _broker.newContext(_registration.namespaces.front(), 0);
@@ -106,7 +106,7 @@ void LoadedProvider::shutdown() {
     {
         ObjectRegistry::Scope scope(_broker.registry());
         BrokerContext* ctx = _broker.newContext(_registration.namespaces.front(), 0);
-        auto report = [&](const char* which, CMPIStatus st) {
+        auto report = [&](char const* which, CMPIStatus st) {
             if (st.rc != CMPI_RC_OK && st.rc != CMPI_RC_DO_NOT_UNLOAD &&
                 st.rc != CMPI_RC_NEVER_UNLOAD) {
                 _broker.log(CMPI_SEV_WARNING, "provider " + _registration.name + ": " + which +

@@ -14,14 +14,14 @@ public:
     // Opens the library and creates one MI per registered kind. On any
     // failure nothing stays loaded and CimError(CMPI_RC_ERR_FAILED) tells
     // which provider, library and entry point failed and how.
-    LoadedProvider(const ProviderRegistration& registration, const std::string& libraryFile,
+    LoadedProvider(ProviderRegistration const& registration, std::string const& libraryFile,
                    Broker& broker);
     ~LoadedProvider();
-    LoadedProvider(const LoadedProvider&) = delete;
-    LoadedProvider& operator=(const LoadedProvider&) = delete;
+    LoadedProvider(LoadedProvider const&) = delete;
+    LoadedProvider& operator=(LoadedProvider const&) = delete;
 
-    const ProviderRegistration& registration() const { return _registration; }
-    const std::string& libraryFile() const { return _libraryFile; }
+    ProviderRegistration const& registration() const { return _registration; }
+    std::string const& libraryFile() const { return _libraryFile; }
     CMPIInstanceMI* instanceMI() const { return _instance; }
     CMPIAssociationMI* associationMI() const { return _association; }
     CMPIMethodMI* methodMI() const { return _method; }
@@ -31,7 +31,7 @@ public:
     void shutdown();
 
 private:
-    void* _entry(const char* symbol);
+    void* _entry(char const* symbol);
     void _create(ProviderRegistration::Kind kind);
 
     ProviderRegistration _registration;

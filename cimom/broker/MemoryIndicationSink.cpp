@@ -2,7 +2,7 @@
 
 MemoryIndicationSink::MemoryIndicationSink(LogFunction log) : _log(std::move(log)) {}
 
-void MemoryIndicationSink::deliver(const std::string& nameSpace, const CimInstance& indication) {
+void MemoryIndicationSink::deliver(std::string const& nameSpace, CimInstance const& indication) {
     {
         std::lock_guard<std::mutex> lock(_mutex);
         _delivered.push_back(Delivered{nameSpace, indication});

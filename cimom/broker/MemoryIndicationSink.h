@@ -15,12 +15,12 @@ public:
         std::string nameSpace;
         CimInstance indication;
     };
-    using LogFunction = std::function<void(const std::string&)>;
+    using LogFunction = std::function<void(std::string const&)>;
 
     // Without a log function the lines go nowhere.
     explicit MemoryIndicationSink(LogFunction log = nullptr);
 
-    void deliver(const std::string& nameSpace, const CimInstance& indication) override;
+    void deliver(std::string const& nameSpace, CimInstance const& indication) override;
     std::vector<Delivered> delivered() const;
     std::size_t count() const;
     void clear();

@@ -6,13 +6,13 @@
 
 namespace {
 // Open arenas of this thread, innermost last, for every registry alive.
-thread_local std::vector<std::pair<const ObjectRegistry*, ObjectRegistry::Arena*>> openArenas;
+thread_local std::vector<std::pair<ObjectRegistry const*, ObjectRegistry::Arena*>> openArenas;
 } // namespace
 
 ObjectRegistry::~ObjectRegistry() {
     // Arenas still open on this thread point at us; drop them from the stack.
     openArenas.erase(std::remove_if(openArenas.begin(), openArenas.end(),
-                                    [this](const auto& e) { return e.first == this; }),
+                                    [this](auto const& e) { return e.first == this; }),
                      openArenas.end());
     for (auto& [block, arena] : _blocks) {
         std::free(block);
@@ -86,8 +86,8 @@ void ObjectRegistry::_closeArenaLocked(Arena* arena, std::vector<EncapsulatedObj
 }
 
 bool ObjectRegistry::popArena(Arena* arena) {
-    const auto pos = std::find(openArenas.begin(), openArenas.end(),
-                               std::make_pair(static_cast<const ObjectRegistry*>(this), arena));
+    auto const pos = std::find(openArenas.begin(), openArenas.end(),
+                               std::make_pair(static_cast<ObjectRegistry const*>(this), arena));
     if (pos == openArenas.end()) {
         return false;
     }
@@ -107,7 +107,7 @@ bool ObjectRegistry::popArena(Arena* arena) {
         delete obj;
     }
     openArenas.erase(
-        std::remove_if(pos, openArenas.end(), [this](const auto& e) { return e.first == this; }),
+        std::remove_if(pos, openArenas.end(), [this](auto const& e) { return e.first == this; }),
         openArenas.end());
     for (void* block : blocks) {
         std::free(block);

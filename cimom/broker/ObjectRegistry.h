@@ -36,8 +36,8 @@ public:
         explicit Scope(ObjectRegistry& registry)
             : _registry(registry), _arena(registry.pushArena()) {}
         ~Scope() { _registry.popArena(_arena); }
-        Scope(const Scope&) = delete;
-        Scope& operator=(const Scope&) = delete;
+        Scope(Scope const&) = delete;
+        Scope& operator=(Scope const&) = delete;
 
     private:
         ObjectRegistry& _registry;
@@ -46,8 +46,8 @@ public:
 
     ObjectRegistry() = default;
     ~ObjectRegistry();
-    ObjectRegistry(const ObjectRegistry&) = delete;
-    ObjectRegistry& operator=(const ObjectRegistry&) = delete;
+    ObjectRegistry(ObjectRegistry const&) = delete;
+    ObjectRegistry& operator=(ObjectRegistry const&) = delete;
 
     // A new object in the current thread's innermost arena (or none).
     template <class T, class... Args> T* make(Args&&... args) {

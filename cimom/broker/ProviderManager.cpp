@@ -21,29 +21,29 @@ namespace {
 // must not take the lifecycle lock again: a waiting shutdown would deadlock them.
 thread_local int callDepth = 0;
 
-const char* cstr(const std::string& s) {
+char const* cstr(std::string const& s) {
     return s.empty() ? nullptr : s.c_str();
 }
 
 // A NULL-terminated array over the names, or null for "all properties".
 class PropertyArray {
 public:
-    explicit PropertyArray(const BrokerUpcalls::PropertyList* list) {
+    explicit PropertyArray(BrokerUpcalls::PropertyList const* list) {
         if (list != nullptr) {
-            for (const std::string& s : *list) {
+            for (std::string const& s : *list) {
                 _ptrs.push_back(s.c_str());
             }
             _ptrs.push_back(nullptr);
         }
     }
-    const char** get() { return _ptrs.empty() ? nullptr : _ptrs.data(); }
+    char const** get() { return _ptrs.empty() ? nullptr : _ptrs.data(); }
 
 private:
-    std::vector<const char*> _ptrs;
+    std::vector<char const*> _ptrs;
 };
 
 // A provider may leave entries of its tables empty; calling one would crash.
-template <class Fn> Fn required(Fn fn, const LoadedProvider& p, const char* operation) {
+template <class Fn> Fn required(Fn fn, LoadedProvider const& p, char const* operation) {
     if (fn == nullptr) {
         throw CimError(CMPI_RC_ERR_NOT_SUPPORTED,
                        "provider " + p.registration().name + " does not implement " + operation);
@@ -56,7 +56,7 @@ template <class Fn> Fn required(Fn fn, const LoadedProvider& p, const char* oper
 // a context in the request's namespace. The arena comes first, so that the
 // objects are made in it.
 struct ProviderCall {
-    ProviderCall(Broker& broker, const CimObjectPath& path)
+    ProviderCall(Broker& broker, CimObjectPath const& path)
         : arena(broker.registry()), result(broker.registry().make<BrokerResult>()),
           op(broker.registry().make<BrokerObjectPath>(path)->cmpi()),
           ctx(broker.newContext(path.nameSpace(), 0)->cmpi()) {}
@@ -72,7 +72,7 @@ struct ProviderCall {
 // Shared hold on the providers for one call, unless this thread holds one already.
 class ProviderManager::CallGuard {
 public:
-    explicit CallGuard(const ProviderManager& pm) : _pm(pm), _locked(callDepth == 0) {
+    explicit CallGuard(ProviderManager const& pm) : _pm(pm), _locked(callDepth == 0) {
         if (_locked) {
             while (!_pm._lifecycle.try_lock_shared()) {
                 if (_pm._shuttingDown) {
@@ -93,11 +93,11 @@ public:
             _pm._lifecycle.unlock_shared();
         }
     }
-    CallGuard(const CallGuard&) = delete;
-    CallGuard& operator=(const CallGuard&) = delete;
+    CallGuard(CallGuard const&) = delete;
+    CallGuard& operator=(CallGuard const&) = delete;
 
 private:
-    const ProviderManager& _pm;
+    ProviderManager const& _pm;
     bool _locked;
 };
 
@@ -113,7 +113,7 @@ ProviderManager::ProviderManager(Options options)
     if (!_sink) {
         Broker* broker = _broker.get();
         _sink = std::make_shared<MemoryIndicationSink>(
-            [broker](const std::string& line) { broker->log(CMPI_SEV_INFO, line); });
+            [broker](std::string const& line) { broker->log(CMPI_SEV_INFO, line); });
     }
     _broker->setIndicationSink(_sink);
     if (_options.classIsA) {
@@ -127,13 +127,13 @@ ProviderManager::~ProviderManager() {
     _broker->setUpcalls(nullptr);
 }
 
-std::string ProviderManager::_findLibrary(const std::string& library,
-                                          const std::vector<std::string>& dirs) const {
+std::string ProviderManager::_findLibrary(std::string const& library,
+                                          std::vector<std::string> const& dirs) const {
     if (library.find('/') != std::string::npos) {
         return library;
     }
     const std::string file = "lib" + library + ".so";
-    for (const std::string& dir : dirs) {
+    for (std::string const& dir : dirs) {
         const std::filesystem::path candidate = std::filesystem::path(dir) / file;
         std::error_code ec;
         if (std::filesystem::exists(candidate, ec)) {
@@ -141,22 +141,22 @@ std::string ProviderManager::_findLibrary(const std::string& library,
         }
     }
     std::string searched;
-    for (const std::string& dir : dirs) {
+    for (std::string const& dir : dirs) {
         searched += (searched.empty() ? "" : ", ") + dir;
     }
     throw CimError(CMPI_RC_ERR_FAILED, "library " + file + " not found (searched: " +
                                            (searched.empty() ? "no directories" : searched) + ")");
 }
 
-void ProviderManager::loadRegistrationFile(const std::string& path) {
+void ProviderManager::loadRegistrationFile(std::string const& path) {
     const RegistrationFile::Contents contents = RegistrationFile::load(path);
-    for (const ProviderRegistration& reg : contents.providers) {
+    for (ProviderRegistration const& reg : contents.providers) {
         load(reg, contents.libraryDirs);
     }
 }
 
-void ProviderManager::load(const ProviderRegistration& registration,
-                           const std::vector<std::string>& extraLibraryDirs) {
+void ProviderManager::load(ProviderRegistration const& registration,
+                           std::vector<std::string> const& extraLibraryDirs) {
     if (registration.namespaces.empty() || registration.kinds.empty()) {
         throw CimError(CMPI_RC_ERR_FAILED,
                        "provider " + registration.name + ": no namespace or no kind registered");
@@ -166,7 +166,7 @@ void ProviderManager::load(const ProviderRegistration& registration,
     std::string file;
     try {
         file = _findLibrary(registration.library, dirs);
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         throw CimError(CMPI_RC_ERR_FAILED,
                        "provider " + registration.name + ": " + e.description());
     }
@@ -174,7 +174,7 @@ void ProviderManager::load(const ProviderRegistration& registration,
     if (_shuttingDown) {
         throw CimError(CMPI_RC_ERR_FAILED, "the provider manager is shut down");
     }
-    for (const auto& p : _providers) {
+    for (auto const& p : _providers) {
         if (CimName::equal(p->registration().name, registration.name)) {
             throw CimError(CMPI_RC_ERR_FAILED,
                            "provider " + registration.name + " is already loaded");
@@ -188,16 +188,16 @@ void ProviderManager::load(const ProviderRegistration& registration,
 std::vector<std::string> ProviderManager::providerNames() const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     std::vector<std::string> names;
-    for (const auto& p : _providers) {
+    for (auto const& p : _providers) {
         names.push_back(p->registration().name);
     }
     return names;
 }
 
-LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& nameSpace,
-                                              const std::string& className) const {
-    for (const auto& p : _providers) {
-        const ProviderRegistration& reg = p->registration();
+LoadedProvider* ProviderManager::_providerFor(Role role, std::string const& nameSpace,
+                                              std::string const& className) const {
+    for (auto const& p : _providers) {
+        ProviderRegistration const& reg = p->registration();
         bool hasRole = false;
         switch (role) {
         case Role::Instance:
@@ -217,13 +217,13 @@ LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& name
             continue;
         }
         bool inNamespace = false;
-        for (const std::string& ns : reg.namespaces) {
+        for (std::string const& ns : reg.namespaces) {
             inNamespace = inNamespace || CimName::equal(ns, nameSpace);
         }
         if (!inNamespace) {
             continue;
         }
-        for (const std::string& cls : reg.classes) {
+        for (std::string const& cls : reg.classes) {
             if (CimName::equal(cls, className)) {
                 return p.get();
             }
@@ -233,16 +233,16 @@ LoadedProvider* ProviderManager::_providerFor(Role role, const std::string& name
 }
 
 std::vector<LoadedProvider*>
-ProviderManager::_associationProviders(const std::string& nameSpace,
-                                       const std::string& assocClass) const {
+ProviderManager::_associationProviders(std::string const& nameSpace,
+                                       std::string const& assocClass) const {
     std::vector<LoadedProvider*> out;
-    for (const auto& p : _providers) {
+    for (auto const& p : _providers) {
         if (p->associationMI() == nullptr) {
             continue;
         }
-        const ProviderRegistration& reg = p->registration();
+        ProviderRegistration const& reg = p->registration();
         bool inNamespace = false;
-        for (const std::string& ns : reg.namespaces) {
+        for (std::string const& ns : reg.namespaces) {
             inNamespace = inNamespace || CimName::equal(ns, nameSpace);
         }
         if (!inNamespace) {
@@ -261,12 +261,12 @@ ProviderManager::_associationProviders(const std::string& nameSpace,
     return out;
 }
 
-LoadedProvider* ProviderManager::_requireProvider(Role role, const std::string& nameSpace,
-                                                  const std::string& className) const {
+LoadedProvider* ProviderManager::_requireProvider(Role role, std::string const& nameSpace,
+                                                  std::string const& className) const {
     if (LoadedProvider* p = _providerFor(role, nameSpace, className)) {
         return p;
     }
-    const char* kind = "instance";
+    char const* kind = "instance";
     switch (role) {
     case Role::Instance:
         kind = "instance";
@@ -285,26 +285,26 @@ LoadedProvider* ProviderManager::_requireProvider(Role role, const std::string& 
                    std::string("no ") + kind + " provider for " + className + " in " + nameSpace);
 }
 
-bool ProviderManager::hasInstanceProvider(const std::string& nameSpace,
-                                          const std::string& className) const {
+bool ProviderManager::hasInstanceProvider(std::string const& nameSpace,
+                                          std::string const& className) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     return _providerFor(Role::Instance, nameSpace, className) != nullptr;
 }
 
-bool ProviderManager::hasMethodProvider(const std::string& nameSpace,
-                                        const std::string& className) const {
+bool ProviderManager::hasMethodProvider(std::string const& nameSpace,
+                                        std::string const& className) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     return _providerFor(Role::Method, nameSpace, className) != nullptr;
 }
 
-bool ProviderManager::hasAssociationProvider(const std::string& nameSpace,
-                                             const std::string& assocClass) const {
+bool ProviderManager::hasAssociationProvider(std::string const& nameSpace,
+                                             std::string const& assocClass) const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     return !_associationProviders(nameSpace, assocClass).empty();
 }
 
-void ProviderManager::_check(CMPIStatus status, const LoadedProvider& provider,
-                             const char* operation) const {
+void ProviderManager::_check(CMPIStatus status, LoadedProvider const& provider,
+                             char const* operation) const {
     if (status.rc == CMPI_RC_OK) {
         return;
     }
@@ -315,16 +315,16 @@ void ProviderManager::_check(CMPIStatus status, const LoadedProvider& provider,
     throw CimError(status.rc, msg);
 }
 
-void ProviderManager::_complete(const CimObjectPath& request, CimObjectPath& path) {
+void ProviderManager::_complete(CimObjectPath const& request, CimObjectPath& path) {
     // Providers often leave the namespace out of the paths they return.
     if (path.nameSpace().empty()) {
         path.setNameSpace(request.nameSpace());
     }
 }
 
-std::vector<CimInstance> ProviderManager::_finish(const CimObjectPath& request,
+std::vector<CimInstance> ProviderManager::_finish(CimObjectPath const& request,
                                                   std::vector<CimInstance> found,
-                                                  const PropertyList* propertyList) {
+                                                  PropertyList const* propertyList) {
     for (CimInstance& inst : found) {
         // Most paths are complete already; only an incomplete one is copied.
         if (inst.path().nameSpace().empty()) {
@@ -339,7 +339,7 @@ std::vector<CimInstance> ProviderManager::_finish(const CimObjectPath& request,
     return found;
 }
 
-std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObjectPath& classPath) {
+std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(CimObjectPath const& classPath) {
     CallGuard guard(*this);
     LoadedProvider* p =
         _requireProvider(Role::Instance, classPath.nameSpace(), classPath.className());
@@ -354,8 +354,8 @@ std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(const CimObje
     return paths;
 }
 
-std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath& classPath,
-                                                             const PropertyList* propertyList) {
+std::vector<CimInstance> ProviderManager::enumerateInstances(CimObjectPath const& classPath,
+                                                             PropertyList const* propertyList) {
     CallGuard guard(*this);
     LoadedProvider* p =
         _requireProvider(Role::Instance, classPath.nameSpace(), classPath.className());
@@ -367,8 +367,8 @@ std::vector<CimInstance> ProviderManager::enumerateInstances(const CimObjectPath
     return _finish(classPath, call.result->takeInstances(), propertyList);
 }
 
-CimInstance ProviderManager::getInstance(const CimObjectPath& path,
-                                         const PropertyList* propertyList) {
+CimInstance ProviderManager::getInstance(CimObjectPath const& path,
+                                         PropertyList const* propertyList) {
     CallGuard guard(*this);
     LoadedProvider* p = _requireProvider(Role::Instance, path.nameSpace(), path.className());
     ProviderCall call(*_broker, path);
@@ -384,9 +384,9 @@ CimInstance ProviderManager::getInstance(const CimObjectPath& path,
 }
 
 std::vector<CimInstance>
-ProviderManager::associators(const CimObjectPath& path, const std::string& assocClass,
-                             const std::string& resultClass, const std::string& role,
-                             const std::string& resultRole, const PropertyList* propertyList) {
+ProviderManager::associators(CimObjectPath const& path, std::string const& assocClass,
+                             std::string const& resultClass, std::string const& role,
+                             std::string const& resultRole, PropertyList const* propertyList) {
     CallGuard guard(*this);
     std::vector<CimInstance> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
@@ -403,11 +403,11 @@ ProviderManager::associators(const CimObjectPath& path, const std::string& assoc
     return all;
 }
 
-std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath& path,
-                                                            const std::string& assocClass,
-                                                            const std::string& resultClass,
-                                                            const std::string& role,
-                                                            const std::string& resultRole) {
+std::vector<CimObjectPath> ProviderManager::associatorNames(CimObjectPath const& path,
+                                                            std::string const& assocClass,
+                                                            std::string const& resultClass,
+                                                            std::string const& role,
+                                                            std::string const& resultRole) {
     CallGuard guard(*this);
     std::vector<CimObjectPath> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), assocClass)) {
@@ -424,10 +424,10 @@ std::vector<CimObjectPath> ProviderManager::associatorNames(const CimObjectPath&
     return all;
 }
 
-std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
-                                                     const std::string& resultClass,
-                                                     const std::string& role,
-                                                     const PropertyList* propertyList) {
+std::vector<CimInstance> ProviderManager::references(CimObjectPath const& path,
+                                                     std::string const& resultClass,
+                                                     std::string const& role,
+                                                     PropertyList const* propertyList) {
     CallGuard guard(*this);
     std::vector<CimInstance> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
@@ -444,9 +444,9 @@ std::vector<CimInstance> ProviderManager::references(const CimObjectPath& path,
     return all;
 }
 
-std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& path,
-                                                           const std::string& resultClass,
-                                                           const std::string& role) {
+std::vector<CimObjectPath> ProviderManager::referenceNames(CimObjectPath const& path,
+                                                           std::string const& resultClass,
+                                                           std::string const& role) {
     CallGuard guard(*this);
     std::vector<CimObjectPath> all;
     for (LoadedProvider* p : _associationProviders(path.nameSpace(), resultClass)) {
@@ -463,8 +463,8 @@ std::vector<CimObjectPath> ProviderManager::referenceNames(const CimObjectPath& 
     return all;
 }
 
-MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std::string& method,
-                                           const Args& inArgs) {
+MethodResult ProviderManager::invokeMethod(CimObjectPath const& path, std::string const& method,
+                                           Args const& inArgs) {
     CallGuard guard(*this);
     LoadedProvider* p = _requireProvider(Role::Method, path.nameSpace(), path.className());
     ProviderCall call(*_broker, path);
@@ -483,13 +483,13 @@ MethodResult ProviderManager::invokeMethod(const CimObjectPath& path, const std:
     return r;
 }
 
-void ProviderManager::activateFilter(const std::string& nameSpace, const std::string& className,
+void ProviderManager::activateFilter(std::string const& nameSpace, std::string const& className,
                                      bool firstActivation) {
     _filterCall(&CMPIIndicationMIFT::activateFilter, "activateFilter", nameSpace, className,
                 firstActivation);
 }
 
-void ProviderManager::deActivateFilter(const std::string& nameSpace, const std::string& className,
+void ProviderManager::deActivateFilter(std::string const& nameSpace, std::string const& className,
                                        bool lastActivation) {
     _filterCall(&CMPIIndicationMIFT::deActivateFilter, "deActivateFilter", nameSpace, className,
                 lastActivation);
@@ -502,11 +502,13 @@ void ProviderManager::enableIndications() {
 std::vector<std::pair<std::string, std::string>> ProviderManager::indicationClasses() const {
     std::shared_lock<std::shared_mutex> lock(_lifecycle);
     std::vector<std::pair<std::string, std::string>> out;
-    for (const auto& p : _providers) {
-        if (p->indicationMI() == nullptr) continue;
-        const ProviderRegistration& reg = p->registration();
-        for (const std::string& ns : reg.namespaces)
-            for (const std::string& cls : reg.classes) out.emplace_back(ns, cls);
+    for (auto const& p : _providers) {
+        if (p->indicationMI() == nullptr)
+            continue;
+        ProviderRegistration const& reg = p->registration();
+        for (std::string const& ns : reg.namespaces)
+            for (std::string const& cls : reg.classes)
+                out.emplace_back(ns, cls);
     }
     return out;
 }
@@ -516,8 +518,8 @@ void ProviderManager::disableIndications() {
 }
 
 // Activation and deactivation differ only in the table entry they call.
-void ProviderManager::_filterCall(FilterEntry entry, const char* operation,
-                                  const std::string& nameSpace, const std::string& className,
+void ProviderManager::_filterCall(FilterEntry entry, char const* operation,
+                                  std::string const& nameSpace, std::string const& className,
                                   bool edge) {
     CallGuard guard(*this);
     LoadedProvider* p = _requireProvider(Role::Indication, nameSpace, className);
@@ -529,9 +531,9 @@ void ProviderManager::_filterCall(FilterEntry entry, const char* operation,
 }
 
 // The indication switch goes to every indication provider, in its first namespace.
-void ProviderManager::_switchCall(SwitchEntry entry, const char* operation) {
+void ProviderManager::_switchCall(SwitchEntry entry, char const* operation) {
     CallGuard guard(*this);
-    for (const auto& p : _providers) {
+    for (auto const& p : _providers) {
         if (CMPIIndicationMI* mi = p->indicationMI()) {
             ObjectRegistry::Scope scope(_broker->registry());
             BrokerContext* ctx = _broker->newContext(p->registration().namespaces.front(), 0);

@@ -49,49 +49,49 @@ public:
     ProviderManager();
     explicit ProviderManager(Options options);
     ~ProviderManager() override;
-    ProviderManager(const ProviderManager&) = delete;
-    ProviderManager& operator=(const ProviderManager&) = delete;
+    ProviderManager(ProviderManager const&) = delete;
+    ProviderManager& operator=(ProviderManager const&) = delete;
 
     // Loads every provider of the file; its libraryPath comes before the
     // directories of the options. Throws CimError(CMPI_RC_ERR_FAILED).
-    void loadRegistrationFile(const std::string& path);
-    void load(const ProviderRegistration& registration,
-              const std::vector<std::string>& extraLibraryDirs = {});
+    void loadRegistrationFile(std::string const& path);
+    void load(ProviderRegistration const& registration,
+              std::vector<std::string> const& extraLibraryDirs = {});
 
     std::vector<std::string> providerNames() const;
-    bool hasInstanceProvider(const std::string& nameSpace, const std::string& className) const;
-    bool hasMethodProvider(const std::string& nameSpace, const std::string& className) const;
-    bool hasAssociationProvider(const std::string& nameSpace, const std::string& assocClass) const;
+    bool hasInstanceProvider(std::string const& nameSpace, std::string const& className) const;
+    bool hasMethodProvider(std::string const& nameSpace, std::string const& className) const;
+    bool hasAssociationProvider(std::string const& nameSpace, std::string const& assocClass) const;
 
-    std::vector<CimObjectPath> enumerateInstanceNames(const CimObjectPath& classPath) override;
-    std::vector<CimInstance> enumerateInstances(const CimObjectPath& classPath,
-                                                const PropertyList* propertyList) override;
-    CimInstance getInstance(const CimObjectPath& path, const PropertyList* propertyList) override;
+    std::vector<CimObjectPath> enumerateInstanceNames(CimObjectPath const& classPath) override;
+    std::vector<CimInstance> enumerateInstances(CimObjectPath const& classPath,
+                                                PropertyList const* propertyList) override;
+    CimInstance getInstance(CimObjectPath const& path, PropertyList const* propertyList) override;
     // An empty assocClass asks every association provider of the namespace.
-    std::vector<CimInstance> associators(const CimObjectPath& path, const std::string& assocClass,
-                                         const std::string& resultClass, const std::string& role,
-                                         const std::string& resultRole,
-                                         const PropertyList* propertyList) override;
-    std::vector<CimObjectPath> associatorNames(const CimObjectPath& path,
-                                               const std::string& assocClass,
-                                               const std::string& resultClass,
-                                               const std::string& role,
-                                               const std::string& resultRole) override;
+    std::vector<CimInstance> associators(CimObjectPath const& path, std::string const& assocClass,
+                                         std::string const& resultClass, std::string const& role,
+                                         std::string const& resultRole,
+                                         PropertyList const* propertyList) override;
+    std::vector<CimObjectPath> associatorNames(CimObjectPath const& path,
+                                               std::string const& assocClass,
+                                               std::string const& resultClass,
+                                               std::string const& role,
+                                               std::string const& resultRole) override;
     // resultClass (the association class) picks the providers as assocClass does above.
-    std::vector<CimInstance> references(const CimObjectPath& path, const std::string& resultClass,
-                                        const std::string& role,
-                                        const PropertyList* propertyList) override;
-    std::vector<CimObjectPath> referenceNames(const CimObjectPath& path,
-                                              const std::string& resultClass,
-                                              const std::string& role) override;
-    MethodResult invokeMethod(const CimObjectPath& path, const std::string& method,
-                              const Args& inArgs) override;
+    std::vector<CimInstance> references(CimObjectPath const& path, std::string const& resultClass,
+                                        std::string const& role,
+                                        PropertyList const* propertyList) override;
+    std::vector<CimObjectPath> referenceNames(CimObjectPath const& path,
+                                              std::string const& resultClass,
+                                              std::string const& role) override;
+    MethodResult invokeMethod(CimObjectPath const& path, std::string const& method,
+                              Args const& inArgs) override;
 
     // Passed to the indication providers of the namespace that registered the
     // class (no filter expression: the broker has no query engine).
-    void activateFilter(const std::string& nameSpace, const std::string& className,
+    void activateFilter(std::string const& nameSpace, std::string const& className,
                         bool firstActivation);
-    void deActivateFilter(const std::string& nameSpace, const std::string& className,
+    void deActivateFilter(std::string const& nameSpace, std::string const& className,
                           bool lastActivation);
     void enableIndications();
     void disableIndications();
@@ -107,27 +107,27 @@ private:
     class CallGuard;
     enum class Role { Instance, Association, Method, Indication };
 
-    LoadedProvider* _providerFor(Role role, const std::string& nameSpace,
-                                 const std::string& className) const;
+    LoadedProvider* _providerFor(Role role, std::string const& nameSpace,
+                                 std::string const& className) const;
     // The same, or CimError INVALID_CLASS naming what is missing.
-    LoadedProvider* _requireProvider(Role role, const std::string& nameSpace,
-                                     const std::string& className) const;
-    std::vector<LoadedProvider*> _associationProviders(const std::string& nameSpace,
-                                                       const std::string& assocClass) const;
-    std::string _findLibrary(const std::string& library,
-                             const std::vector<std::string>& dirs) const;
-    void _check(CMPIStatus status, const LoadedProvider& provider, const char* operation) const;
-    using FilterEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, const CMPIContext*,
-                                                           const CMPISelectExp*, const char*,
-                                                           const CMPIObjectPath*, CMPIBoolean);
-    using SwitchEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, const CMPIContext*);
-    void _filterCall(FilterEntry entry, const char* operation, const std::string& nameSpace,
-                     const std::string& className, bool edge);
-    void _switchCall(SwitchEntry entry, const char* operation);
-    static void _complete(const CimObjectPath& request, CimObjectPath& path);
-    static std::vector<CimInstance> _finish(const CimObjectPath& request,
+    LoadedProvider* _requireProvider(Role role, std::string const& nameSpace,
+                                     std::string const& className) const;
+    std::vector<LoadedProvider*> _associationProviders(std::string const& nameSpace,
+                                                       std::string const& assocClass) const;
+    std::string _findLibrary(std::string const& library,
+                             std::vector<std::string> const& dirs) const;
+    void _check(CMPIStatus status, LoadedProvider const& provider, char const* operation) const;
+    using FilterEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, CMPIContext const*,
+                                                            CMPISelectExp const*, char const*,
+                                                            CMPIObjectPath const*, CMPIBoolean);
+    using SwitchEntry = CMPIStatus (*CMPIIndicationMIFT::*)(CMPIIndicationMI*, CMPIContext const*);
+    void _filterCall(FilterEntry entry, char const* operation, std::string const& nameSpace,
+                     std::string const& className, bool edge);
+    void _switchCall(SwitchEntry entry, char const* operation);
+    static void _complete(CimObjectPath const& request, CimObjectPath& path);
+    static std::vector<CimInstance> _finish(CimObjectPath const& request,
                                             std::vector<CimInstance> found,
-                                            const PropertyList* propertyList);
+                                            PropertyList const* propertyList);
 
     Options _options;
     std::unique_ptr<Broker> _broker;

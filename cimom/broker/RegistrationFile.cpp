@@ -12,12 +12,12 @@
 
 namespace {
 
-[[noreturn]] void fail(const std::string& where, const std::string& why) {
+[[noreturn]] void fail(std::string const& where, std::string const& why) {
     throw CimError(CMPI_RC_ERR_FAILED, "registration " + where + ": " + why);
 }
 
-std::vector<std::string> stringList(const YAML::Node& node, const std::string& where,
-                                    const std::string& field) {
+std::vector<std::string> stringList(const YAML::Node& node, std::string const& where,
+                                    std::string const& field) {
     if (!node || !node.IsSequence() || node.size() == 0) {
         fail(where, "'" + field + "' must be a non-empty list");
     }
@@ -31,14 +31,14 @@ std::vector<std::string> stringList(const YAML::Node& node, const std::string& w
     return out;
 }
 
-std::string scalar(const YAML::Node& node, const std::string& where, const std::string& field) {
+std::string scalar(const YAML::Node& node, std::string const& where, std::string const& field) {
     if (!node || !node.IsScalar() || node.Scalar().empty()) {
         fail(where, "'" + field + "' must be a non-empty text");
     }
     return node.Scalar();
 }
 
-ProviderRegistration::Kind kindFrom(const std::string& text, const std::string& where) {
+ProviderRegistration::Kind kindFrom(std::string const& text, std::string const& where) {
     using Kind = ProviderRegistration::Kind;
     for (Kind k : {Kind::Instance, Kind::Association, Kind::Method, Kind::Indication}) {
         if (CimName::equal(text, RegistrationFile::kindName(k))) {
@@ -50,7 +50,7 @@ ProviderRegistration::Kind kindFrom(const std::string& text, const std::string& 
 
 } // namespace
 
-const char* RegistrationFile::kindName(ProviderRegistration::Kind kind) {
+char const* RegistrationFile::kindName(ProviderRegistration::Kind kind) {
     switch (kind) {
     case ProviderRegistration::Kind::Instance:
         return "instance";
@@ -64,7 +64,7 @@ const char* RegistrationFile::kindName(ProviderRegistration::Kind kind) {
     return "?";
 }
 
-RegistrationFile::Contents RegistrationFile::load(const std::string& path) {
+RegistrationFile::Contents RegistrationFile::load(std::string const& path) {
     std::ifstream in(path);
     if (!in) {
         fail("file " + path, "cannot be read");
@@ -75,9 +75,9 @@ RegistrationFile::Contents RegistrationFile::load(const std::string& path) {
     return parse(text.str(), path, base.string());
 }
 
-RegistrationFile::Contents RegistrationFile::parse(const std::string& yamlText,
-                                                   const std::string& sourceName,
-                                                   const std::string& baseDir) {
+RegistrationFile::Contents RegistrationFile::parse(std::string const& yamlText,
+                                                   std::string const& sourceName,
+                                                   std::string const& baseDir) {
     YAML::Node root;
     try {
         root = YAML::Load(yamlText);
@@ -88,14 +88,14 @@ RegistrationFile::Contents RegistrationFile::parse(const std::string& yamlText,
         fail("file " + sourceName, "must be a mapping with a 'providers' list");
     }
     Contents contents;
-    for (const auto& entry : root) {
+    for (auto const& entry : root) {
         const std::string key = entry.first.Scalar();
         if (key != "providers" && key != "libraryPath") {
             fail("file " + sourceName, "unknown field '" + key + "'");
         }
     }
     if (root["libraryPath"]) {
-        for (const std::string& dir :
+        for (std::string const& dir :
              stringList(root["libraryPath"], "file " + sourceName, "libraryPath")) {
             std::filesystem::path p(dir);
             contents.libraryDirs.push_back(
@@ -113,7 +113,7 @@ RegistrationFile::Contents RegistrationFile::parse(const std::string& yamlText,
         if (!p.IsMap()) {
             fail(where, "must be a mapping");
         }
-        for (const auto& field : p) {
+        for (auto const& field : p) {
             const std::string key = field.first.Scalar();
             if (key != "name" && key != "library" && key != "namespaces" && key != "classes" &&
                 key != "kinds") {
@@ -125,8 +125,8 @@ RegistrationFile::Contents RegistrationFile::parse(const std::string& yamlText,
         reg.library = scalar(p["library"], where, "library");
         reg.namespaces = stringList(p["namespaces"], where, "namespaces");
         reg.classes = stringList(p["classes"], where, "classes");
-        for (const std::string& k : stringList(p["kinds"], where, "kinds")) {
-            const auto kind = kindFrom(k, where);
+        for (std::string const& k : stringList(p["kinds"], where, "kinds")) {
+            auto const kind = kindFrom(k, where);
             if (!reg.has(kind)) {
                 reg.kinds.push_back(kind);
             }

@@ -25,9 +25,9 @@ public:
         std::vector<ProviderRegistration> providers;
     };
 
-    static Contents load(const std::string& path);
+    static Contents load(std::string const& path);
     // sourceName names the text in errors; baseDir anchors relative library dirs.
-    static Contents parse(const std::string& yamlText, const std::string& sourceName,
-                          const std::string& baseDir);
-    static const char* kindName(ProviderRegistration::Kind kind);
+    static Contents parse(std::string const& yamlText, std::string const& sourceName,
+                          std::string const& baseDir);
+    static char const* kindName(ProviderRegistration::Kind kind);
 };

@@ -11,7 +11,7 @@
 #include "ObjectRegistry.h"
 
 namespace {
-template <class Obj, class C> Obj& ours(const C* handle, const char* what) {
+template <class Obj, class C> Obj& ours(const C* handle, char const* what) {
     Obj* obj = Obj::from(handle);
     if (obj == nullptr) {
         throw CimError(CMPI_RC_ERR_INVALID_HANDLE,
@@ -21,7 +21,7 @@ template <class Obj, class C> Obj& ours(const C* handle, const char* what) {
 }
 } // namespace
 
-CimValue ValueConverter::toCim(const CMPIData& data) {
+CimValue ValueConverter::toCim(CMPIData const& data) {
     if (data.state & CMPI_nullValue) {
         return CimValue::null(data.type == CMPI_chars ? CMPI_string : data.type);
     }
@@ -32,15 +32,15 @@ CimValue ValueConverter::toCim(const CMPIData& data) {
     return toCim(&data.value, data.type);
 }
 
-CimValue ValueConverter::toCim(const CMPIValue* v, CMPIType type) {
+CimValue ValueConverter::toCim(CMPIValue const* v, CMPIType type) {
     if (type == CMPI_chars || type == CMPI_charsptr) {
         if (v == nullptr) {
             return CimValue::null(CMPI_string);
         }
         // As every object manager reads it: for CMPI_chars the value pointer
         // is the string itself (providers pass (CMPIValue*)"text").
-        const char* s = type == CMPI_chars ? reinterpret_cast<const char*>(v)
-                                           : static_cast<const char*>(v->dataPtr.ptr);
+        char const* s = type == CMPI_chars ? reinterpret_cast<char const*>(v)
+                                           : static_cast<char const*>(v->dataPtr.ptr);
         return s == nullptr ? CimValue::null(CMPI_string) : CimValue::string(s);
     }
     if (v == nullptr || type == CMPI_null) {
@@ -99,7 +99,7 @@ CimValue ValueConverter::toCim(const CMPIValue* v, CMPIType type) {
     }
 }
 
-CMPIData ValueConverter::toData(ObjectRegistry& registry, const CimValue& value) {
+CMPIData ValueConverter::toData(ObjectRegistry& registry, CimValue const& value) {
     CMPIData d{};
     d.type = value.type();
     d.state = CMPI_goodValue;

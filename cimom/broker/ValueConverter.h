@@ -15,9 +15,9 @@ public:
     // pointer is the C string itself, as providers pass it; it becomes a string. Throws CimError:
     // CMPI_RC_ERR_INVALID_HANDLE for an object that is not ours, CMPI_RC_ERR_INVALID_DATA_TYPE for
     // an unknown type.
-    static CimValue toCim(const CMPIValue* value, CMPIType type);
-    static CimValue toCim(const CMPIData& data);
-    static CMPIData toData(ObjectRegistry& registry, const CimValue& value);
+    static CimValue toCim(CMPIValue const* value, CMPIType type);
+    static CimValue toCim(CMPIData const& data);
+    static CMPIData toData(ObjectRegistry& registry, CimValue const& value);
     // A CMPIData for "no such entry": CMPI_notFound, null type.
     static CMPIData notFound();
 };

@@ -22,19 +22,19 @@ struct CimClassDecl {
 
     struct Qualifier {
         std::string name;
-        std::string type;  // CIM type name, e.g. "boolean", "string"
+        std::string type; // CIM type name, e.g. "boolean", "string"
         Value value;
     };
 
     struct Property {
         std::string name;
-        std::string type;      // CIM type, or "reference"
-        std::string refClass;  // set for references
+        std::string type;     // CIM type, or "reference"
+        std::string refClass; // set for references
         bool isArray = false;
-        int arraySize = 0;  // 0: unbounded
+        int arraySize = 0; // 0: unbounded
         std::vector<Qualifier> qualifiers;
         std::optional<Value> defaultValue;
-        std::string classOrigin;  // class that declared it
+        std::string classOrigin; // class that declared it
         bool propagated = false;
     };
 
@@ -59,13 +59,13 @@ struct CimClassDecl {
     std::string name;
     std::string superClass;
     std::string nameSpace;
-    std::string file;  // where it was declared, for duplicate reports
+    std::string file; // where it was declared, for duplicate reports
     int line = 0;
     std::vector<Qualifier> qualifiers;
     std::vector<Property> properties;
     std::vector<Method> methods;
 
-    const Property* findProperty(const std::string& propertyName) const;
-    const Method* findMethod(const std::string& methodName) const;
-    bool hasQualifier(const std::string& qualifierName) const;
+    Property const* findProperty(std::string const& propertyName) const;
+    Method const* findMethod(std::string const& methodName) const;
+    bool hasQualifier(std::string const& qualifierName) const;
 };

@@ -21,25 +21,31 @@ constexpr size_t headerBytesLimit = 16 * 1024;
 constexpr size_t lingerBytes = 1 << 20;
 constexpr auto lingerTime = std::chrono::seconds(2);
 
-template <class Stream>
-constexpr bool isTls = !std::is_same_v<Stream, beast::tcp_stream>;
+template <class Stream> constexpr bool isTls = !std::is_same_v<Stream, beast::tcp_stream>;
 
-std::optional<std::string> headerOf(http::request<http::string_body> const& request, char const* name) {
+std::optional<std::string> headerOf(http::request<http::string_body> const& request,
+                                    char const* name) {
     auto found = request.find(name);
-    if (found == request.end()) return std::nullopt;
+    if (found == request.end())
+        return std::nullopt;
     return std::string(found->value());
 }
 
 bool decodeBase64(std::string const& in, std::string& out) {
-    if (in.empty() || in.size() % 4 != 0 || in.size() > 4096) return false;
+    if (in.empty() || in.size() % 4 != 0 || in.size() > 4096)
+        return false;
     std::string buffer(in.size() / 4 * 3, '\0');
     int n = EVP_DecodeBlock(reinterpret_cast<unsigned char*>(buffer.data()),
-                            reinterpret_cast<unsigned char const*>(in.data()), static_cast<int>(in.size()));
-    if (n < 0) return false;
+                            reinterpret_cast<unsigned char const*>(in.data()),
+                            static_cast<int>(in.size()));
+    if (n < 0)
+        return false;
     // EVP_DecodeBlock counts padding as data; drop one byte per '='.
     size_t pad = 0;
-    if (in.back() == '=') ++pad;
-    if (in.size() > 1 && in[in.size() - 2] == '=') ++pad;
+    if (in.back() == '=')
+        ++pad;
+    if (in.size() > 1 && in[in.size() - 2] == '=')
+        ++pad;
     buffer.resize(static_cast<size_t>(n) - pad);
     out = std::move(buffer);
     return true;
@@ -48,7 +54,8 @@ bool decodeBase64(std::string const& in, std::string& out) {
 http::response<http::string_body> responseOf(CimHttpExchange&& exchange) {
     http::response<http::string_body> response;
     response.result(static_cast<unsigned>(exchange.status));
-    if (!exchange.cimError.empty()) response.set("CIMError", exchange.cimError);
+    if (!exchange.cimError.empty())
+        response.set("CIMError", exchange.cimError);
     if (exchange.status == 200) {
         response.set("CIMOperation", "MethodResponse");
         response.set(http::field::content_type, "application/xml; charset=\"utf-8\"");
@@ -61,7 +68,7 @@ http::response<http::string_body> responseOf(CimHttpExchange&& exchange) {
     return response;
 }
 
-}  // namespace
+} // namespace
 
 CimHttpServer::Shared::Shared(Settings const& s, Handler h)
     : settings(s), handler(std::move(h)), workers(s.threads == 0 ? 1 : s.threads) {}
@@ -92,7 +99,8 @@ void CimHttpServer::Shared::release(std::string const& client) {
     std::lock_guard lock(mutex);
     --connections;
     auto found = perClient.find(client);
-    if (found != perClient.end() && --found->second == 0) perClient.erase(found);
+    if (found != perClient.end() && --found->second == 0)
+        perClient.erase(found);
 }
 
 std::uint64_t CimHttpServer::Shared::started(std::string description) {
@@ -104,7 +112,8 @@ std::uint64_t CimHttpServer::Shared::started(std::string description) {
 void CimHttpServer::Shared::finished(std::uint64_t id) {
     std::lock_guard lock(mutex);
     running.erase(id);
-    if (running.empty()) allFinished.notify_all();
+    if (running.empty())
+        allFinished.notify_all();
 }
 
 // A large answer leaves megabytes freed in a worker's malloc arena, which
@@ -115,44 +124,51 @@ void CimHttpServer::Shared::finished(std::uint64_t id) {
 void CimHttpServer::Shared::trimWhenQuiet(std::size_t answerBytes) {
     constexpr std::size_t largeAnswer = 1 << 20;
     constexpr auto quiet = std::chrono::milliseconds(300);
-    if (answerBytes < largeAnswer) return;
+    if (answerBytes < largeAnswer)
+        return;
     asio::post(trimStrand, [this, quiet] {
         // Setting the expiry cancels the wait before, so one trim follows the last answer.
         trimTimer.expires_after(quiet);
         trimTimer.async_wait([this](beast::error_code ec) {
-            if (ec) return;
+            if (ec)
+                return;
             asio::post(workers, [] { malloc_trim(0); });
         });
     });
 }
 
 bool CimHttpServer::Shared::authorized(std::string const& value) const {
-    if (!settings.users) return true;
-    if (value.size() < 6 || strncasecmp(value.c_str(), "Basic ", 6) != 0) return false;
+    if (!settings.users)
+        return true;
+    if (value.size() < 6 || strncasecmp(value.c_str(), "Basic ", 6) != 0)
+        return false;
     std::string decoded;
-    if (!decodeBase64(value.substr(6), decoded)) return false;
+    if (!decodeBase64(value.substr(6), decoded))
+        return false;
     auto colon = decoded.find(':');
-    if (colon == std::string::npos) return false;
+    if (colon == std::string::npos)
+        return false;
     return settings.users->verify(decoded.substr(0, colon), decoded.substr(colon + 1));
 }
 
 template <class Stream>
-CimHttpConnection<Stream>::CimHttpConnection(Stream stream, CimHttpServer::Shared& shared, std::string client)
+CimHttpConnection<Stream>::CimHttpConnection(Stream stream, CimHttpServer::Shared& shared,
+                                             std::string client)
     : _stream(std::move(stream)), _shared(shared), _client(std::move(client)) {}
 
-template <class Stream>
-CimHttpConnection<Stream>::~CimHttpConnection() {
-    if (_answering) _shared.finished(*_answering);
+template <class Stream> CimHttpConnection<Stream>::~CimHttpConnection() {
+    if (_answering)
+        _shared.finished(*_answering);
     _shared.release(_client);
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::start() {
+template <class Stream> void CimHttpConnection<Stream>::start() {
     if constexpr (isTls<Stream>) {
         _socket().expires_after(std::chrono::seconds(_shared.settings.timeoutSeconds));
         _stream.async_handshake(asio::ssl::stream_base::server,
                                 [self = this->shared_from_this()](beast::error_code ec) {
-                                    if (ec) return self->_close();
+                                    if (ec)
+                                        return self->_close();
                                     self->_awaitRequest();
                                 });
     } else {
@@ -162,20 +178,20 @@ void CimHttpConnection<Stream>::start() {
 
 // The wait for a request is bounded by the idle time; once its first bytes
 // are in, the whole request must follow within the request time.
-template <class Stream>
-void CimHttpConnection<Stream>::_awaitRequest() {
-    if (_buffer.size() > 0) return _readHeader();  // pipelined behind the last one
+template <class Stream> void CimHttpConnection<Stream>::_awaitRequest() {
+    if (_buffer.size() > 0)
+        return _readHeader(); // pipelined behind the last one
     _socket().expires_after(std::chrono::seconds(_shared.settings.idleSeconds));
     _stream.async_read_some(_buffer.prepare(4096),
                             [self = this->shared_from_this()](beast::error_code ec, std::size_t n) {
-                                if (ec) return self->_close();
+                                if (ec)
+                                    return self->_close();
                                 self->_buffer.commit(n);
                                 self->_readHeader();
                             });
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_readHeader() {
+template <class Stream> void CimHttpConnection<Stream>::_readHeader() {
     _parser.emplace();
     _parser->header_limit(headerBytesLimit);
     // Checked against Content-Length as soon as it is read, before any body.
@@ -187,24 +203,27 @@ void CimHttpConnection<Stream>::_readHeader() {
                             });
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_onHeader(beast::error_code ec) {
-    if (ec == http::error::body_limit) return _refuse(http::status::payload_too_large, "oversized request");
-    if (ec == http::error::header_limit) return _refuse(http::status::request_header_fields_too_large, "oversized header");
+template <class Stream> void CimHttpConnection<Stream>::_onHeader(beast::error_code ec) {
+    if (ec == http::error::body_limit)
+        return _refuse(http::status::payload_too_large, "oversized request");
+    if (ec == http::error::header_limit)
+        return _refuse(http::status::request_header_fields_too_large, "oversized header");
     if (ec == beast::error::timeout) {
         ServerLog::warn("dropped a connection from " + _client + ": request not complete within " +
                         std::to_string(_shared.settings.timeoutSeconds) + " s");
         return _close();
     }
-    if (ec == http::error::end_of_stream || ec == asio::error::eof || ec == asio::error::connection_reset ||
-        ec == asio::error::operation_aborted)
+    if (ec == http::error::end_of_stream || ec == asio::error::eof ||
+        ec == asio::error::connection_reset || ec == asio::error::operation_aborted)
         return _close();
-    if (ec) return _refuse(http::status::bad_request, "malformed request: " + ec.message());
+    if (ec)
+        return _refuse(http::status::bad_request, "malformed request: " + ec.message());
 
     auto const& header = _parser->get();
     size_t const fields = static_cast<size_t>(std::distance(header.begin(), header.end()));
     if (fields > _shared.settings.maxHeaders)
-        return _refuse(http::status::request_header_fields_too_large, "request with " + std::to_string(fields) + " headers");
+        return _refuse(http::status::request_header_fields_too_large,
+                       "request with " + std::to_string(fields) + " headers");
     // Two lengths, even equal ones, are how requests get smuggled past a proxy
     // that reads the other one.
     if (header.count(http::field::content_length) > 1)
@@ -212,7 +231,8 @@ void CimHttpConnection<Stream>::_onHeader(beast::error_code ec) {
     if (beast::iequals(header[http::field::expect], "100-continue") && !_parser->is_done()) {
         asio::async_write(_stream, asio::buffer(_continue, std::strlen(_continue)),
                           [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
-                              if (ec) return self->_close();
+                              if (ec)
+                                  return self->_close();
                               self->_readBody();
                           });
         return;
@@ -220,30 +240,30 @@ void CimHttpConnection<Stream>::_onHeader(beast::error_code ec) {
     _readBody();
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_readBody() {
-    http::async_read(_stream, _buffer, *_parser, [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
-        self->_onBody(ec);
-    });
+template <class Stream> void CimHttpConnection<Stream>::_readBody() {
+    http::async_read(_stream, _buffer, *_parser,
+                     [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
+                         self->_onBody(ec);
+                     });
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_onBody(beast::error_code ec) {
-    if (ec == http::error::body_limit) return _refuse(http::status::payload_too_large, "oversized request");
+template <class Stream> void CimHttpConnection<Stream>::_onBody(beast::error_code ec) {
+    if (ec == http::error::body_limit)
+        return _refuse(http::status::payload_too_large, "oversized request");
     if (ec == beast::error::timeout) {
         ServerLog::warn("dropped a connection from " + _client + ": request not complete within " +
                         std::to_string(_shared.settings.timeoutSeconds) + " s");
         return _close();
     }
-    if (ec == http::error::end_of_stream || ec == asio::error::eof || ec == asio::error::connection_reset ||
-        ec == asio::error::operation_aborted)
+    if (ec == http::error::end_of_stream || ec == asio::error::eof ||
+        ec == asio::error::connection_reset || ec == asio::error::operation_aborted)
         return _close();
-    if (ec) return _refuse(http::status::bad_request, "malformed request: " + ec.message());
+    if (ec)
+        return _refuse(http::status::bad_request, "malformed request: " + ec.message());
     _dispatch(_parser->release());
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_dispatch(Request request) {
+template <class Stream> void CimHttpConnection<Stream>::_dispatch(Request request) {
     bool const close = !request.keep_alive();
     std::string_view target = request.target();
     target = target.substr(0, target.find('?'));
@@ -273,10 +293,12 @@ void CimHttpConnection<Stream>::_dispatch(Request request) {
     exchange.body = std::move(request.body());
     exchange.client = _client;
 
-    std::uint64_t id = _shared.started(exchange.cimMethod.value_or("(no method)") + " on " +
-                                       exchange.cimObject.value_or("(no object)") + " from " + _client);
+    std::uint64_t id =
+        _shared.started(exchange.cimMethod.value_or("(no method)") + " on " +
+                        exchange.cimObject.value_or("(no object)") + " from " + _client);
     _socket().expires_never();
-    asio::post(_shared.workers, [self = this->shared_from_this(), exchange = std::move(exchange), id, close]() mutable {
+    asio::post(_shared.workers, [self = this->shared_from_this(), exchange = std::move(exchange),
+                                 id, close]() mutable {
         try {
             self->_shared.handler(exchange);
         } catch (std::exception const& e) {
@@ -288,16 +310,16 @@ void CimHttpConnection<Stream>::_dispatch(Request request) {
         }
         std::size_t const bytes = exchange.responseBody.size();
         Response response = responseOf(std::move(exchange));
-        asio::post(self->_stream.get_executor(), [self, response = std::move(response), id, close]() mutable {
-            self->_answering = id;
-            self->_answer(std::move(response), close);
-        });
+        asio::post(self->_stream.get_executor(),
+                   [self, response = std::move(response), id, close]() mutable {
+                       self->_answering = id;
+                       self->_answer(std::move(response), close);
+                   });
         self->_shared.trimWhenQuiet(bytes);
     });
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_answer(Response response, bool close) {
+template <class Stream> void CimHttpConnection<Stream>::_answer(Response response, bool close) {
     {
         std::lock_guard lock(_shared.mutex);
         close = close || _shared.stopping;
@@ -307,13 +329,16 @@ void CimHttpConnection<Stream>::_answer(Response response, bool close) {
     response.prepare_payload();
     _response = std::make_shared<Response>(std::move(response));
     _socket().expires_after(std::chrono::seconds(_shared.settings.timeoutSeconds));
-    http::async_write(_stream, *_response, [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
-        bool const keep = !ec && self->_response->keep_alive();
-        self->_response.reset();
-        if (self->_answering) self->_shared.finished(*std::exchange(self->_answering, std::nullopt));
-        if (!keep) return self->_close();
-        self->_awaitRequest();
-    });
+    http::async_write(
+        _stream, *_response, [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
+            bool const keep = !ec && self->_response->keep_alive();
+            self->_response.reset();
+            if (self->_answering)
+                self->_shared.finished(*std::exchange(self->_answering, std::nullopt));
+            if (!keep)
+                return self->_close();
+            self->_awaitRequest();
+        });
 }
 
 template <class Stream>
@@ -325,16 +350,14 @@ void CimHttpConnection<Stream>::_refuse(http::status status, std::string const& 
 // Half-close, then read and drop what the client still sends for a moment:
 // closing with unread input would reset the connection and could destroy the
 // answer before the client reads it.
-template <class Stream>
-void CimHttpConnection<Stream>::_close() {
+template <class Stream> void CimHttpConnection<Stream>::_close() {
     beast::error_code ignored;
     _socket().socket().shutdown(asio::ip::tcp::socket::shutdown_send, ignored);
     _socket().expires_after(lingerTime);
     _linger(0);
 }
 
-template <class Stream>
-void CimHttpConnection<Stream>::_linger(std::size_t drained) {
+template <class Stream> void CimHttpConnection<Stream>::_linger(std::size_t drained) {
     // Read into the buffer's spare room and never commit: the bytes are dropped.
     _socket().async_read_some(_buffer.prepare(16384), [self = this->shared_from_this(), drained](
                                                           beast::error_code ec, std::size_t n) {

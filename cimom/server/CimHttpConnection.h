@@ -93,7 +93,7 @@ private:
     boost::beast::flat_buffer _buffer;
     std::optional<boost::beast::http::request_parser<boost::beast::http::string_body>> _parser;
     std::shared_ptr<Response> _response;
-    std::optional<std::uint64_t> _answering;  // the running request being answered
+    std::optional<std::uint64_t> _answering; // the running request being answered
     static constexpr char const* _continue = "HTTP/1.1 100 Continue\r\n\r\n";
 };
 

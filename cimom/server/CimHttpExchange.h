@@ -12,9 +12,9 @@ struct CimHttpExchange {
     std::optional<std::string> cimProtocolVersion;
     std::optional<std::string> contentType;
     std::string body;
-    std::string client;  // the peer's address
+    std::string client; // the peer's address
 
     int status = 200;
-    std::string cimError;  // CIMError header when set
+    std::string cimError; // CIMError header when set
     std::string responseBody;
 };

@@ -21,7 +21,8 @@ constexpr unsigned ioThreadCount = 2;
 // connections long before the configured bound does.
 void raiseDescriptorLimit(size_t wanted) {
     rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) != 0) return;
+    if (getrlimit(RLIMIT_NOFILE, &limit) != 0)
+        return;
     rlim_t target = std::min<rlim_t>(limit.rlim_max, static_cast<rlim_t>(wanted));
     if (limit.rlim_cur < target) {
         limit.rlim_cur = target;
@@ -30,14 +31,16 @@ void raiseDescriptorLimit(size_t wanted) {
 }
 
 asio::ip::address addressOf(std::string const& text) {
-    if (text == "localhost") return asio::ip::make_address("127.0.0.1");
+    if (text == "localhost")
+        return asio::ip::make_address("127.0.0.1");
     return asio::ip::make_address(text);
 }
 
-}  // namespace
+} // namespace
 
 CimHttpServer::CimHttpServer(Settings settings, Handler handler)
-    : _settings(std::move(settings)), _shared(std::make_unique<Shared>(_settings, std::move(handler))) {
+    : _settings(std::move(settings)),
+      _shared(std::make_unique<Shared>(_settings, std::move(handler))) {
     if (!_settings.certFile.empty()) {
         try {
             auto& tls = _shared->tls.emplace(asio::ssl::context::tls_server);
@@ -47,7 +50,8 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
             tls.use_certificate_chain_file(_settings.certFile);
             tls.use_private_key_file(_settings.keyFile, asio::ssl::context::pem);
         } catch (std::exception const&) {
-            throw std::runtime_error("cannot use certificate " + _settings.certFile + " with key " + _settings.keyFile);
+            throw std::runtime_error("cannot use certificate " + _settings.certFile + " with key " +
+                                     _settings.keyFile);
         }
     }
 }
@@ -55,10 +59,12 @@ CimHttpServer::CimHttpServer(Settings settings, Handler handler)
 CimHttpServer::~CimHttpServer() = default;
 
 bool CimHttpServer::isLoopback(std::string const& text) {
-    if (text == "localhost") return true;
+    if (text == "localhost")
+        return true;
     boost::system::error_code ec;
     auto address = asio::ip::make_address(text, ec);
-    if (ec) return false;
+    if (ec)
+        return false;
     if (address.is_v6() && address.to_v6().is_v4_mapped())
         return asio::ip::make_address_v4(asio::ip::v4_mapped, address.to_v6()).is_loopback();
     return address.is_loopback();
@@ -68,21 +74,24 @@ int CimHttpServer::bind() {
     raiseDescriptorLimit(_settings.maxConnections + 256);
     auto& acceptor = _shared->acceptor;
     try {
-        tcp::endpoint endpoint(addressOf(_settings.listen), static_cast<unsigned short>(_settings.port));
+        tcp::endpoint endpoint(addressOf(_settings.listen),
+                               static_cast<unsigned short>(_settings.port));
         acceptor.open(endpoint.protocol());
         acceptor.set_option(asio::socket_base::reuse_address(true));
         acceptor.bind(endpoint);
         acceptor.listen(asio::socket_base::max_listen_connections);
     } catch (std::exception const& e) {
-        throw std::runtime_error("cannot bind " + _settings.listen + ":" + std::to_string(_settings.port) + ": " +
-                                 e.what());
+        throw std::runtime_error("cannot bind " + _settings.listen + ":" +
+                                 std::to_string(_settings.port) + ": " + e.what());
     }
     return acceptor.local_endpoint().port();
 }
 
 void CimHttpServer::_accept() {
-    _shared->acceptor.async_accept(asio::make_strand(_shared->io), [this](beast::error_code ec, tcp::socket socket) {
-        if (ec == asio::error::operation_aborted || !_shared->acceptor.is_open()) return;
+    _shared->acceptor.async_accept(asio::make_strand(_shared->io), [this](beast::error_code ec,
+                                                                          tcp::socket socket) {
+        if (ec == asio::error::operation_aborted || !_shared->acceptor.is_open())
+            return;
         if (!ec) {
             beast::error_code ignored;
             auto peer = socket.remote_endpoint(ignored);
@@ -92,7 +101,8 @@ void CimHttpServer::_accept() {
                 // Said at once rather than queued: a client told to come back
                 // later is better off than one left waiting.
                 static constexpr char busy[] =
-                    "HTTP/1.1 503 Service Unavailable\r\nContent-Length: 0\r\nRetry-After: 1\r\nConnection: close\r\n\r\n";
+                    "HTTP/1.1 503 Service Unavailable\r\nContent-Length: 0\r\nRetry-After: "
+                    "1\r\nConnection: close\r\n\r\n";
                 socket.non_blocking(true, ignored);
                 socket.write_some(asio::buffer(busy, sizeof busy - 1), ignored);
                 socket.shutdown(tcp::socket::shutdown_send, ignored);
@@ -107,11 +117,13 @@ void CimHttpServer::_accept() {
                 socket.set_option(tcp::no_delay(true), ignored);
                 if (_shared->tls) {
                     std::make_shared<CimTlsConnection>(
-                        beast::ssl_stream<beast::tcp_stream>(beast::tcp_stream(std::move(socket)), *_shared->tls),
+                        beast::ssl_stream<beast::tcp_stream>(beast::tcp_stream(std::move(socket)),
+                                                             *_shared->tls),
                         *_shared, client)
                         ->start();
                 } else {
-                    std::make_shared<CimPlainConnection>(beast::tcp_stream(std::move(socket)), *_shared, client)
+                    std::make_shared<CimPlainConnection>(beast::tcp_stream(std::move(socket)),
+                                                         *_shared, client)
                         ->start();
                 }
             }
@@ -125,19 +137,23 @@ void CimHttpServer::_accept() {
 
 bool CimHttpServer::run() {
     _accept();
-    for (unsigned i = 0; i < ioThreadCount; ++i) _shared->ioThreads.emplace_back([this] { _shared->io.run(); });
+    for (unsigned i = 0; i < ioThreadCount; ++i)
+        _shared->ioThreads.emplace_back([this] { _shared->io.run(); });
     bool drained = true;
     {
         std::unique_lock lock(_shared->mutex);
         _shared->stopRequested.wait(lock, [this] { return _shared->stopping; });
         // Requests under way are answered before the connections go.
-        drained = _shared->allFinished.wait_for(lock, std::chrono::seconds(_settings.shutdownGraceSeconds),
-                                                [this] { return _shared->running.empty(); });
+        drained = _shared->allFinished.wait_for(
+            lock, std::chrono::seconds(_settings.shutdownGraceSeconds),
+            [this] { return _shared->running.empty(); });
     }
     _shared->io.stop();
-    for (auto& thread : _shared->ioThreads) thread.join();
+    for (auto& thread : _shared->ioThreads)
+        thread.join();
     _shared->ioThreads.clear();
-    if (drained) _shared->workers.join();
+    if (drained)
+        _shared->workers.join();
     return drained;
 }
 
@@ -156,6 +172,7 @@ void CimHttpServer::stop() {
 std::vector<std::string> CimHttpServer::stuckRequests() const {
     std::lock_guard lock(_shared->mutex);
     std::vector<std::string> out;
-    for (auto const& [id, description] : _shared->running) out.push_back(description);
+    for (auto const& [id, description] : _shared->running)
+        out.push_back(description);
     return out;
 }

@@ -30,12 +30,12 @@ public:
         size_t threads = 8;
         size_t maxBodyBytes = 4 * 1024 * 1024;
         size_t maxHeaders = 64;
-        int timeoutSeconds = 30;  // to receive a whole request, and to send an answer
-        int idleSeconds = 5;      // to wait for a request on an open connection
+        int timeoutSeconds = 30; // to receive a whole request, and to send an answer
+        int idleSeconds = 5;     // to wait for a request on an open connection
         size_t maxConnections = 512;
         size_t maxConnectionsPerClient = 64;
-        int shutdownGraceSeconds = 10;  // for requests still running at stop()
-        const PasswordFile* users = nullptr;  // null: no authentication
+        int shutdownGraceSeconds = 10;       // for requests still running at stop()
+        PasswordFile const* users = nullptr; // null: no authentication
     };
     using Handler = std::function<void(CimHttpExchange&)>;
 
@@ -54,7 +54,7 @@ public:
     std::vector<std::string> stuckRequests() const;
 
     // Whether the address names this host's loopback, by value, not by text.
-    static bool isLoopback(const std::string& address);
+    static bool isLoopback(std::string const& address);
 
     struct Shared;
 

@@ -7,7 +7,8 @@
 // with a CIM status code, which is what clients branch on.
 class CimOperationError : public std::runtime_error {
 public:
-    CimOperationError(int code, const std::string& description) : std::runtime_error(description), _code(code) {}
+    CimOperationError(int code, std::string const& description)
+        : std::runtime_error(description), _code(code) {}
 
     int code() const { return _code; }
 

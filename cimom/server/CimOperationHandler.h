@@ -21,36 +21,36 @@ public:
         int maxXmlDepth = 32;
     };
     // Writes the content of IMETHODRESPONSE/METHODRESPONSE, or throws CimOperationError.
-    using Operation = std::function<void(const CimRequest&, CimXmlWriter&)>;
+    using Operation = std::function<void(CimRequest const&, CimXmlWriter&)>;
 
-    CimOperationHandler(const ClassRepository& classes, Settings settings);
+    CimOperationHandler(ClassRepository const& classes, Settings settings);
 
     // Set up before serving; the table is read-only while requests run.
-    void addOperation(const std::string& name, Operation operation);
+    void addOperation(std::string const& name, Operation operation);
     void setMethodCall(Operation operation);
 
     void handle(CimHttpExchange& exchange) const;
 
     // Helpers the instance side shares for reading IPARAMVALUEs.
-    static bool boolParam(const CimRequest& request, const char* name, bool fallback);
-    static std::string classNameParam(const CimRequest& request, const char* name);
-    static std::string stringParam(const CimRequest& request, const char* name);
-    static std::optional<std::set<std::string>> propertyListParam(const CimRequest& request);
+    static bool boolParam(CimRequest const& request, char const* name, bool fallback);
+    static std::string classNameParam(CimRequest const& request, char const* name);
+    static std::string stringParam(CimRequest const& request, char const* name);
+    static std::optional<std::set<std::string>> propertyListParam(CimRequest const& request);
 
     // Refuses a parameter the operation does not take.
-    static void checkParams(const CimRequest& request, std::initializer_list<const char*> allowed);
+    static void checkParams(CimRequest const& request, std::initializer_list<char const*> allowed);
 
-    static std::string percentDecode(const std::string& text);
+    static std::string percentDecode(std::string const& text);
 
 private:
-    void _checkHeaders(const CimHttpExchange& exchange, const CimRequest& request) const;
-    void _dispatch(const CimRequest& request, CimXmlWriter& out) const;
-    void _enumerateClassNames(const CimRequest& request, CimXmlWriter& out) const;
-    void _enumerateClasses(const CimRequest& request, CimXmlWriter& out) const;
-    void _getClass(const CimRequest& request, CimXmlWriter& out) const;
+    void _checkHeaders(CimHttpExchange const& exchange, CimRequest const& request) const;
+    void _dispatch(CimRequest const& request, CimXmlWriter& out) const;
+    void _enumerateClassNames(CimRequest const& request, CimXmlWriter& out) const;
+    void _enumerateClasses(CimRequest const& request, CimXmlWriter& out) const;
+    void _getClass(CimRequest const& request, CimXmlWriter& out) const;
 
-    const ClassRepository& _classes;
+    ClassRepository const& _classes;
     Settings _settings;
-    std::map<std::string, Operation> _operations;  // by lower-case name
+    std::map<std::string, Operation> _operations; // by lower-case name
     Operation _methodCall;
 };

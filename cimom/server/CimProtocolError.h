@@ -7,11 +7,11 @@
 // HTTP status and a CIMError header instead of a CIM-XML ERROR element.
 class CimProtocolError : public std::runtime_error {
 public:
-    CimProtocolError(int httpStatus, std::string cimError, const std::string& what)
+    CimProtocolError(int httpStatus, std::string cimError, std::string const& what)
         : std::runtime_error(what), _httpStatus(httpStatus), _cimError(std::move(cimError)) {}
 
     int httpStatus() const { return _httpStatus; }
-    const std::string& cimError() const { return _cimError; }
+    std::string const& cimError() const { return _cimError; }
 
 private:
     int _httpStatus;

@@ -13,27 +13,27 @@ class CimRequest {
 public:
     struct Param {
         std::string name;
-        std::string paramType;  // PARAMTYPE of an extrinsic PARAMVALUE, often empty
-        pugi::xml_node node;    // the IPARAMVALUE or PARAMVALUE element
+        std::string paramType; // PARAMTYPE of an extrinsic PARAMVALUE, often empty
+        pugi::xml_node node;   // the IPARAMVALUE or PARAMVALUE element
     };
 
     // Throws CimProtocolError for malformed, too deep or structurally wrong input.
-    static CimRequest parse(const std::string& body, int maxDepth);
+    static CimRequest parse(std::string const& body, int maxDepth);
 
     CimRequest(CimRequest&&) = default;
     CimRequest& operator=(CimRequest&&) = default;
 
-    const std::string& messageId() const { return _messageId; }
+    std::string const& messageId() const { return _messageId; }
     bool intrinsic() const { return _intrinsic; }
-    const std::string& methodName() const { return _methodName; }
-    const std::string& nameSpace() const { return _nameSpace; }
+    std::string const& methodName() const { return _methodName; }
+    std::string const& nameSpace() const { return _nameSpace; }
     // LOCALINSTANCEPATH or LOCALCLASSPATH of an extrinsic call.
     pugi::xml_node target() const { return _target; }
-    const std::vector<Param>& params() const { return _params; }
-    const Param* param(const std::string& name) const;
+    std::vector<Param> const& params() const { return _params; }
+    Param const* param(std::string const& name) const;
 
     // Who sent it (the peer's address), for state kept per client.
-    const std::string& client() const { return _client; }
+    std::string const& client() const { return _client; }
     void setClient(std::string client) { _client = std::move(client); }
 
     // "a/b" from <LOCALNAMESPACEPATH><NAMESPACE NAME="a"/><NAMESPACE NAME="b"/>.

@@ -27,8 +27,8 @@ public:
         Attributes() : _size(0) {}
         Attributes(std::initializer_list<Attribute> items);
         void add(std::string_view name, std::string_view value);
-        const Attribute* begin() const { return _items.data(); }
-        const Attribute* end() const { return _items.data() + _size; }
+        Attribute const* begin() const { return _items.data(); }
+        Attribute const* end() const { return _items.data() + _size; }
 
     private:
         // No member initializers: they would keep `= {}` arguments below
@@ -46,13 +46,14 @@ public:
     // Without the declaration, the writer makes a fragment to embed elsewhere.
     explicit CimXmlWriter(bool declaration = true);
 
-    CimXmlWriter& open(std::string_view tag, const Attributes& attributes = {});
+    CimXmlWriter& open(std::string_view tag, Attributes const& attributes = {});
     CimXmlWriter& close();
     // An element with no children: self-closed only where the client allows it.
-    CimXmlWriter& empty(std::string_view tag, const Attributes& attributes = {});
+    CimXmlWriter& empty(std::string_view tag, Attributes const& attributes = {});
     CimXmlWriter& text(std::string_view content);
     // <tag>content</tag> in one call.
-    CimXmlWriter& element(std::string_view tag, std::string_view content, const Attributes& attributes = {});
+    CimXmlWriter& element(std::string_view tag, std::string_view content,
+                          Attributes const& attributes = {});
 
     // Already written CIM-XML, such as a part of an earlier answer.
     CimXmlWriter& raw(std::string_view xml) {
@@ -74,11 +75,11 @@ public:
 
     Mark mark() const { return {_out.size(), _open.size()}; }
     // Drops everything written since the mark.
-    void rollback(const Mark& mark);
+    void rollback(Mark const& mark);
 
     // Room for this many more characters, so that a long answer grows once.
     void reserve(std::size_t more) { _out.reserve(_out.size() + more); }
-    const std::string& str() const { return _out; }
+    std::string const& str() const { return _out; }
     // Hands the text over; the writer is empty afterwards.
     std::string take();
     bool balanced() const { return _open.empty(); }
@@ -86,12 +87,12 @@ public:
     static std::string escape(std::string_view content);
     // The text with every byte sequence that is not UTF-8, and every
     // character that XML 1.0 does not allow in a document, replaced by
-    // U+FFFD (a control character by a space). For text that comes from a request and goes back into an
-    // answer, such as an error's description.
+    // U+FFFD (a control character by a space). For text that comes from a request and goes back
+    // into an answer, such as an error's description.
     static std::string xmlSafe(std::string_view text);
 
 private:
-    void _startTag(std::string_view tag, const Attributes& attributes);
+    void _startTag(std::string_view tag, Attributes const& attributes);
     void _escapeInto(std::string_view content);
 
     std::string _out;

@@ -18,12 +18,14 @@ public:
         std::optional<std::set<std::string>> propertyList;
     };
 
-    static void writeClass(CimXmlWriter& out, const CimClassDecl& cls, const Options& options);
-    static void writeQualifier(CimXmlWriter& out, const CimClassDecl::Qualifier& qualifier);
-    static void writeValue(CimXmlWriter& out, const CimClassDecl::Value& value);
-    static std::string literalText(const CimClassDecl::Literal& literal);
+    static void writeClass(CimXmlWriter& out, CimClassDecl const& cls, Options const& options);
+    static void writeQualifier(CimXmlWriter& out, CimClassDecl::Qualifier const& qualifier);
+    static void writeValue(CimXmlWriter& out, CimClassDecl::Value const& value);
+    static std::string literalText(CimClassDecl::Literal const& literal);
 
 private:
-    static void _writeProperty(CimXmlWriter& out, const CimClassDecl::Property& p, const Options& options);
-    static void _writeMethod(CimXmlWriter& out, const CimClassDecl::Method& m, const Options& options);
+    static void _writeProperty(CimXmlWriter& out, CimClassDecl::Property const& p,
+                               Options const& options);
+    static void _writeMethod(CimXmlWriter& out, CimClassDecl::Method const& m,
+                             Options const& options);
 };

@@ -11,13 +11,15 @@ namespace {
 // Enough to tell a client that its context ran out rather than never existed.
 constexpr std::size_t rememberedExpired = 256;
 
-[[noreturn]] void invalidContext(const std::string& id, const std::string& why) {
-    throw CimOperationError(CimOperationError::invalidEnumerationContext, "enumeration context " + id + " " + why);
+[[noreturn]] void invalidContext(std::string const& id, std::string const& why) {
+    throw CimOperationError(CimOperationError::invalidEnumerationContext,
+                            "enumeration context " + id + " " + why);
 }
 
-}  // namespace
+} // namespace
 
-EnumerationContexts::EnumerationContexts(std::size_t maxPerClient, std::function<Clock::time_point()> now)
+EnumerationContexts::EnumerationContexts(std::size_t maxPerClient,
+                                         std::function<Clock::time_point()> now)
     : _maxPerClient(maxPerClient), _now(std::move(now)), _salt(std::random_device{}()) {
     _salt = (_salt << 32) ^ std::random_device{}();
 }
@@ -29,25 +31,30 @@ void EnumerationContexts::_expire(Clock::time_point now) {
             continue;
         }
         _expired.push_back(it->first);
-        if (_expired.size() > rememberedExpired) _expired.pop_front();
+        if (_expired.size() > rememberedExpired)
+            _expired.pop_front();
         it = _contexts.erase(it);
     }
 }
 
-EnumerationContexts::Batch EnumerationContexts::open(const Owner& owner, Results results, std::chrono::seconds timeout,
+EnumerationContexts::Batch EnumerationContexts::open(Owner const& owner, Results results,
+                                                     std::chrono::seconds timeout,
                                                      std::uint32_t max) {
     Context context{owner, std::move(results), 0, timeout, {}};
     Batch batch{_take(context, max), {}};
-    if (context.next == context.results.objects.size()) return batch;  // nothing left to keep
+    if (context.next == context.results.objects.size())
+        return batch; // nothing left to keep
 
     std::lock_guard lock(_mutex);
     const Clock::time_point now = _now();
     _expire(now);
-    std::size_t held = std::count_if(_contexts.begin(), _contexts.end(),
-                                     [&](const auto& entry) { return entry.second.owner.client == owner.client; });
+    std::size_t held = std::count_if(_contexts.begin(), _contexts.end(), [&](auto const& entry) {
+        return entry.second.owner.client == owner.client;
+    });
     if (held >= _maxPerClient)
         throw CimOperationError(CimOperationError::serverLimitsExceeded,
-                                std::to_string(held) + " enumeration contexts are open for this client (limit " +
+                                std::to_string(held) +
+                                    " enumeration contexts are open for this client (limit " +
                                     std::to_string(_maxPerClient) + "); close or finish one first");
     // The serial keeps names unique; the salt keeps them from being guessed.
     const std::uint64_t serial = ++_serial;
@@ -61,7 +68,7 @@ EnumerationContexts::Batch EnumerationContexts::open(const Owner& owner, Results
     return batch;
 }
 
-EnumerationContexts::Context& EnumerationContexts::_find(const Owner& owner, const std::string& id,
+EnumerationContexts::Context& EnumerationContexts::_find(Owner const& owner, std::string const& id,
                                                          Clock::time_point now) {
     _expire(now);
     auto found = _contexts.find(id);
@@ -79,9 +86,11 @@ EnumerationContexts::Context& EnumerationContexts::_find(const Owner& owner, con
 
 void EnumerationContexts::_compact(Context& context) {
     auto& objects = context.results.objects;
-    if (context.next == 0 || context.next >= objects.size()) return;
+    if (context.next == 0 || context.next >= objects.size())
+        return;
     const std::size_t cut = objects[context.next].begin;
-    if (cut < context.results.text.size() / 2) return;
+    if (cut < context.results.text.size() / 2)
+        return;
     context.results.text.erase(0, cut);
     objects.erase(objects.begin(), objects.begin() + static_cast<std::ptrdiff_t>(context.next));
     for (auto& span : objects) {
@@ -93,13 +102,14 @@ void EnumerationContexts::_compact(Context& context) {
     objects.shrink_to_fit();
 }
 
-EnumerationContexts::Batch EnumerationContexts::pull(const Owner& owner, const std::string& id, Kind kind,
-                                                     std::uint32_t max) {
+EnumerationContexts::Batch EnumerationContexts::pull(Owner const& owner, std::string const& id,
+                                                     Kind kind, std::uint32_t max) {
     std::lock_guard lock(_mutex);
     Context& context = _find(owner, id, _now());
     if (context.results.kind != kind)
-        invalidContext(id, kind == Kind::paths ? "holds instances; pull them with PullInstancesWithPath"
-                                               : "holds paths; pull them with PullInstancePaths");
+        invalidContext(id, kind == Kind::paths
+                               ? "holds instances; pull them with PullInstancesWithPath"
+                               : "holds paths; pull them with PullInstancePaths");
     Batch batch{_take(context, max), id};
     if (context.next == context.results.objects.size()) {
         _contexts.erase(id);
@@ -111,22 +121,23 @@ EnumerationContexts::Batch EnumerationContexts::pull(const Owner& owner, const s
 }
 
 std::string EnumerationContexts::_take(Context& context, std::uint32_t max) {
-    const auto& objects = context.results.objects;
+    auto const& objects = context.results.objects;
     const std::size_t count = std::min<std::size_t>(max, objects.size() - context.next);
-    if (count == 0) return {};
+    if (count == 0)
+        return {};
     const std::size_t begin = objects[context.next].begin;
     const std::size_t end = objects[context.next + count - 1].end;
     context.next += count;
     return context.results.text.substr(begin, end - begin);
 }
 
-std::uint64_t EnumerationContexts::remaining(const Owner& owner, const std::string& id) {
+std::uint64_t EnumerationContexts::remaining(Owner const& owner, std::string const& id) {
     std::lock_guard lock(_mutex);
     Context& context = _find(owner, id, _now());
     return context.results.objects.size() - context.next;
 }
 
-void EnumerationContexts::close(const Owner& owner, const std::string& id) {
+void EnumerationContexts::close(Owner const& owner, std::string const& id) {
     std::lock_guard lock(_mutex);
     _find(owner, id, _now());
     _contexts.erase(id);

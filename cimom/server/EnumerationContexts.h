@@ -30,28 +30,30 @@ public:
 
     struct Results {
         Kind kind = Kind::instances;
-        std::string text;  // the objects, one after another
+        std::string text; // the objects, one after another
         std::vector<CimXmlWriter::Span> objects;
     };
 
     struct Batch {
         std::string xml;
-        std::string context;  // empty once the last object has gone out
+        std::string context; // empty once the last object has gone out
         bool endOfSequence() const { return context.empty(); }
     };
 
-    EnumerationContexts(std::size_t maxPerClient, std::function<Clock::time_point()> now = Clock::now);
+    EnumerationContexts(std::size_t maxPerClient,
+                        std::function<Clock::time_point()> now = Clock::now);
 
     // Hands out up to `max` objects at once and keeps the rest for later
     // pulls. Throws CimOperationError (server limits exceeded) when something
     // is left and the client already holds its share of contexts.
-    Batch open(const Owner& owner, Results results, std::chrono::seconds timeout, std::uint32_t max);
+    Batch open(Owner const& owner, Results results, std::chrono::seconds timeout,
+               std::uint32_t max);
     // Up to `max` objects from the front. The context closes when the last one
     // goes out. Throws CimOperationError (invalid enumeration context) for a
     // context unknown to this owner, expired, or of the other kind.
-    Batch pull(const Owner& owner, const std::string& id, Kind kind, std::uint32_t max);
-    std::uint64_t remaining(const Owner& owner, const std::string& id);
-    void close(const Owner& owner, const std::string& id);
+    Batch pull(Owner const& owner, std::string const& id, Kind kind, std::uint32_t max);
+    std::uint64_t remaining(Owner const& owner, std::string const& id);
+    void close(Owner const& owner, std::string const& id);
 
     std::size_t openCount() const;
 
@@ -59,14 +61,14 @@ private:
     struct Context {
         Owner owner;
         Results results;
-        std::size_t next = 0;  // the first object not yet pulled
+        std::size_t next = 0; // the first object not yet pulled
         std::chrono::seconds timeout;
         Clock::time_point expires;
     };
 
     // Drops what has expired, remembering the names to say so later.
     void _expire(Clock::time_point now);
-    Context& _find(const Owner& owner, const std::string& id, Clock::time_point now);
+    Context& _find(Owner const& owner, std::string const& id, Clock::time_point now);
     // Takes up to `max` objects from the front of the context.
     static std::string _take(Context& context, std::uint32_t max);
     // Gives back the memory of what has been pulled, once it is most of the text.
@@ -76,7 +78,7 @@ private:
     const std::function<Clock::time_point()> _now;
     mutable std::mutex _mutex;
     std::map<std::string, Context> _contexts;
-    std::deque<std::string> _expired;  // the latest few, for a clearer error
+    std::deque<std::string> _expired; // the latest few, for a clearer error
     std::uint64_t _serial = 0;
     std::uint64_t _salt;
 };

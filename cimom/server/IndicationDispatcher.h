@@ -16,22 +16,23 @@
 // Delivery never blocks the provider's thread.
 class IndicationDispatcher : public IndicationSink {
 public:
-    using ClassIsA = std::function<bool(const std::string& nameSpace, const std::string& cls, const std::string& base)>;
+    using ClassIsA = std::function<bool(std::string const& nameSpace, std::string const& cls,
+                                        std::string const& base)>;
 
-    IndicationDispatcher(const SubscriptionStore& store, ClassIsA classIsA, ListenerQueue::Settings settings,
-                         ListenerQueue::Sender sender = nullptr);
+    IndicationDispatcher(SubscriptionStore const& store, ClassIsA classIsA,
+                         ListenerQueue::Settings settings, ListenerQueue::Sender sender = nullptr);
 
-    void deliver(const std::string& nameSpace, const CimInstance& indication) override;
+    void deliver(std::string const& nameSpace, CimInstance const& indication) override;
     // Indications queued and not yet sent, over all destinations.
     std::size_t pending() const;
 
 private:
-    ListenerQueue& _queueFor(const std::string& url);
+    ListenerQueue& _queueFor(std::string const& url);
 
-    const SubscriptionStore& _store;
+    SubscriptionStore const& _store;
     ClassIsA _classIsA;
     ListenerQueue::Settings _settings;
     ListenerQueue::Sender _sender;
     mutable std::mutex _mutex;
-    std::map<std::string, std::unique_ptr<ListenerQueue>> _queues;  // by URL
+    std::map<std::string, std::unique_ptr<ListenerQueue>> _queues; // by URL
 };

@@ -1,10 +1,10 @@
 #include "InstanceOperations.h"
 
-#include "ClassRepository.h"
 #include "CimError.h"
 #include "CimName.h"
 #include "CimOperationError.h"
 #include "CimOperationHandler.h"
+#include "ClassRepository.h"
 #include "InstanceXml.h"
 #include "ProviderManager.h"
 #include "SubscriptionOperations.h"
@@ -14,51 +14,57 @@
 
 namespace {
 
-[[noreturn]] void fail(int code, const std::string& what) { throw CimOperationError(code, what); }
+[[noreturn]] void fail(int code, std::string const& what) {
+    throw CimOperationError(code, what);
+}
 
 // The provider manager speaks CimError; the answer to the client is the same code.
-template <typename Call>
-auto viaProvider(Call&& call) -> decltype(call()) {
+template <typename Call> auto viaProvider(Call&& call) -> decltype(call()) {
     try {
         return call();
-    } catch (const CimError& e) {
-        fail(static_cast<int>(e.code()), e.description().empty() ? CimError::codeName(e.code()) : e.description());
+    } catch (CimError const& e) {
+        fail(static_cast<int>(e.code()),
+             e.description().empty() ? CimError::codeName(e.code()) : e.description());
     }
 }
 
 // An enumeration over several classes skips classes whose provider has
 // nothing for it, rather than failing the whole answer.
-bool skippable(const CimError& e) {
+bool skippable(CimError const& e) {
     return e.code() == CMPI_RC_ERR_NOT_SUPPORTED || e.code() == CMPI_RC_ERR_NOT_FOUND ||
            e.code() == CMPI_RC_ERR_INVALID_CLASS;
 }
 
-std::optional<std::vector<std::string>> toList(const std::optional<std::set<std::string>>& names) {
-    if (!names) return std::nullopt;
+std::optional<std::vector<std::string>> toList(std::optional<std::set<std::string>> const& names) {
+    if (!names)
+        return std::nullopt;
     return std::vector<std::string>(names->begin(), names->end());
 }
 
-}  // namespace
+} // namespace
 
-InstanceOperations::InstanceOperations(const ClassRepository& classes, ProviderManager& providers)
+InstanceOperations::InstanceOperations(ClassRepository const& classes, ProviderManager& providers)
     : _classes(classes), _providers(providers) {}
 
-std::string InstanceOperations::_requireClass(const CimRequest& request, const char* param) const {
+std::string InstanceOperations::_requireClass(CimRequest const& request, char const* param) const {
     std::string name = CimOperationHandler::classNameParam(request, param);
-    if (name.empty()) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
+    if (name.empty())
+        fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
     // A schema superclass we do not ship still names our subclasses of it.
     if (!_classes.knowsClassName(request.nameSpace(), name))
         fail(CimOperationError::invalidClass, "class " + name + " does not exist");
     return name;
 }
 
-CimObjectPath InstanceOperations::_objectName(const CimRequest& request, const char* param) const {
-    const CimRequest::Param* p = request.param(param);
-    if (!p) fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
+CimObjectPath InstanceOperations::_objectName(CimRequest const& request, char const* param) const {
+    CimRequest::Param const* p = request.param(param);
+    if (!p)
+        fail(CimOperationError::invalidParameter, request.methodName() + " needs " + param);
     pugi::xml_node node = p->node.child("INSTANCENAME");
     if (!node) {
         if (p->node.child("CLASSNAME"))
-            fail(CimOperationError::notSupported, "class-level " + request.methodName() + " is not supported");
+            fail(CimOperationError::notSupported,
+                 "class-level " + request.methodName() + " is not supported");
         fail(CimOperationError::invalidParameter, std::string(param) + " needs an INSTANCENAME");
     }
     CimObjectPath path = InstanceXml::readInstanceName(node, request.nameSpace(), &_classes);
@@ -68,66 +74,79 @@ CimObjectPath InstanceOperations::_objectName(const CimRequest& request, const c
 }
 
 void InstanceOperations::registerWith(CimOperationHandler& handler) const {
-    handler.addOperation("EnumerateInstanceNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"ClassName"});
-        enumerateInstanceNames(request, out, Form::classic);
-    });
-    handler.addOperation("EnumerateInstances", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"ClassName", "LocalOnly", "DeepInheritance", "IncludeQualifiers", "IncludeClassOrigin",
-                               "PropertyList"});
-        enumerateInstances(request, out, Form::classic);
-    });
-    handler.addOperation("GetInstance", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"InstanceName", "LocalOnly", "IncludeQualifiers", "IncludeClassOrigin", "PropertyList"});
+    handler.addOperation("EnumerateInstanceNames",
+                         [this](CimRequest const& request, CimXmlWriter& out) {
+                             CimOperationHandler::checkParams(request, {"ClassName"});
+                             enumerateInstanceNames(request, out, Form::classic);
+                         });
+    handler.addOperation(
+        "EnumerateInstances", [this](CimRequest const& request, CimXmlWriter& out) {
+            CimOperationHandler::checkParams(request, {"ClassName", "LocalOnly", "DeepInheritance",
+                                                       "IncludeQualifiers", "IncludeClassOrigin",
+                                                       "PropertyList"});
+            enumerateInstances(request, out, Form::classic);
+        });
+    handler.addOperation("GetInstance", [this](CimRequest const& request, CimXmlWriter& out) {
+        CimOperationHandler::checkParams(request, {"InstanceName", "LocalOnly", "IncludeQualifiers",
+                                                   "IncludeClassOrigin", "PropertyList"});
         _getInstance(request, out);
     });
-    handler.addOperation("Associators", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole", "IncludeQualifiers",
-                               "IncludeClassOrigin", "PropertyList"});
+    handler.addOperation("Associators", [this](CimRequest const& request, CimXmlWriter& out) {
+        CimOperationHandler::checkParams(request, {"ObjectName", "AssocClass", "ResultClass",
+                                                   "Role", "ResultRole", "IncludeQualifiers",
+                                                   "IncludeClassOrigin", "PropertyList"});
         associators(request, out, false, Form::classic);
     });
-    handler.addOperation("AssociatorNames", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole"});
+    handler.addOperation("AssociatorNames", [this](CimRequest const& request, CimXmlWriter& out) {
+        CimOperationHandler::checkParams(
+            request, {"ObjectName", "AssocClass", "ResultClass", "Role", "ResultRole"});
         associators(request, out, true, Form::classic);
     });
-    handler.addOperation("References", [this](const CimRequest& request, CimXmlWriter& out) {
-        CimOperationHandler::checkParams(request, {"ObjectName", "ResultClass", "Role", "IncludeQualifiers", "IncludeClassOrigin",
-                               "PropertyList"});
+    handler.addOperation("References", [this](CimRequest const& request, CimXmlWriter& out) {
+        CimOperationHandler::checkParams(request,
+                                         {"ObjectName", "ResultClass", "Role", "IncludeQualifiers",
+                                          "IncludeClassOrigin", "PropertyList"});
         references(request, out, false, Form::classic);
     });
-    handler.addOperation("ReferenceNames", [this](const CimRequest& request, CimXmlWriter& out) {
+    handler.addOperation("ReferenceNames", [this](CimRequest const& request, CimXmlWriter& out) {
         CimOperationHandler::checkParams(request, {"ObjectName", "ResultClass", "Role"});
         references(request, out, true, Form::classic);
     });
-    handler.addOperation("CreateInstance", [this](const CimRequest& request, CimXmlWriter& out) {
+    handler.addOperation("CreateInstance", [this](CimRequest const& request, CimXmlWriter& out) {
         CimOperationHandler::checkParams(request, {"NewInstance"});
         _createInstance(request, out);
     });
-    handler.addOperation("DeleteInstance", [this](const CimRequest& request, CimXmlWriter& out) {
+    handler.addOperation("DeleteInstance", [this](CimRequest const& request, CimXmlWriter& out) {
         CimOperationHandler::checkParams(request, {"InstanceName"});
         _deleteInstance(request, out);
     });
-    handler.setMethodCall([this](const CimRequest& request, CimXmlWriter& out) { invokeMethod(request, out); });
+    handler.setMethodCall(
+        [this](CimRequest const& request, CimXmlWriter& out) { invokeMethod(request, out); });
 }
 
 // How instances are written: the request's flags and property list, where
 // the operation takes them (the name-only operations do not).
-InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(const CimRequest& request, bool flags) const {
+InstanceXml::InstanceOptions InstanceOperations::_instanceOptions(CimRequest const& request,
+                                                                  bool flags) const {
     InstanceXml::InstanceOptions options;
     if (flags) {
-        options.includeQualifiers = CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
-        options.includeClassOrigin = CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
+        options.includeQualifiers =
+            CimOperationHandler::boolParam(request, "IncludeQualifiers", false);
+        options.includeClassOrigin =
+            CimOperationHandler::boolParam(request, "IncludeClassOrigin", false);
         options.propertyList = CimOperationHandler::propertyListParam(request);
     }
     return options;
 }
 
-bool InstanceOperations::_enumerateSubscriptions(const CimRequest& request, const std::string& className, bool names,
+bool InstanceOperations::_enumerateSubscriptions(CimRequest const& request,
+                                                 std::string const& className, bool names,
                                                  Form form, CimXmlWriter& out) const {
-    if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), className)) return false;
+    if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), className))
+        return false;
     InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
     out.open("IRETURNVALUE");
-    for (const CimInstance& instance : _subscriptions->instances(className)) {
+    for (CimInstance const& instance : _subscriptions->instances(className)) {
         if (names) {
             _writeName(out, instance.path(), request.nameSpace(), form);
             continue;
@@ -142,79 +161,91 @@ bool InstanceOperations::_enumerateSubscriptions(const CimRequest& request, cons
     return true;
 }
 
-void InstanceOperations::_createInstance(const CimRequest& request, CimXmlWriter& out) const {
-    const CimRequest::Param* p = request.param("NewInstance");
+void InstanceOperations::_createInstance(CimRequest const& request, CimXmlWriter& out) const {
+    CimRequest::Param const* p = request.param("NewInstance");
     std::string cls = p ? p->node.child("INSTANCE").attribute("CLASSNAME").value() : "";
     if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), cls))
-        fail(CimOperationError::notSupported, "instances of " + (cls.empty() ? std::string("this class") : cls) +
-                                                  " in " + request.nameSpace() + " cannot be created");
+        fail(CimOperationError::notSupported,
+             "instances of " + (cls.empty() ? std::string("this class") : cls) + " in " +
+                 request.nameSpace() + " cannot be created");
     CimObjectPath made = _subscriptions->create(request);
     out.open("IRETURNVALUE");
     InstanceXml::writeInstanceName(out, made);
     out.close();
 }
 
-void InstanceOperations::_deleteInstance(const CimRequest& request, CimXmlWriter& out) const {
+void InstanceOperations::_deleteInstance(CimRequest const& request, CimXmlWriter& out) const {
     CimObjectPath path = _objectName(request, "InstanceName");
     if (!_subscriptions || !_subscriptions->serves(request.nameSpace(), path.className()))
-        fail(CimOperationError::notSupported, "instances of " + path.className() + " cannot be deleted");
+        fail(CimOperationError::notSupported,
+             "instances of " + path.className() + " cannot be deleted");
     _subscriptions->remove(path);
-    (void)out;  // DeleteInstance answers with no return value
+    (void)out; // DeleteInstance answers with no return value
 }
 
-void InstanceOperations::_writeName(CimXmlWriter& out, const CimObjectPath& path, const std::string& nameSpace,
-                                    Form form) const {
+void InstanceOperations::_writeName(CimXmlWriter& out, CimObjectPath const& path,
+                                    std::string const& nameSpace, Form form) const {
     switch (form) {
-        case Form::classic:
-            InstanceXml::writeInstanceName(out, path);
-            return;
-        case Form::pulled: {
-            if (!path.nameSpace().empty()) {
-                InstanceXml::writeInstancePath(out, path, _host);
-                return;
-            }
-            CimObjectPath full = path;
-            full.setNameSpace(nameSpace);
-            InstanceXml::writeInstancePath(out, full, _host);
+    case Form::classic:
+        InstanceXml::writeInstanceName(out, path);
+        return;
+    case Form::pulled: {
+        if (!path.nameSpace().empty()) {
+            InstanceXml::writeInstancePath(out, path, _host);
             return;
         }
+        CimObjectPath full = path;
+        full.setNameSpace(nameSpace);
+        InstanceXml::writeInstancePath(out, full, _host);
+        return;
+    }
     }
 }
 
-void InstanceOperations::enumerateInstanceNames(const CimRequest& request, CimXmlWriter& out, Form form) const {
+void InstanceOperations::enumerateInstanceNames(CimRequest const& request, CimXmlWriter& out,
+                                                Form form) const {
     std::string className = _requireClass(request, "ClassName");
-    if (_enumerateSubscriptions(request, className, true, form, out)) return;
+    if (_enumerateSubscriptions(request, className, true, form, out))
+        return;
     PathSet seen;
     out.open("IRETURNVALUE");
-    for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
-        if (!_providers.hasInstanceProvider(request.nameSpace(), cls)) continue;
+    for (std::string const& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
+        if (!_providers.hasInstanceProvider(request.nameSpace(), cls))
+            continue;
         std::vector<CimObjectPath> paths;
         try {
             paths = _providers.enumerateInstanceNames(CimObjectPath(request.nameSpace(), cls));
-        } catch (const CimError& e) {
-            if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
+        } catch (CimError const& e) {
+            if (!skippable(e))
+                fail(static_cast<int>(e.code()), e.description());
         }
-        for (const CimObjectPath& path : paths)
-            if (seen.insert(path).second) _writeName(out, path, request.nameSpace(), form);
+        for (CimObjectPath const& path : paths)
+            if (seen.insert(path).second)
+                _writeName(out, path, request.nameSpace(), form);
     }
     out.close();
 }
 
-void InstanceOperations::enumerateInstances(const CimRequest& request, CimXmlWriter& out, Form form) const {
+void InstanceOperations::enumerateInstances(CimRequest const& request, CimXmlWriter& out,
+                                            Form form) const {
     std::string className = _requireClass(request, "ClassName");
-    if (_enumerateSubscriptions(request, className, false, form, out)) return;
+    if (_enumerateSubscriptions(request, className, false, form, out))
+        return;
     bool deep = CimOperationHandler::boolParam(request, "DeepInheritance", true);
-    CimOperationHandler::boolParam(request, "LocalOnly", false);  // read for validation; deprecated, ignored
+    CimOperationHandler::boolParam(request, "LocalOnly",
+                                   false); // read for validation; deprecated, ignored
     InstanceXml::InstanceOptions options = _instanceOptions(request, true);
-    const CimClassDecl* requested = _classes.find(request.nameSpace(), className);
+    CimClassDecl const* requested = _classes.find(request.nameSpace(), className);
     if (!deep && requested) {
         // Without deep inheritance only the requested class's properties are shown.
         std::set<std::string> own;
-        for (const auto& p : requested->properties) own.insert(CimName::lower(p.name));
+        for (auto const& p : requested->properties)
+            own.insert(CimName::lower(p.name));
         if (options.propertyList) {
             std::set<std::string> both;
-            for (const auto& n : *options.propertyList)
-                if (own.count(n)) both.insert(n);
+            for (auto const& n : *options.propertyList)
+                if (own.count(n))
+                    both.insert(n);
             own = std::move(both);
         }
         options.propertyList = std::move(own);
@@ -222,18 +253,21 @@ void InstanceOperations::enumerateInstances(const CimRequest& request, CimXmlWri
     auto providerList = toList(options.propertyList);
     PathSet seen;
     out.open("IRETURNVALUE");
-    for (const std::string& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
-        if (!_providers.hasInstanceProvider(request.nameSpace(), cls)) continue;
+    for (std::string const& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
+        if (!_providers.hasInstanceProvider(request.nameSpace(), cls))
+            continue;
         std::vector<CimInstance> instances;
         try {
             instances = _providers.enumerateInstances(CimObjectPath(request.nameSpace(), cls),
                                                       providerList ? &*providerList : nullptr);
-        } catch (const CimError& e) {
-            if (!skippable(e)) fail(static_cast<int>(e.code()), e.description());
+        } catch (CimError const& e) {
+            if (!skippable(e))
+                fail(static_cast<int>(e.code()), e.description());
         }
         for (std::size_t i = 0; i < instances.size(); ++i) {
-            const CimInstance& instance = instances[i];
-            if (!seen.insert(instance.path()).second) continue;
+            CimInstance const& instance = instances[i];
+            if (!seen.insert(instance.path()).second)
+                continue;
             const std::size_t before = out.str().size();
             // One class answers with its own instances; the class is looked
             // up again only when an instance of another one comes.
@@ -245,13 +279,14 @@ void InstanceOperations::enumerateInstances(const CimRequest& request, CimXmlWri
             out.close();
             // Instances of one class are about the same size: room for the
             // rest at once spares the answer repeated growing and copying.
-            if (i == 0) out.reserve((out.str().size() - before) * (instances.size() - 1) * 9 / 8);
+            if (i == 0)
+                out.reserve((out.str().size() - before) * (instances.size() - 1) * 9 / 8);
         }
     }
     out.close();
 }
 
-void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& out) const {
+void InstanceOperations::_getInstance(CimRequest const& request, CimXmlWriter& out) const {
     CimObjectPath path = _objectName(request, "InstanceName");
     CimOperationHandler::boolParam(request, "LocalOnly", false);
     InstanceXml::InstanceOptions options = _instanceOptions(request, true);
@@ -265,41 +300,48 @@ void InstanceOperations::_getInstance(const CimRequest& request, CimXmlWriter& o
     if (!_providers.hasInstanceProvider(request.nameSpace(), path.className()))
         fail(CimOperationError::notFound, "no provider serves " + path.className());
     auto providerList = toList(options.propertyList);
-    CimInstance instance =
-        viaProvider([&] { return _providers.getInstance(path, providerList ? &*providerList : nullptr); });
+    CimInstance instance = viaProvider(
+        [&] { return _providers.getInstance(path, providerList ? &*providerList : nullptr); });
     out.open("IRETURNVALUE");
     InstanceXml::writeInstance(out, instance, options);
     out.close();
 }
 
-std::vector<std::string> InstanceOperations::_associationClasses(const std::string& nameSpace,
-                                                                 const std::string& assocClass) const {
+std::vector<std::string>
+InstanceOperations::_associationClasses(std::string const& nameSpace,
+                                        std::string const& assocClass) const {
     // No class given: one call, which the manager sends to every association provider.
-    if (assocClass.empty()) return {""};
+    if (assocClass.empty())
+        return {""};
     std::vector<std::string> classes = _classes.selfAndDescendants(nameSpace, assocClass);
-    std::erase_if(classes, [&](const std::string& c) { return !_providers.hasAssociationProvider(nameSpace, c); });
+    std::erase_if(classes, [&](std::string const& c) {
+        return !_providers.hasAssociationProvider(nameSpace, c);
+    });
     return classes;
 }
 
-void InstanceOperations::associators(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const {
-    CimObjectPath object = _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
+void InstanceOperations::associators(CimRequest const& request, CimXmlWriter& out, bool names,
+                                     Form form) const {
+    CimObjectPath object =
+        _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
     std::string assocClass = CimOperationHandler::classNameParam(request, "AssocClass");
     std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
     std::string role = CimOperationHandler::stringParam(request, "Role");
     std::string resultRole = CimOperationHandler::stringParam(request, "ResultRole");
-    for (const std::string* c : {&assocClass, &resultClass})
+    for (std::string const* c : {&assocClass, &resultClass})
         if (!c->empty() && !_classes.knowsClassName(request.nameSpace(), *c))
             fail(CimOperationError::invalidParameter, "class " + *c + " does not exist");
     InstanceXml::InstanceOptions options = _instanceOptions(request, !names);
     auto providerList = toList(options.propertyList);
     PathSet seen;
     out.open("IRETURNVALUE");
-    for (const std::string& assoc : _associationClasses(request.nameSpace(), assocClass)) {
+    for (std::string const& assoc : _associationClasses(request.nameSpace(), assocClass)) {
         if (names) {
             auto paths = viaProvider([&] {
                 return _providers.associatorNames(object, assoc, resultClass, role, resultRole);
             });
-            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), form, seen);
+            for (CimObjectPath& path : paths)
+                _writeObjectPath(out, path, request.nameSpace(), form, seen);
         } else {
             auto instances = viaProvider([&] {
                 return _providers.associators(object, assoc, resultClass, role, resultRole,
@@ -312,8 +354,10 @@ void InstanceOperations::associators(const CimRequest& request, CimXmlWriter& ou
     out.close();
 }
 
-void InstanceOperations::references(const CimRequest& request, CimXmlWriter& out, bool names, Form form) const {
-    CimObjectPath object = _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
+void InstanceOperations::references(CimRequest const& request, CimXmlWriter& out, bool names,
+                                    Form form) const {
+    CimObjectPath object =
+        _objectName(request, form == Form::classic ? "ObjectName" : "InstanceName");
     std::string resultClass = CimOperationHandler::classNameParam(request, "ResultClass");
     std::string role = CimOperationHandler::stringParam(request, "Role");
     if (!resultClass.empty() && !_classes.knowsClassName(request.nameSpace(), resultClass))
@@ -323,13 +367,16 @@ void InstanceOperations::references(const CimRequest& request, CimXmlWriter& out
     PathSet seen;
     out.open("IRETURNVALUE");
     // For references the result class is the association class itself.
-    for (const std::string& assoc : _associationClasses(request.nameSpace(), resultClass)) {
+    for (std::string const& assoc : _associationClasses(request.nameSpace(), resultClass)) {
         if (names) {
-            auto paths = viaProvider([&] { return _providers.referenceNames(object, assoc, role); });
-            for (CimObjectPath& path : paths) _writeObjectPath(out, path, request.nameSpace(), form, seen);
+            auto paths =
+                viaProvider([&] { return _providers.referenceNames(object, assoc, role); });
+            for (CimObjectPath& path : paths)
+                _writeObjectPath(out, path, request.nameSpace(), form, seen);
         } else {
             auto instances = viaProvider([&] {
-                return _providers.references(object, assoc, role, providerList ? &*providerList : nullptr);
+                return _providers.references(object, assoc, role,
+                                             providerList ? &*providerList : nullptr);
             });
             for (CimInstance& instance : instances)
                 _writeObjectWithPath(out, instance, request.nameSpace(), options, form, seen);
@@ -338,28 +385,34 @@ void InstanceOperations::references(const CimRequest& request, CimXmlWriter& out
     out.close();
 }
 
-void InstanceOperations::_writeObjectPath(CimXmlWriter& out, CimObjectPath& path, const std::string& nameSpace,
-                                          Form form, PathSet& seen) const {
-    if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
-    if (!seen.insert(path).second) return;
+void InstanceOperations::_writeObjectPath(CimXmlWriter& out, CimObjectPath& path,
+                                          std::string const& nameSpace, Form form,
+                                          PathSet& seen) const {
+    if (path.nameSpace().empty())
+        path.setNameSpace(nameSpace);
+    if (!seen.insert(path).second)
+        return;
     switch (form) {
-        case Form::classic:
-            out.open("OBJECTPATH");
-            InstanceXml::writeInstancePath(out, path, _host);
-            out.close();
-            return;
-        case Form::pulled:
-            InstanceXml::writeInstancePath(out, path, _host);
-            return;
+    case Form::classic:
+        out.open("OBJECTPATH");
+        InstanceXml::writeInstancePath(out, path, _host);
+        out.close();
+        return;
+    case Form::pulled:
+        InstanceXml::writeInstancePath(out, path, _host);
+        return;
     }
 }
 
-void InstanceOperations::_writeObjectWithPath(CimXmlWriter& out, const CimInstance& instance,
-                                              const std::string& nameSpace, InstanceXml::InstanceOptions& options,
-                                              Form form, PathSet& seen) const {
+void InstanceOperations::_writeObjectWithPath(CimXmlWriter& out, CimInstance const& instance,
+                                              std::string const& nameSpace,
+                                              InstanceXml::InstanceOptions& options, Form form,
+                                              PathSet& seen) const {
     CimObjectPath path = instance.path();
-    if (path.nameSpace().empty()) path.setNameSpace(nameSpace);
-    if (!seen.insert(path).second) return;
+    if (path.nameSpace().empty())
+        path.setNameSpace(nameSpace);
+    if (!seen.insert(path).second)
+        return;
     options.cls = _classes.find(path.nameSpace(), path.className());
     out.open(form == Form::classic ? "VALUE.OBJECTWITHPATH" : "VALUE.INSTANCEWITHPATH");
     InstanceXml::writeInstancePath(out, path, _host);
@@ -367,7 +420,7 @@ void InstanceOperations::_writeObjectWithPath(CimXmlWriter& out, const CimInstan
     out.close();
 }
 
-void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& out) const {
+void InstanceOperations::invokeMethod(CimRequest const& request, CimXmlWriter& out) const {
     pugi::xml_node target = request.target();
     CimObjectPath path;
     if (pugi::xml_node name = target.child("INSTANCENAME")) {
@@ -377,31 +430,40 @@ void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& o
     } else {
         fail(CimOperationError::invalidParameter, "method call without a target");
     }
-    const CimClassDecl* cls = _classes.find(request.nameSpace(), path.className());
-    if (!cls) fail(CimOperationError::invalidClass, "class " + path.className() + " does not exist");
-    const CimClassDecl::Method* method = cls->findMethod(request.methodName());
+    CimClassDecl const* cls = _classes.find(request.nameSpace(), path.className());
+    if (!cls)
+        fail(CimOperationError::invalidClass, "class " + path.className() + " does not exist");
+    CimClassDecl::Method const* method = cls->findMethod(request.methodName());
     if (!method)
-        fail(CimOperationError::methodNotFound, "class " + cls->name + " has no method " + request.methodName());
+        fail(CimOperationError::methodNotFound,
+             "class " + cls->name + " has no method " + request.methodName());
 
     BrokerUpcalls::Args in;
-    for (const auto& p : request.params()) {
-        const CimClassDecl::Parameter* decl = nullptr;
-        for (const auto& candidate : method->parameters)
-            if (CimName::equal(candidate.name, p.name)) decl = &candidate;
-        if (!decl) fail(CimOperationError::invalidParameter, "method " + method->name + " has no parameter " + p.name);
+    for (auto const& p : request.params()) {
+        CimClassDecl::Parameter const* decl = nullptr;
+        for (auto const& candidate : method->parameters)
+            if (CimName::equal(candidate.name, p.name))
+                decl = &candidate;
+        if (!decl)
+            fail(CimOperationError::invalidParameter,
+                 "method " + method->name + " has no parameter " + p.name);
         // The MOF types what the client sent untyped; a PARAMTYPE it did send wins.
         CMPIType type = CimValue::typeFromName(p.paramType.empty() ? decl->type : p.paramType);
-        if (type != CMPI_null && decl->isArray) type = static_cast<CMPIType>(type | CMPI_ARRAY);
-        in.emplace_back(decl->name, InstanceXml::readParamValue(p.node, type, request.nameSpace(), &_classes));
+        if (type != CMPI_null && decl->isArray)
+            type = static_cast<CMPIType>(type | CMPI_ARRAY);
+        in.emplace_back(decl->name,
+                        InstanceXml::readParamValue(p.node, type, request.nameSpace(), &_classes));
     }
     if (!_providers.hasMethodProvider(request.nameSpace(), path.className()))
         fail(CimOperationError::notSupported, "no method provider serves " + path.className());
-    MethodResult answer = viaProvider([&] { return _providers.invokeMethod(path, method->name, in); });
-    const CimValue& result = answer.returnValue;
-    const auto& outArgs = answer.outArgs;
+    MethodResult answer =
+        viaProvider([&] { return _providers.invokeMethod(path, method->name, in); });
+    CimValue const& result = answer.returnValue;
+    auto const& outArgs = answer.outArgs;
 
-    std::string returnType = result.isNull() || result.type() == CMPI_null ? method->returnType
-                                                                           : CimValue::typeName(result.elementType());
+    std::string returnType = result.isNull() || result.type() == CMPI_null
+                                 ? method->returnType
+                                 : CimValue::typeName(result.elementType());
     out.open("RETURNVALUE", {{"PARAMTYPE", returnType}});
     // The client crashes on an empty RETURNVALUE, so a null result still carries a VALUE.
     if (result.isNull())
@@ -409,12 +471,15 @@ void InstanceOperations::invokeMethod(const CimRequest& request, CimXmlWriter& o
     else
         InstanceXml::writeValue(out, result);
     out.close();
-    for (const auto& [name, value] : outArgs) {
+    for (auto const& [name, value] : outArgs) {
         CimXmlWriter::Attributes attributes{{"NAME", name}};
-        const std::string type = value.type() == CMPI_null ? "" : CimValue::typeName(value.elementType());
-        if (value.type() != CMPI_null) attributes.add("PARAMTYPE", type);
+        const std::string type =
+            value.type() == CMPI_null ? "" : CimValue::typeName(value.elementType());
+        if (value.type() != CMPI_null)
+            attributes.add("PARAMTYPE", type);
         out.open("PARAMVALUE", attributes);
-        if (!value.isNull()) InstanceXml::writeValue(out, value);
+        if (!value.isNull())
+            InstanceXml::writeValue(out, value);
         out.close();
     }
 }

@@ -1,9 +1,9 @@
 #include "InstanceXml.h"
 
-#include "ClassRepository.h"
 #include "CimError.h"
 #include "CimName.h"
 #include "CimOperationError.h"
+#include "ClassRepository.h"
 
 #include <cstring>
 
@@ -11,20 +11,23 @@ namespace {
 
 constexpr size_t maxKeys = 64;
 
-[[noreturn]] void invalid(const std::string& what) {
+[[noreturn]] void invalid(std::string const& what) {
     throw CimOperationError(CimOperationError::invalidParameter, what);
 }
 
-std::string_view elementTypeName(const CimValue& value) {
+std::string_view elementTypeName(CimValue const& value) {
     CMPIType element = value.elementType();
-    if (element == CMPI_instance) return "string";  // embedded instances travel as text
-    const char* known = CimValue::elementTypeName(element);
+    if (element == CMPI_instance)
+        return "string"; // embedded instances travel as text
+    char const* known = CimValue::elementTypeName(element);
     return known ? std::string_view(known) : std::string_view("string");
 }
 
-const char* keyValueType(CMPIType type) {
-    if (type == CMPI_boolean) return "boolean";
-    if (type & (CMPI_UINT | CMPI_SINT | CMPI_REAL)) return "numeric";
+char const* keyValueType(CMPIType type) {
+    if (type == CMPI_boolean)
+        return "boolean";
+    if (type & (CMPI_UINT | CMPI_SINT | CMPI_REAL))
+        return "numeric";
     return "string";
 }
 
@@ -33,7 +36,7 @@ const char* keyValueType(CMPIType type) {
 CimValue parseText(CMPIType type, std::string_view text) {
     try {
         return CimValue::fromText(type, text);
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         invalid(e.description());
     }
 }
@@ -41,29 +44,33 @@ CimValue parseText(CMPIType type, std::string_view text) {
 std::string nameSpaceOf(pugi::xml_node namespacePath) {
     std::string ns;
     for (pugi::xml_node part : namespacePath.children("NAMESPACE")) {
-        if (!ns.empty()) ns += '/';
+        if (!ns.empty())
+            ns += '/';
         ns += part.attribute("NAME").value();
     }
     return ns;
 }
 
-}  // namespace
+} // namespace
 
-void InstanceXml::writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace) {
+void InstanceXml::writeLocalNamespacePath(CimXmlWriter& out, std::string const& nameSpace) {
     out.open("LOCALNAMESPACEPATH");
     size_t start = 0;
     while (true) {
         size_t slash = nameSpace.find('/', start);
-        out.empty("NAMESPACE", {{"NAME", nameSpace.substr(start, slash == std::string::npos ? slash : slash - start)}});
-        if (slash == std::string::npos) break;
+        out.empty("NAMESPACE",
+                  {{"NAME",
+                    nameSpace.substr(start, slash == std::string::npos ? slash : slash - start)}});
+        if (slash == std::string::npos)
+            break;
         start = slash + 1;
     }
     out.close();
 }
 
-void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path) {
+void InstanceXml::writeInstanceName(CimXmlWriter& out, CimObjectPath const& path) {
     out.open("INSTANCENAME", {{"CLASSNAME", path.className()}});
-    for (const auto& key : path.keys()) {
+    for (auto const& key : path.keys()) {
         out.open("KEYBINDING", {{"NAME", key.name}});
         if (key.value.type() == CMPI_ref && !key.value.isNull()) {
             writeValue(out, key.value);
@@ -76,7 +83,8 @@ void InstanceXml::writeInstanceName(CimXmlWriter& out, const CimObjectPath& path
     out.close();
 }
 
-void InstanceXml::writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host) {
+void InstanceXml::writeInstancePath(CimXmlWriter& out, CimObjectPath const& path,
+                                    std::string const& host) {
     out.open("INSTANCEPATH");
     out.open("NAMESPACEPATH");
     out.element("HOST", path.host().empty() ? host : path.host());
@@ -86,11 +94,11 @@ void InstanceXml::writeInstancePath(CimXmlWriter& out, const CimObjectPath& path
     out.close();
 }
 
-void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value) {
+void InstanceXml::writeValue(CimXmlWriter& out, CimValue const& value) {
     if (value.isArray()) {
         bool refs = value.elementType() == CMPI_ref;
         out.open(refs ? "VALUE.REFARRAY" : "VALUE.ARRAY");
-        for (const CimValue& e : value.elements()) {
+        for (CimValue const& e : value.elements()) {
             if (e.isNull())
                 out.empty("VALUE.NULL");
             else
@@ -100,7 +108,7 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value) {
         return;
     }
     if (value.type() == CMPI_ref) {
-        const CimObjectPath& path = value.asReference();
+        CimObjectPath const& path = value.asReference();
         out.open("VALUE.REFERENCE");
         if (!path.nameSpace().empty()) {
             // Every reference we hand out points into our own namespaces, so it
@@ -120,7 +128,7 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value) {
         // Embedded instances travel as escaped CIM-XML text.
         CimXmlWriter inner;
         writeInstance(inner, value.asInstance(), InstanceOptions{});
-        const std::string& text = inner.str();
+        std::string const& text = inner.str();
         out.element("VALUE", text.substr(text.find('\n') + 1));
         return;
     }
@@ -131,14 +139,15 @@ void InstanceXml::writeValue(CimXmlWriter& out, const CimValue& value) {
         out.element("VALUE", value.toText());
 }
 
-void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options) {
+void InstanceXml::writeInstance(CimXmlWriter& out, CimInstance const& instance,
+                                InstanceOptions const& options) {
     out.open("INSTANCE", {{"CLASSNAME", instance.className()}});
     if (options.includeQualifiers && options.cls) {
-        for (const auto& q : options.cls->qualifiers) {
+        for (auto const& q : options.cls->qualifiers) {
             out.open("QUALIFIER", {{"NAME", q.name}, {"TYPE", q.type}});
             if (!q.value.isArray && !q.value.items.empty() &&
                 q.value.items[0].kind != CimClassDecl::Literal::Kind::Null) {
-                const auto& item = q.value.items[0];
+                auto const& item = q.value.items[0];
                 out.element("VALUE", item.kind == CimClassDecl::Literal::Kind::Boolean
                                          ? (item.text == "true" ? "TRUE" : "FALSE")
                                          : item.text);
@@ -146,54 +155,70 @@ void InstanceXml::writeInstance(CimXmlWriter& out, const CimInstance& instance, 
             out.close();
         }
     }
-    for (const auto& p : instance.properties()) {
-        if (options.propertyList && !options.propertyList->count(CimName::lower(p.name))) continue;
-        const CimClassDecl::Property* decl = options.cls ? options.cls->findProperty(p.name) : nullptr;
-        const CimValue& v = p.value;
+    for (auto const& p : instance.properties()) {
+        if (options.propertyList && !options.propertyList->count(CimName::lower(p.name)))
+            continue;
+        CimClassDecl::Property const* decl =
+            options.cls ? options.cls->findProperty(p.name) : nullptr;
+        CimValue const& v = p.value;
         CimXmlWriter::Attributes attributes{{"NAME", p.name}};
-        const char* tag;
+        char const* tag;
         std::string_view type;
-        if (v.elementType() == CMPI_ref || (v.type() == CMPI_null && decl && decl->type == "reference")) {
+        if (v.elementType() == CMPI_ref ||
+            (v.type() == CMPI_null && decl && decl->type == "reference")) {
             tag = "PROPERTY.REFERENCE";
-            if (decl) attributes.add("REFERENCECLASS", decl->refClass);
+            if (decl)
+                attributes.add("REFERENCECLASS", decl->refClass);
         } else {
-            type = v.type() == CMPI_null ? (decl ? std::string_view(decl->type) : "string") : elementTypeName(v);
-            tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY" : "PROPERTY";
+            type = v.type() == CMPI_null ? (decl ? std::string_view(decl->type) : "string")
+                                         : elementTypeName(v);
+            tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY"
+                                                                                  : "PROPERTY";
             attributes.add("TYPE", type);
-            if (v.elementType() == CMPI_instance) attributes.add("EmbeddedObject", "instance");
+            if (v.elementType() == CMPI_instance)
+                attributes.add("EmbeddedObject", "instance");
         }
-        if (options.includeClassOrigin && decl) attributes.add("CLASSORIGIN", decl->classOrigin);
+        if (options.includeClassOrigin && decl)
+            attributes.add("CLASSORIGIN", decl->classOrigin);
         out.open(tag, attributes);
-        if (!v.isNull()) writeValue(out, v);
+        if (!v.isNull())
+            writeValue(out, v);
         out.close();
     }
     out.close();
 }
 
-CimObjectPath InstanceXml::readInstanceName(pugi::xml_node node, const std::string& nameSpace,
-                                            const ClassRepository* classes) {
-    if (std::strcmp(node.name(), "INSTANCENAME") != 0) invalid(std::string("expected INSTANCENAME, found ") + node.name());
+CimObjectPath InstanceXml::readInstanceName(pugi::xml_node node, std::string const& nameSpace,
+                                            ClassRepository const* classes) {
+    if (std::strcmp(node.name(), "INSTANCENAME") != 0)
+        invalid(std::string("expected INSTANCENAME, found ") + node.name());
     std::string className = node.attribute("CLASSNAME").value();
-    if (className.empty()) invalid("INSTANCENAME without CLASSNAME");
+    if (className.empty())
+        invalid("INSTANCENAME without CLASSNAME");
     CimObjectPath path(nameSpace, className);
-    const CimClassDecl* cls = classes ? classes->find(nameSpace, className) : nullptr;
-    if (node.child("KEYVALUE") || node.child("VALUE.REFERENCE")) invalid("keys of " + className + " need names");
+    CimClassDecl const* cls = classes ? classes->find(nameSpace, className) : nullptr;
+    if (node.child("KEYVALUE") || node.child("VALUE.REFERENCE"))
+        invalid("keys of " + className + " need names");
     size_t keyCount = 0;
     for (pugi::xml_node binding : node.children("KEYBINDING")) {
         // Classes have a handful of keys; adding a key looks at all before it.
-        if (++keyCount > maxKeys) invalid(className + " has more than " + std::to_string(maxKeys) + " keys");
+        if (++keyCount > maxKeys)
+            invalid(className + " has more than " + std::to_string(maxKeys) + " keys");
         std::string name = binding.attribute("NAME").value();
-        if (name.empty()) invalid("KEYBINDING without NAME");
+        if (name.empty())
+            invalid("KEYBINDING without NAME");
         if (pugi::xml_node ref = binding.child("VALUE.REFERENCE")) {
             path.addKey(name, CimValue::reference(readReference(ref, nameSpace, classes)));
             continue;
         }
         pugi::xml_node kv = binding.child("KEYVALUE");
-        if (!kv) invalid("KEYBINDING " + name + " without a value");
+        if (!kv)
+            invalid("KEYBINDING " + name + " without a value");
         std::string text = kv.text().get();
         std::string valueType = kv.attribute("VALUETYPE").value();
-        if (valueType.empty()) valueType = "string";
-        const CimClassDecl::Property* decl = cls ? cls->findProperty(name) : nullptr;
+        if (valueType.empty())
+            valueType = "string";
+        CimClassDecl::Property const* decl = cls ? cls->findProperty(name) : nullptr;
         CMPIType type = CMPI_null;
         if (std::string explicitType = kv.attribute("TYPE").value(); !explicitType.empty())
             type = CimValue::typeFromName(explicitType);
@@ -217,14 +242,16 @@ CimObjectPath InstanceXml::readInstanceName(pugi::xml_node node, const std::stri
     return path;
 }
 
-CimObjectPath InstanceXml::readReference(pugi::xml_node valueReference, const std::string& nameSpace,
-                                         const ClassRepository* classes) {
+CimObjectPath InstanceXml::readReference(pugi::xml_node valueReference,
+                                         std::string const& nameSpace,
+                                         ClassRepository const* classes) {
     pugi::xml_node inner = valueReference.first_child();
     std::string tag = inner.name();
     if (tag == "INSTANCEPATH") {
         pugi::xml_node nsPath = inner.child("NAMESPACEPATH");
         std::string ns = nameSpaceOf(nsPath.child("LOCALNAMESPACEPATH"));
-        CimObjectPath path = readInstanceName(inner.child("INSTANCENAME"), ns.empty() ? nameSpace : ns, classes);
+        CimObjectPath path =
+            readInstanceName(inner.child("INSTANCENAME"), ns.empty() ? nameSpace : ns, classes);
         path.setHost(nsPath.child("HOST").text().get());
         return path;
     }
@@ -232,19 +259,23 @@ CimObjectPath InstanceXml::readReference(pugi::xml_node valueReference, const st
         std::string ns = nameSpaceOf(inner.child("LOCALNAMESPACEPATH"));
         return readInstanceName(inner.child("INSTANCENAME"), ns.empty() ? nameSpace : ns, classes);
     }
-    if (tag == "INSTANCENAME") return readInstanceName(inner, nameSpace, classes);
-    if (tag == "CLASSNAME") return CimObjectPath(nameSpace, inner.attribute("NAME").value());
+    if (tag == "INSTANCENAME")
+        return readInstanceName(inner, nameSpace, classes);
+    if (tag == "CLASSNAME")
+        return CimObjectPath(nameSpace, inner.attribute("NAME").value());
     if (tag == "LOCALCLASSPATH" || tag == "CLASSPATH") {
-        pugi::xml_node local = tag == "CLASSPATH" ? inner.child("NAMESPACEPATH").child("LOCALNAMESPACEPATH")
-                                                  : inner.child("LOCALNAMESPACEPATH");
+        pugi::xml_node local = tag == "CLASSPATH"
+                                   ? inner.child("NAMESPACEPATH").child("LOCALNAMESPACEPATH")
+                                   : inner.child("LOCALNAMESPACEPATH");
         std::string ns = nameSpaceOf(local);
-        return CimObjectPath(ns.empty() ? nameSpace : ns, inner.child("CLASSNAME").attribute("NAME").value());
+        return CimObjectPath(ns.empty() ? nameSpace : ns,
+                             inner.child("CLASSNAME").attribute("NAME").value());
     }
     invalid("VALUE.REFERENCE holds no path");
 }
 
-CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type, const std::string& nameSpace,
-                                     const ClassRepository* classes) {
+CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type,
+                                     std::string const& nameSpace, ClassRepository const* classes) {
     CMPIType element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
     if (pugi::xml_node ref = paramValue.child("VALUE.REFERENCE"))
         return CimValue::reference(readReference(ref, nameSpace, classes));
@@ -259,7 +290,8 @@ CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type, c
         return CimValue::array(CMPI_ref, std::move(items));
     }
     // Untyped values that the class does not declare travel as strings.
-    if (element == CMPI_null || element == CMPI_ref) element = CMPI_string;
+    if (element == CMPI_null || element == CMPI_ref)
+        element = CMPI_string;
     if (pugi::xml_node array = paramValue.child("VALUE.ARRAY")) {
         std::vector<CimValue> items;
         for (pugi::xml_node v : array.children()) {
@@ -271,7 +303,9 @@ CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type, c
         return CimValue::array(element, std::move(items));
     }
     if (pugi::xml_node v = paramValue.child("VALUE")) {
-        if (type & CMPI_ARRAY) invalid(std::string("parameter ") + paramValue.attribute("NAME").value() + " needs an array");
+        if (type & CMPI_ARRAY)
+            invalid(std::string("parameter ") + paramValue.attribute("NAME").value() +
+                    " needs an array");
         return parseText(element, v.text().get());
     }
     return CimValue::null(type == CMPI_null ? CMPI_string : type);

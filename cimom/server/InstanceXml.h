@@ -19,27 +19,29 @@ class ClassRepository;
 class InstanceXml {
 public:
     struct InstanceOptions {
-        const CimClassDecl* cls = nullptr;  // types nulls and adds qualifiers/origin
+        CimClassDecl const* cls = nullptr; // types nulls and adds qualifiers/origin
         bool includeQualifiers = false;
         bool includeClassOrigin = false;
-        std::optional<std::set<std::string>> propertyList;  // lower-case names
+        std::optional<std::set<std::string>> propertyList; // lower-case names
     };
 
-    static void writeInstanceName(CimXmlWriter& out, const CimObjectPath& path);
+    static void writeInstanceName(CimXmlWriter& out, CimObjectPath const& path);
     // INSTANCEPATH: NAMESPACEPATH (HOST, LOCALNAMESPACEPATH) then INSTANCENAME.
-    static void writeInstancePath(CimXmlWriter& out, const CimObjectPath& path, const std::string& host);
-    static void writeLocalNamespacePath(CimXmlWriter& out, const std::string& nameSpace);
-    static void writeInstance(CimXmlWriter& out, const CimInstance& instance, const InstanceOptions& options);
+    static void writeInstancePath(CimXmlWriter& out, CimObjectPath const& path,
+                                  std::string const& host);
+    static void writeLocalNamespacePath(CimXmlWriter& out, std::string const& nameSpace);
+    static void writeInstance(CimXmlWriter& out, CimInstance const& instance,
+                              InstanceOptions const& options);
     // VALUE, VALUE.ARRAY or VALUE.REFERENCE (a LOCALINSTANCEPATH) for a non-null value.
-    static void writeValue(CimXmlWriter& out, const CimValue& value);
+    static void writeValue(CimXmlWriter& out, CimValue const& value);
 
     // Reads an INSTANCENAME; key types follow the class's MOF when held.
-    static CimObjectPath readInstanceName(pugi::xml_node node, const std::string& nameSpace,
-                                          const ClassRepository* classes);
+    static CimObjectPath readInstanceName(pugi::xml_node node, std::string const& nameSpace,
+                                          ClassRepository const* classes);
     // Reads any of the path forms a VALUE.REFERENCE may hold.
-    static CimObjectPath readReference(pugi::xml_node valueReference, const std::string& nameSpace,
-                                       const ClassRepository* classes);
+    static CimObjectPath readReference(pugi::xml_node valueReference, std::string const& nameSpace,
+                                       ClassRepository const* classes);
     // Reads the value inside a PARAMVALUE; type is the declared one (CMPI_null: untyped).
-    static CimValue readParamValue(pugi::xml_node paramValue, CMPIType type, const std::string& nameSpace,
-                                   const ClassRepository* classes);
+    static CimValue readParamValue(pugi::xml_node paramValue, CMPIType type,
+                                   std::string const& nameSpace, ClassRepository const* classes);
 };

@@ -6,10 +6,11 @@
 // A MOF problem, always tied to the file and line so start-up errors can name both.
 class MofError : public std::runtime_error {
 public:
-    MofError(const std::string& file, int line, const std::string& what)
-        : std::runtime_error(file + ":" + std::to_string(line) + ": " + what), _file(file), _line(line) {}
+    MofError(std::string const& file, int line, std::string const& what)
+        : std::runtime_error(file + ":" + std::to_string(line) + ": " + what), _file(file),
+          _line(line) {}
 
-    const std::string& file() const { return _file; }
+    std::string const& file() const { return _file; }
     int line() const { return _line; }
 
 private:

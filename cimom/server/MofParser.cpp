@@ -13,38 +13,44 @@ namespace {
 constexpr int maxIncludeDepth = 16;
 constexpr size_t maxFeatures = 1024;
 
-const std::set<std::string>& dataTypes() {
-    static const std::set<std::string> types{"boolean", "string", "char16", "datetime", "uint8",  "sint8",
-                                             "uint16",  "sint16", "uint32", "sint32",   "uint64", "sint64",
-                                             "real32",  "real64", "object"};
+std::set<std::string> const& dataTypes() {
+    static const std::set<std::string> types{"boolean", "string", "char16", "datetime", "uint8",
+                                             "sint8",   "uint16", "sint16", "uint32",   "sint32",
+                                             "uint64",  "sint64", "real32", "real64",   "object"};
     return types;
 }
 
 std::string lower(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    std::transform(s.begin(), s.end(), s.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return s;
 }
 
-}  // namespace
+} // namespace
 
 MofParser::MofParser(std::string defaultNamespace, ClassSink sink)
     : _namespace(std::move(defaultNamespace)), _sink(std::move(sink)) {
     // Types of the standard qualifiers we meet; others are inferred from the literal.
-    for (const char* b : {"key", "association", "indication", "abstract", "required", "in", "out", "override",
-                          "deprecated", "static", "terminal", "aggregate", "aggregation", "composition", "write",
-                          "read", "experimental", "exception", "weak"})
+    for (char const* b :
+         {"key", "association", "indication", "abstract", "required", "in", "out", "override",
+          "deprecated", "static", "terminal", "aggregate", "aggregation", "composition", "write",
+          "read", "experimental", "exception", "weak"})
         _qualifierTypes[b] = "boolean";
-    for (const char* u : {"maxlen", "max", "min"}) _qualifierTypes[u] = "uint32";
-    for (const char* s : {"maxvalue", "minvalue"}) _qualifierTypes[s] = "sint64";
+    for (char const* u : {"maxlen", "max", "min"})
+        _qualifierTypes[u] = "uint32";
+    for (char const* s : {"maxvalue", "minvalue"})
+        _qualifierTypes[s] = "sint64";
 }
 
-void MofParser::parseFile(const std::string& path) {
+void MofParser::parseFile(std::string const& path) {
     std::ifstream in(path, std::ios::binary);
-    if (!in) throw MofError(path, 0, "cannot open file");
+    if (!in)
+        throw MofError(path, 0, "cannot open file");
     std::ostringstream text;
     text << in.rdbuf();
     std::string canonical = std::filesystem::weakly_canonical(path).string();
-    if (!_openFiles.insert(canonical).second) throw MofError(path, 0, "file includes itself");
+    if (!_openFiles.insert(canonical).second)
+        throw MofError(path, 0, "file includes itself");
     MofTokenizer tokenizer(text.str(), path);
     try {
         _parseUnit(tokenizer, path, static_cast<int>(_openFiles.size()));
@@ -55,12 +61,12 @@ void MofParser::parseFile(const std::string& path) {
     _openFiles.erase(canonical);
 }
 
-void MofParser::parseText(const std::string& text, const std::string& fileName) {
+void MofParser::parseText(std::string const& text, std::string const& fileName) {
     MofTokenizer tokenizer(text, fileName);
     _parseUnit(tokenizer, fileName, 1);
 }
 
-void MofParser::_parseUnit(MofTokenizer& tokenizer, const std::string& fileName, int depth) {
+void MofParser::_parseUnit(MofTokenizer& tokenizer, std::string const& fileName, int depth) {
     // Includes nest: keep the outer reader's position and restore it afterwards.
     MofTokenizer* savedTokenizer = _tokenizer;
     std::string savedFile = _fileName;
@@ -75,13 +81,15 @@ void MofParser::_parseUnit(MofTokenizer& tokenizer, const std::string& fileName,
             _parseQualifierDeclaration();
         } else {
             std::vector<CimClassDecl::Qualifier> qualifiers;
-            if (_token.isPunct('[')) qualifiers = _parseQualifierList();
+            if (_token.isPunct('['))
+                qualifiers = _parseQualifierList();
             if (_isKeyword("class"))
                 _parseClass(std::move(qualifiers));
             else if (_isKeyword("instance"))
                 _skipInstance();
             else
-                _fail("expected 'class', 'instance', 'qualifier' or '#pragma', found '" + _token.text + "'");
+                _fail("expected 'class', 'instance', 'qualifier' or '#pragma', found '" +
+                      _token.text + "'");
         }
     }
     _tokenizer = savedTokenizer;
@@ -89,18 +97,23 @@ void MofParser::_parseUnit(MofTokenizer& tokenizer, const std::string& fileName,
     _token = savedToken;
 }
 
-void MofParser::_advance() { _token = _tokenizer->next(); }
+void MofParser::_advance() {
+    _token = _tokenizer->next();
+}
 
-void MofParser::_fail(const std::string& what) const { throw MofError(_fileName, _token.line, what); }
+void MofParser::_fail(std::string const& what) const {
+    throw MofError(_fileName, _token.line, what);
+}
 
-bool MofParser::_isKeyword(const char* word) const {
+bool MofParser::_isKeyword(char const* word) const {
     return _token.kind == MofToken::Kind::Identifier && strcasecmp(_token.text.c_str(), word) == 0;
 }
 
-MofToken MofParser::_expect(MofToken::Kind kind, const char* what) {
+MofToken MofParser::_expect(MofToken::Kind kind, char const* what) {
     if (_token.kind != kind)
         _fail(std::string("expected ") + what + ", found '" +
-              (_token.kind == MofToken::Kind::End ? std::string("end of file") : _token.text) + "'");
+              (_token.kind == MofToken::Kind::End ? std::string("end of file") : _token.text) +
+              "'");
     MofToken taken = _token;
     _advance();
     return taken;
@@ -108,12 +121,14 @@ MofToken MofParser::_expect(MofToken::Kind kind, const char* what) {
 
 void MofParser::_expectPunct(char c) {
     if (!_token.isPunct(c))
-        _fail(std::string("expected '") + c + "', found '" + (_token.kind == MofToken::Kind::End ? "end of file" : _token.text) + "'");
+        _fail(std::string("expected '") + c + "', found '" +
+              (_token.kind == MofToken::Kind::End ? "end of file" : _token.text) + "'");
     _advance();
 }
 
 bool MofParser::_acceptPunct(char c) {
-    if (!_token.isPunct(c)) return false;
+    if (!_token.isPunct(c))
+        return false;
     _advance();
     return true;
 }
@@ -124,23 +139,29 @@ void MofParser::_parsePragma(int depth) {
     std::string name = lower(_expect(MofToken::Kind::Identifier, "pragma name").text);
     _expectPunct('(');
     std::string value = _expect(MofToken::Kind::String, "pragma value").text;
-    while (_token.kind == MofToken::Kind::String) value += _expect(MofToken::Kind::String, "string").text;
+    while (_token.kind == MofToken::Kind::String)
+        value += _expect(MofToken::Kind::String, "string").text;
     _expectPunct(')');
     if (name == "namespace") {
         // "__Create"/"__Delete" style values are other managers' extensions.
-        if (value.rfind("__", 0) != 0) _namespace = value;
+        if (value.rfind("__", 0) != 0)
+            _namespace = value;
     } else if (name == "include") {
-        if (depth >= maxIncludeDepth) throw MofError(_fileName, line, "includes nested too deep");
+        if (depth >= maxIncludeDepth)
+            throw MofError(_fileName, line, "includes nested too deep");
         std::filesystem::path target(value);
-        if (target.is_relative()) target = std::filesystem::path(_fileName).parent_path() / target;
+        if (target.is_relative())
+            target = std::filesystem::path(_fileName).parent_path() / target;
         // The name comes from the file: a bad one (too long, a folder, a
         // device) is this file's error, not a filesystem exception.
         std::error_code error;
         if (!std::filesystem::is_regular_file(target, error))
             throw MofError(_fileName, line, "included file not found: " + value);
         std::string canonical = std::filesystem::weakly_canonical(target, error).string();
-        if (error) throw MofError(_fileName, line, "included file " + value + ": " + error.message());
-        if (_openFiles.count(canonical)) throw MofError(_fileName, line, "include cycle through " + value);
+        if (error)
+            throw MofError(_fileName, line, "included file " + value + ": " + error.message());
+        if (_openFiles.count(canonical))
+            throw MofError(_fileName, line, "include cycle through " + value);
         std::ifstream in(target, std::ios::binary);
         std::ostringstream text;
         text << in.rdbuf();
@@ -162,17 +183,20 @@ void MofParser::_parseQualifierDeclaration() {
     std::string name = _expect(MofToken::Kind::Identifier, "qualifier name").text;
     _expectPunct(':');
     std::string type = lower(_expect(MofToken::Kind::Identifier, "qualifier type").text);
-    if (!dataTypes().count(type)) _fail("unknown qualifier type '" + type + "'");
+    if (!dataTypes().count(type))
+        _fail("unknown qualifier type '" + type + "'");
     bool isArray = false;
     _parseArraySuffix(isArray);
     _qualifierTypes[lower(name)] = type;
-    if (_acceptPunct('=')) _parseValue();
+    if (_acceptPunct('='))
+        _parseValue();
     // Scope and flavor lists only steer MOF compilers; read them and move on.
     while (_acceptPunct(',')) {
         _expect(MofToken::Kind::Identifier, "scope or flavor");
         _expectPunct('(');
         while (!_token.isPunct(')')) {
-            if (_token.kind == MofToken::Kind::End) _fail("unterminated qualifier declaration");
+            if (_token.kind == MofToken::Kind::End)
+                _fail("unterminated qualifier declaration");
             _advance();
         }
         _expectPunct(')');
@@ -188,36 +212,46 @@ void MofParser::_parseClass(std::vector<CimClassDecl::Qualifier> qualifiers) {
     cls.qualifiers = std::move(qualifiers);
     _advance();
     cls.name = _expect(MofToken::Kind::Identifier, "class name").text;
-    if (_acceptPunct(':')) cls.superClass = _expect(MofToken::Kind::Identifier, "superclass name").text;
+    if (_acceptPunct(':'))
+        cls.superClass = _expect(MofToken::Kind::Identifier, "superclass name").text;
     _expectPunct('{');
     while (!_token.isPunct('}')) {
-        if (_token.kind == MofToken::Kind::End) _fail("class " + cls.name + " is not closed");
+        if (_token.kind == MofToken::Kind::End)
+            _fail("class " + cls.name + " is not closed");
         // Each feature is checked against all before it for duplicates.
         if (cls.properties.size() + cls.methods.size() >= maxFeatures)
-            _fail("class " + cls.name + " has more than " + std::to_string(maxFeatures) + " properties and methods");
+            _fail("class " + cls.name + " has more than " + std::to_string(maxFeatures) +
+                  " properties and methods");
         _parseFeature(cls);
     }
     _advance();
     _expectPunct(';');
-    for (auto& p : cls.properties) p.classOrigin = cls.name;
-    for (auto& m : cls.methods) m.classOrigin = cls.name;
+    for (auto& p : cls.properties)
+        p.classOrigin = cls.name;
+    for (auto& m : cls.methods)
+        m.classOrigin = cls.name;
     _sink(std::move(cls));
 }
 
 void MofParser::_skipInstance() {
     _advance();
-    if (!_isKeyword("of")) _fail("expected 'of' after 'instance'");
+    if (!_isKeyword("of"))
+        _fail("expected 'of' after 'instance'");
     _advance();
     _expect(MofToken::Kind::Identifier, "class name");
     while (!_token.isPunct('{')) {
-        if (_token.kind == MofToken::Kind::End) _fail("instance without a body");
+        if (_token.kind == MofToken::Kind::End)
+            _fail("instance without a body");
         _advance();
     }
     int nesting = 0;
     do {
-        if (_token.kind == MofToken::Kind::End) _fail("instance is not closed");
-        if (_token.isPunct('{')) ++nesting;
-        if (_token.isPunct('}')) --nesting;
+        if (_token.kind == MofToken::Kind::End)
+            _fail("instance is not closed");
+        if (_token.isPunct('{'))
+            ++nesting;
+        if (_token.isPunct('}'))
+            --nesting;
         _advance();
     } while (nesting > 0);
     _expectPunct(';');
@@ -247,22 +281,31 @@ CimClassDecl::Qualifier MofParser::_parseQualifier() {
     }
     // Old-style flavors after a colon: ToSubclass, Translatable, ...
     if (_acceptPunct(':'))
-        while (_token.kind == MofToken::Kind::Identifier) _advance();
+        while (_token.kind == MofToken::Kind::Identifier)
+            _advance();
     q.type = _qualifierType(q.name, q.value);
     return q;
 }
 
-std::string MofParser::_qualifierType(const std::string& name, const CimClassDecl::Value& value) const {
+std::string MofParser::_qualifierType(std::string const& name,
+                                      CimClassDecl::Value const& value) const {
     auto found = _qualifierTypes.find(lower(name));
-    if (found != _qualifierTypes.end()) return found->second;
-    for (const auto& item : value.items) {
+    if (found != _qualifierTypes.end())
+        return found->second;
+    for (auto const& item : value.items) {
         switch (item.kind) {
-            case CimClassDecl::Literal::Kind::String: return "string";
-            case CimClassDecl::Literal::Kind::Integer: return "sint64";
-            case CimClassDecl::Literal::Kind::Real: return "real64";
-            case CimClassDecl::Literal::Kind::Boolean: return "boolean";
-            case CimClassDecl::Literal::Kind::Char: return "char16";
-            case CimClassDecl::Literal::Kind::Null: break;
+        case CimClassDecl::Literal::Kind::String:
+            return "string";
+        case CimClassDecl::Literal::Kind::Integer:
+            return "sint64";
+        case CimClassDecl::Literal::Kind::Real:
+            return "real64";
+        case CimClassDecl::Literal::Kind::Boolean:
+            return "boolean";
+        case CimClassDecl::Literal::Kind::Char:
+            return "char16";
+        case CimClassDecl::Literal::Kind::Null:
+            break;
         }
     }
     return "string";
@@ -287,58 +330,60 @@ CimClassDecl::Value MofParser::_parseValue() {
 CimClassDecl::Literal MofParser::_parseLiteral() {
     using Kind = CimClassDecl::Literal::Kind;
     switch (_token.kind) {
-        case MofToken::Kind::String: {
-            std::string text = _token.text;
+    case MofToken::Kind::String: {
+        std::string text = _token.text;
+        _advance();
+        // Adjacent string literals join, as in C.
+        while (_token.kind == MofToken::Kind::String) {
+            text += _token.text;
             _advance();
-            // Adjacent string literals join, as in C.
-            while (_token.kind == MofToken::Kind::String) {
-                text += _token.text;
-                _advance();
-            }
-            return {Kind::String, text};
         }
-        case MofToken::Kind::Integer: {
-            std::string text = _token.text;
-            _advance();
-            return {Kind::Integer, text};
-        }
-        case MofToken::Kind::Real: {
-            std::string text = _token.text;
-            _advance();
-            return {Kind::Real, text};
-        }
-        case MofToken::Kind::Char: {
-            std::string text = _token.text;
-            _advance();
-            return {Kind::Char, text};
-        }
-        case MofToken::Kind::Identifier:
-            if (_isKeyword("true") || _isKeyword("false")) {
-                std::string text = lower(_token.text);
-                _advance();
-                return {Kind::Boolean, text};
-            }
-            if (_isKeyword("null")) {
-                _advance();
-                return {Kind::Null, ""};
-            }
-            break;
-        case MofToken::Kind::Punct:
-        case MofToken::Kind::Pragma:
-        case MofToken::Kind::End:
-            break;
+        return {Kind::String, text};
     }
-    _fail("expected a value, found '" + (_token.kind == MofToken::Kind::End ? std::string("end of file") : _token.text) + "'");
+    case MofToken::Kind::Integer: {
+        std::string text = _token.text;
+        _advance();
+        return {Kind::Integer, text};
+    }
+    case MofToken::Kind::Real: {
+        std::string text = _token.text;
+        _advance();
+        return {Kind::Real, text};
+    }
+    case MofToken::Kind::Char: {
+        std::string text = _token.text;
+        _advance();
+        return {Kind::Char, text};
+    }
+    case MofToken::Kind::Identifier:
+        if (_isKeyword("true") || _isKeyword("false")) {
+            std::string text = lower(_token.text);
+            _advance();
+            return {Kind::Boolean, text};
+        }
+        if (_isKeyword("null")) {
+            _advance();
+            return {Kind::Null, ""};
+        }
+        break;
+    case MofToken::Kind::Punct:
+    case MofToken::Kind::Pragma:
+    case MofToken::Kind::End:
+        break;
+    }
+    _fail("expected a value, found '" +
+          (_token.kind == MofToken::Kind::End ? std::string("end of file") : _token.text) + "'");
 }
 
 int MofParser::_parseArraySuffix(bool& isArray) {
-    if (!_acceptPunct('[')) return 0;
+    if (!_acceptPunct('['))
+        return 0;
     isArray = true;
     int size = 0;
     if (_token.kind == MofToken::Kind::Integer) {
         try {
             size = std::stoi(_token.text);
-        } catch (const std::out_of_range&) {
+        } catch (std::out_of_range const&) {
             _fail("array size " + _token.text + " is out of range");
         }
         _advance();
@@ -349,7 +394,8 @@ int MofParser::_parseArraySuffix(bool& isArray) {
 
 void MofParser::_parseFeature(CimClassDecl& cls) {
     std::vector<CimClassDecl::Qualifier> qualifiers;
-    if (_token.isPunct('[')) qualifiers = _parseQualifierList();
+    if (_token.isPunct('['))
+        qualifiers = _parseQualifierList();
     int line = _token.line;
     std::string first = _expect(MofToken::Kind::Identifier, "type or class name").text;
     if (_isKeyword("ref")) {
@@ -359,14 +405,17 @@ void MofParser::_parseFeature(CimClassDecl& cls) {
         p.refClass = first;
         p.name = _expect(MofToken::Kind::Identifier, "reference name").text;
         p.qualifiers = std::move(qualifiers);
-        if (_acceptPunct('=')) p.defaultValue = _parseValue();
+        if (_acceptPunct('='))
+            p.defaultValue = _parseValue();
         _expectPunct(';');
-        if (cls.findProperty(p.name)) throw MofError(_fileName, line, "duplicate property " + p.name);
+        if (cls.findProperty(p.name))
+            throw MofError(_fileName, line, "duplicate property " + p.name);
         cls.properties.push_back(std::move(p));
         return;
     }
     std::string type = lower(first);
-    if (!dataTypes().count(type)) throw MofError(_fileName, line, "unknown type '" + first + "'");
+    if (!dataTypes().count(type))
+        throw MofError(_fileName, line, "unknown type '" + first + "'");
     std::string name = _expect(MofToken::Kind::Identifier, "property or method name").text;
     if (_acceptPunct('(')) {
         CimClassDecl::Method m;
@@ -380,7 +429,8 @@ void MofParser::_parseFeature(CimClassDecl& cls) {
         }
         _expectPunct(')');
         _expectPunct(';');
-        if (cls.findMethod(m.name)) throw MofError(_fileName, line, "duplicate method " + m.name);
+        if (cls.findMethod(m.name))
+            throw MofError(_fileName, line, "duplicate method " + m.name);
         cls.methods.push_back(std::move(m));
         return;
     }
@@ -391,16 +441,19 @@ void MofParser::_parseFeature(CimClassDecl& cls) {
     p.arraySize = _parseArraySuffix(p.isArray);
     if (_acceptPunct('=')) {
         p.defaultValue = _parseValue();
-        if (p.defaultValue->isArray != p.isArray) _fail("default value of " + p.name + " does not match its array-ness");
+        if (p.defaultValue->isArray != p.isArray)
+            _fail("default value of " + p.name + " does not match its array-ness");
     }
     _expectPunct(';');
-    if (cls.findProperty(p.name)) throw MofError(_fileName, line, "duplicate property " + p.name);
+    if (cls.findProperty(p.name))
+        throw MofError(_fileName, line, "duplicate property " + p.name);
     cls.properties.push_back(std::move(p));
 }
 
 CimClassDecl::Parameter MofParser::_parseParameter() {
     CimClassDecl::Parameter p;
-    if (_token.isPunct('[')) p.qualifiers = _parseQualifierList();
+    if (_token.isPunct('['))
+        p.qualifiers = _parseQualifierList();
     std::string first = _expect(MofToken::Kind::Identifier, "parameter type").text;
     if (_isKeyword("ref")) {
         _advance();
@@ -408,11 +461,13 @@ CimClassDecl::Parameter MofParser::_parseParameter() {
         p.refClass = first;
     } else {
         p.type = lower(first);
-        if (!dataTypes().count(p.type)) _fail("unknown parameter type '" + first + "'");
+        if (!dataTypes().count(p.type))
+            _fail("unknown parameter type '" + first + "'");
     }
     p.name = _expect(MofToken::Kind::Identifier, "parameter name").text;
     p.arraySize = _parseArraySuffix(p.isArray);
     // A default on a parameter is legal in newer MOF; it does not change the signature.
-    if (_acceptPunct('=')) _parseValue();
+    if (_acceptPunct('='))
+        _parseValue();
     return p;
 }

@@ -20,17 +20,17 @@ public:
     MofParser(std::string defaultNamespace, ClassSink sink);
 
     // Throws MofError naming file and line on the first problem.
-    void parseFile(const std::string& path);
-    void parseText(const std::string& text, const std::string& fileName);
+    void parseFile(std::string const& path);
+    void parseText(std::string const& text, std::string const& fileName);
 
 private:
-    void _parseUnit(MofTokenizer& tokenizer, const std::string& fileName, int depth);
+    void _parseUnit(MofTokenizer& tokenizer, std::string const& fileName, int depth);
     void _advance();
-    MofToken _expect(MofToken::Kind kind, const char* what);
+    MofToken _expect(MofToken::Kind kind, char const* what);
     void _expectPunct(char c);
     bool _acceptPunct(char c);
-    bool _isKeyword(const char* word) const;
-    [[noreturn]] void _fail(const std::string& what) const;
+    bool _isKeyword(char const* word) const;
+    [[noreturn]] void _fail(std::string const& what) const;
 
     void _parsePragma(int depth);
     void _parseQualifierDeclaration();
@@ -43,13 +43,13 @@ private:
     void _parseFeature(CimClassDecl& cls);
     CimClassDecl::Parameter _parseParameter();
     int _parseArraySuffix(bool& isArray);
-    std::string _qualifierType(const std::string& name, const CimClassDecl::Value& value) const;
+    std::string _qualifierType(std::string const& name, CimClassDecl::Value const& value) const;
 
     std::string _namespace;
     ClassSink _sink;
     MofTokenizer* _tokenizer = nullptr;
     std::string _fileName;
     MofToken _token;
-    std::map<std::string, std::string> _qualifierTypes;  // lower-case name -> type
-    std::set<std::string> _openFiles;                      // include cycle guard
+    std::map<std::string, std::string> _qualifierTypes; // lower-case name -> type
+    std::set<std::string> _openFiles;                   // include cycle guard
 };

@@ -11,7 +11,7 @@ public:
     MofTokenizer(std::string text, std::string fileName);
 
     MofToken next();
-    const std::string& fileName() const { return _fileName; }
+    std::string const& fileName() const { return _fileName; }
 
 private:
     void _skipSpaceAndComments();
@@ -19,7 +19,7 @@ private:
     MofToken _readChar();
     MofToken _readNumber();
     char _unescape();
-    [[noreturn]] void _fail(const std::string& what) const;
+    [[noreturn]] void _fail(std::string const& what) const;
 
     std::string _text;
     std::string _fileName;

@@ -8,20 +8,20 @@
 class PasswordFile {
 public:
     // Throws std::runtime_error naming file and line when the file is bad.
-    static PasswordFile load(const std::string& path);
+    static PasswordFile load(std::string const& path);
 
-    bool verify(const std::string& user, const std::string& password) const;
+    bool verify(std::string const& user, std::string const& password) const;
     bool empty() const { return _users.empty(); }
     size_t size() const { return _users.size(); }
 
     // A fresh salted hash; prefix "$y$" (yescrypt) or "$6$" (sha512-crypt).
-    static std::string hash(const std::string& password, const std::string& prefix = "$y$");
+    static std::string hash(std::string const& password, std::string const& prefix = "$y$");
 
     // Adds or replaces one user and rewrites the file atomically (mode 0600).
-    static void setUser(const std::string& path, const std::string& user, const std::string& password,
-                        const std::string& prefix = "$y$");
+    static void setUser(std::string const& path, std::string const& user,
+                        std::string const& password, std::string const& prefix = "$y$");
 
-    static bool validUserName(const std::string& user);
+    static bool validUserName(std::string const& user);
 
 private:
     std::map<std::string, std::string> _users;

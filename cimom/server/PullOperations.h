@@ -22,27 +22,27 @@ public:
         std::chrono::seconds maxTimeout{600};
     };
 
-    PullOperations(const InstanceOperations& instances, Settings settings);
+    PullOperations(InstanceOperations const& instances, Settings settings);
 
     void registerWith(CimOperationHandler& handler);
 
-    const EnumerationContexts& contexts() const { return _contexts; }
+    EnumerationContexts const& contexts() const { return _contexts; }
 
 private:
     using Kind = EnumerationContexts::Kind;
     // Runs the enumeration, keeps what the first answer does not carry, and
     // writes that answer.
     template <typename Enumerate>
-    void _open(const CimRequest& request, CimXmlWriter& out, Kind kind, Enumerate&& enumerate);
-    void _pull(const CimRequest& request, CimXmlWriter& out, Kind kind);
-    void _enumerationCount(const CimRequest& request, CimXmlWriter& out);
-    void _close(const CimRequest& request, CimXmlWriter& out);
+    void _open(CimRequest const& request, CimXmlWriter& out, Kind kind, Enumerate&& enumerate);
+    void _pull(CimRequest const& request, CimXmlWriter& out, Kind kind);
+    void _enumerationCount(CimRequest const& request, CimXmlWriter& out);
+    void _close(CimRequest const& request, CimXmlWriter& out);
 
     // Reads the parameters every Open shares and refuses what is not offered.
-    std::chrono::seconds _openOptions(const CimRequest& request) const;
-    static void _writeBatch(CimXmlWriter& out, const EnumerationContexts::Batch& batch);
+    std::chrono::seconds _openOptions(CimRequest const& request) const;
+    static void _writeBatch(CimXmlWriter& out, EnumerationContexts::Batch const& batch);
 
-    const InstanceOperations& _instances;
+    InstanceOperations const& _instances;
     Settings _settings;
     EnumerationContexts _contexts;
 };

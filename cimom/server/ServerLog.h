@@ -9,16 +9,16 @@ public:
     enum class Level { Error, Warn, Info, Debug };
 
     static void setLevel(Level level);
-    static bool parseLevel(const std::string& text, Level& level);
+    static bool parseLevel(std::string const& text, Level& level);
     static bool enabled(Level level);
 
-    static void error(const std::string& line);
-    static void warn(const std::string& line);
-    static void info(const std::string& line);
-    static void debug(const std::string& line);
+    static void error(std::string const& line);
+    static void warn(std::string const& line);
+    static void info(std::string const& line);
+    static void debug(std::string const& line);
     // Control characters as escapes, so that one call is one line.
-    static std::string escaped(const std::string& text);
+    static std::string escaped(std::string const& text);
 
 private:
-    static void _write(Level level, const std::string& line);
+    static void _write(Level level, std::string const& line);
 };

@@ -14,66 +14,78 @@
 
 namespace {
 
-[[noreturn]] void fail(int code, const std::string& what) { throw CimOperationError(code, what); }
+[[noreturn]] void fail(int code, std::string const& what) {
+    throw CimOperationError(code, what);
+}
 
-constexpr const char* systemClass = "CIM_ComputerSystem";
+constexpr char const* systemClass = "CIM_ComputerSystem";
 
-std::string textOf(const CimInstance& instance, const char* name) {
-    const CimValue* value = instance.property(name);
-    if (!value || value->isNull()) return "";
-    if (value->type() != CMPI_string) fail(CimOperationError::invalidParameter, std::string(name) + " must be a string");
+std::string textOf(CimInstance const& instance, char const* name) {
+    CimValue const* value = instance.property(name);
+    if (!value || value->isNull())
+        return "";
+    if (value->type() != CMPI_string)
+        fail(CimOperationError::invalidParameter, std::string(name) + " must be a string");
     return value->asString();
 }
 
-std::string keyText(const CimObjectPath& path, const char* name) {
-    const CimValue* value = path.key(name);
+std::string keyText(CimObjectPath const& path, char const* name) {
+    CimValue const* value = path.key(name);
     return value && !value->isNull() && value->type() == CMPI_string ? value->asString() : "";
 }
 
 // The properties of a NewInstance: plain values as text, references read as paths.
-CimInstance readNewInstance(const CimRequest& request, const ClassRepository& classes) {
-    const CimRequest::Param* p = request.param("NewInstance");
+CimInstance readNewInstance(CimRequest const& request, ClassRepository const& classes) {
+    CimRequest::Param const* p = request.param("NewInstance");
     pugi::xml_node node = p ? p->node.child("INSTANCE") : pugi::xml_node();
-    if (!node) fail(CimOperationError::invalidParameter, "CreateInstance needs a NewInstance");
+    if (!node)
+        fail(CimOperationError::invalidParameter, "CreateInstance needs a NewInstance");
     CimInstance instance(CimObjectPath(request.nameSpace(), node.attribute("CLASSNAME").value()));
     for (pugi::xml_node property : node.children()) {
         std::string tag = property.name();
         std::string name = property.attribute("NAME").value();
         if (tag == "PROPERTY") {
             pugi::xml_node value = property.child("VALUE");
-            instance.setProperty(name, value ? CimValue::string(value.text().get()) : CimValue::null(CMPI_string));
+            instance.setProperty(name, value ? CimValue::string(value.text().get())
+                                             : CimValue::null(CMPI_string));
         } else if (tag == "PROPERTY.REFERENCE") {
             pugi::xml_node value = property.child("VALUE.REFERENCE");
-            if (!value) continue;
-            instance.setProperty(name, CimValue::reference(InstanceXml::readReference(value, request.nameSpace(), &classes)));
+            if (!value)
+                continue;
+            instance.setProperty(name, CimValue::reference(InstanceXml::readReference(
+                                           value, request.nameSpace(), &classes)));
         }
     }
     return instance;
 }
 
-std::string generatedName(const char* kind) {
+std::string generatedName(char const* kind) {
     static std::atomic<unsigned> serial{0};
     auto now = std::chrono::system_clock::now().time_since_epoch();
     return std::string("veldra-") + kind + "-" +
-           std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()) + "-" +
-           std::to_string(serial++);
+           std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()) +
+           "-" + std::to_string(serial++);
 }
 
-}  // namespace
+} // namespace
 
 SubscriptionOperations::SubscriptionOperations(SubscriptionStore& store, ProviderManager& providers,
-                                               const ClassRepository& classes, std::string systemName)
+                                               ClassRepository const& classes,
+                                               std::string systemName)
     : _store(store), _providers(providers), _classes(classes), _systemName(std::move(systemName)) {}
 
-bool SubscriptionOperations::serves(const std::string& nameSpace, const std::string& cls) const {
-    if (!CimName::equal(nameSpace, interopNamespace)) return false;
-    for (const char* ours : {filterClass, destinationClass, subscriptionClass})
-        if (CimName::equal(cls, ours) || _classes.isA(nameSpace, ours, cls)) return true;
+bool SubscriptionOperations::serves(std::string const& nameSpace, std::string const& cls) const {
+    if (!CimName::equal(nameSpace, interopNamespace))
+        return false;
+    for (char const* ours : {filterClass, destinationClass, subscriptionClass})
+        if (CimName::equal(cls, ours) || _classes.isA(nameSpace, ours, cls))
+            return true;
     return false;
 }
 
-CimObjectPath SubscriptionOperations::_systemPath(const std::string& cls, const std::string& systemName,
-                                                  const std::string& name) const {
+CimObjectPath SubscriptionOperations::_systemPath(std::string const& cls,
+                                                  std::string const& systemName,
+                                                  std::string const& name) const {
     CimObjectPath path(interopNamespace, cls);
     path.addKey("SystemCreationClassName", CimValue::string(systemClass));
     path.addKey("SystemName", CimValue::string(systemName.empty() ? _systemName : systemName));
@@ -82,39 +94,47 @@ CimObjectPath SubscriptionOperations::_systemPath(const std::string& cls, const 
     return path;
 }
 
-CimInstance SubscriptionOperations::_filterInstance(const SubscriptionStore::Filter& filter) const {
+CimInstance SubscriptionOperations::_filterInstance(SubscriptionStore::Filter const& filter) const {
     CimInstance instance(_systemPath(filterClass, filter.systemName, filter.name));
-    for (const auto& key : instance.path().keys()) instance.setProperty(key.name, key.value);
+    for (auto const& key : instance.path().keys())
+        instance.setProperty(key.name, key.value);
     instance.setProperty("Query", CimValue::string(filter.query));
     instance.setProperty("QueryLanguage", CimValue::string(filter.queryLanguage));
     instance.setProperty("SourceNamespace", CimValue::string(filter.sourceNamespace));
     return instance;
 }
 
-CimInstance SubscriptionOperations::_destinationInstance(const SubscriptionStore::Destination& destination) const {
+CimInstance SubscriptionOperations::_destinationInstance(
+    SubscriptionStore::Destination const& destination) const {
     CimInstance instance(_systemPath(destinationClass, destination.systemName, destination.name));
-    for (const auto& key : instance.path().keys()) instance.setProperty(key.name, key.value);
+    for (auto const& key : instance.path().keys())
+        instance.setProperty(key.name, key.value);
     instance.setProperty("Destination", CimValue::string(destination.url));
     return instance;
 }
 
-CimInstance SubscriptionOperations::_subscriptionInstance(const SubscriptionStore::Subscription& subscription) const {
+CimInstance SubscriptionOperations::_subscriptionInstance(
+    SubscriptionStore::Subscription const& subscription) const {
     std::string filterSystem, destinationSystem;
-    for (const auto& f : _store.filters())
-        if (CimName::equal(f.name, subscription.filter)) filterSystem = f.systemName;
-    for (const auto& d : _store.destinations())
-        if (CimName::equal(d.name, subscription.destination)) destinationSystem = d.systemName;
+    for (auto const& f : _store.filters())
+        if (CimName::equal(f.name, subscription.filter))
+            filterSystem = f.systemName;
+    for (auto const& d : _store.destinations())
+        if (CimName::equal(d.name, subscription.destination))
+            destinationSystem = d.systemName;
     CimObjectPath path(interopNamespace, subscriptionClass);
-    path.addKey("Filter", CimValue::reference(_systemPath(filterClass, filterSystem, subscription.filter)));
-    path.addKey("Handler",
-                CimValue::reference(_systemPath(destinationClass, destinationSystem, subscription.destination)));
+    path.addKey("Filter",
+                CimValue::reference(_systemPath(filterClass, filterSystem, subscription.filter)));
+    path.addKey("Handler", CimValue::reference(_systemPath(destinationClass, destinationSystem,
+                                                           subscription.destination)));
     CimInstance instance(path);
-    for (const auto& key : path.keys()) instance.setProperty(key.name, key.value);
-    instance.setProperty("SubscriptionState", CimValue::uint16(2));  // enabled
+    for (auto const& key : path.keys())
+        instance.setProperty(key.name, key.value);
+    instance.setProperty("SubscriptionState", CimValue::uint16(2)); // enabled
     return instance;
 }
 
-CimObjectPath SubscriptionOperations::create(const CimRequest& request) {
+CimObjectPath SubscriptionOperations::create(CimRequest const& request) {
     CimInstance instance = readNewInstance(request, _classes);
     const std::string cls = instance.className();
     CimObjectPath made;
@@ -122,17 +142,21 @@ CimObjectPath SubscriptionOperations::create(const CimRequest& request) {
         if (CimName::equal(cls, filterClass)) {
             SubscriptionStore::Filter filter;
             filter.name = textOf(instance, "Name");
-            if (filter.name.empty()) filter.name = generatedName("filter");
+            if (filter.name.empty())
+                filter.name = generatedName("filter");
             filter.systemName = textOf(instance, "SystemName");
             filter.query = textOf(instance, "Query");
             filter.queryLanguage = textOf(instance, "QueryLanguage");
-            if (filter.queryLanguage.empty()) filter.queryLanguage = "WQL";
-            if (!CimName::equal(filter.queryLanguage, "WQL") && !CimName::equal(filter.queryLanguage, "DMTF:CQL"))
-                fail(CimOperationError::notSupported, "query language " + filter.queryLanguage + " is not supported");
+            if (filter.queryLanguage.empty())
+                filter.queryLanguage = "WQL";
+            if (!CimName::equal(filter.queryLanguage, "WQL") &&
+                !CimName::equal(filter.queryLanguage, "DMTF:CQL"))
+                fail(CimOperationError::notSupported,
+                     "query language " + filter.queryLanguage + " is not supported");
             filter.sourceNamespace = textOf(instance, "SourceNamespace");
             try {
                 filter.wql = WqlFilter::parse(filter.query);
-            } catch (const std::invalid_argument& e) {
+            } catch (std::invalid_argument const& e) {
                 fail(CimOperationError::invalidParameter, e.what());
             }
             made = _filterInstance(filter).path();
@@ -140,48 +164,55 @@ CimObjectPath SubscriptionOperations::create(const CimRequest& request) {
         } else if (CimName::equal(cls, destinationClass)) {
             SubscriptionStore::Destination destination;
             destination.name = textOf(instance, "Name");
-            if (destination.name.empty()) destination.name = generatedName("destination");
+            if (destination.name.empty())
+                destination.name = generatedName("destination");
             destination.systemName = textOf(instance, "SystemName");
             destination.url = textOf(instance, "Destination");
-            if (destination.url.rfind("http://", 0) != 0 && destination.url.rfind("https://", 0) != 0)
-                fail(CimOperationError::invalidParameter, "Destination must be an http:// or https:// URL");
+            if (destination.url.rfind("http://", 0) != 0 &&
+                destination.url.rfind("https://", 0) != 0)
+                fail(CimOperationError::invalidParameter,
+                     "Destination must be an http:// or https:// URL");
             made = _destinationInstance(destination).path();
             _store.addDestination(std::move(destination));
         } else if (CimName::equal(cls, subscriptionClass)) {
-            const CimValue* filter = instance.property("Filter");
-            const CimValue* handler = instance.property("Handler");
+            CimValue const* filter = instance.property("Filter");
+            CimValue const* handler = instance.property("Handler");
             if (!filter || filter->type() != CMPI_ref || !handler || handler->type() != CMPI_ref)
-                fail(CimOperationError::invalidParameter, "a subscription needs Filter and Handler references");
+                fail(CimOperationError::invalidParameter,
+                     "a subscription needs Filter and Handler references");
             SubscriptionStore::Subscription subscription{keyText(filter->asReference(), "Name"),
                                                          keyText(handler->asReference(), "Name")};
             _store.addSubscription(subscription);
             made = _subscriptionInstance(subscription).path();
         } else {
-            fail(CimOperationError::notSupported, "instances of " + cls + " cannot be created here");
+            fail(CimOperationError::notSupported,
+                 "instances of " + cls + " cannot be created here");
         }
-    } catch (const CimOperationError&) {
+    } catch (CimOperationError const&) {
         throw;
-    } catch (const std::invalid_argument& e) {
+    } catch (std::invalid_argument const& e) {
         std::string what = e.what();
         fail(what.find("exists") != std::string::npos ? CimOperationError::alreadyExists
                                                       : CimOperationError::invalidParameter,
              what);
-    } catch (const std::runtime_error& e) {
+    } catch (std::runtime_error const& e) {
         fail(CimOperationError::failed, e.what());
     }
     // A subscription has no Name; it is known by the two it joins.
     std::string what = keyText(made, "Name");
-    const CimValue* filter = made.key("Filter");
-    const CimValue* handler = made.key("Handler");
-    if (what.empty() && filter && handler && filter->type() == CMPI_ref && handler->type() == CMPI_ref)
-        what = keyText(filter->asReference(), "Name") + " -> " + keyText(handler->asReference(), "Name");
+    CimValue const* filter = made.key("Filter");
+    CimValue const* handler = made.key("Handler");
+    if (what.empty() && filter && handler && filter->type() == CMPI_ref &&
+        handler->type() == CMPI_ref)
+        what = keyText(filter->asReference(), "Name") + " -> " +
+               keyText(handler->asReference(), "Name");
     ServerLog::info("subscriptions: created " + made.className() + " " + what);
     activate();
     return made;
 }
 
-void SubscriptionOperations::remove(const CimObjectPath& path) {
-    const std::string& cls = path.className();
+void SubscriptionOperations::remove(CimObjectPath const& path) {
+    std::string const& cls = path.className();
     bool removed = false;
     try {
         if (CimName::equal(cls, filterClass)) {
@@ -189,34 +220,39 @@ void SubscriptionOperations::remove(const CimObjectPath& path) {
         } else if (CimName::equal(cls, destinationClass)) {
             removed = _store.removeDestination(keyText(path, "Name"));
         } else if (CimName::equal(cls, subscriptionClass)) {
-            const CimValue* filter = path.key("Filter");
-            const CimValue* handler = path.key("Handler");
+            CimValue const* filter = path.key("Filter");
+            CimValue const* handler = path.key("Handler");
             if (filter && filter->type() == CMPI_ref && handler && handler->type() == CMPI_ref)
                 removed = _store.removeSubscription(keyText(filter->asReference(), "Name"),
                                                     keyText(handler->asReference(), "Name"));
         }
-    } catch (const CimOperationError&) {
+    } catch (CimOperationError const&) {
         throw;
-    } catch (const std::exception& e) {
+    } catch (std::exception const& e) {
         fail(CimOperationError::failed, e.what());
     }
-    if (!removed) fail(CimOperationError::notFound, "no such " + cls);
+    if (!removed)
+        fail(CimOperationError::notFound, "no such " + cls);
     activate();
 }
 
-CimInstance SubscriptionOperations::get(const CimObjectPath& path) const {
-    for (const CimInstance& instance : instances(path.className()))
-        if (instance.path() == path) return instance;
+CimInstance SubscriptionOperations::get(CimObjectPath const& path) const {
+    for (CimInstance const& instance : instances(path.className()))
+        if (instance.path() == path)
+            return instance;
     // Clients often write the system keys differently; the Name (or the two ends) decides.
-    for (const CimInstance& instance : instances(path.className())) {
-        const CimObjectPath& held = instance.path();
-        if (!CimName::equal(held.className(), path.className())) continue;
+    for (CimInstance const& instance : instances(path.className())) {
+        CimObjectPath const& held = instance.path();
+        if (!CimName::equal(held.className(), path.className()))
+            continue;
         if (CimName::equal(path.className(), subscriptionClass)) {
-            const CimValue* f = path.key("Filter");
-            const CimValue* h = path.key("Handler");
+            CimValue const* f = path.key("Filter");
+            CimValue const* h = path.key("Handler");
             if (f && h && f->type() == CMPI_ref && h->type() == CMPI_ref &&
-                CimName::equal(keyText(f->asReference(), "Name"), keyText(held.key("Filter")->asReference(), "Name")) &&
-                CimName::equal(keyText(h->asReference(), "Name"), keyText(held.key("Handler")->asReference(), "Name")))
+                CimName::equal(keyText(f->asReference(), "Name"),
+                               keyText(held.key("Filter")->asReference(), "Name")) &&
+                CimName::equal(keyText(h->asReference(), "Name"),
+                               keyText(held.key("Handler")->asReference(), "Name")))
                 return instance;
         } else if (CimName::equal(keyText(path, "Name"), keyText(held, "Name"))) {
             return instance;
@@ -225,14 +261,19 @@ CimInstance SubscriptionOperations::get(const CimObjectPath& path) const {
     fail(CimOperationError::notFound, "no such " + path.className());
 }
 
-std::vector<CimInstance> SubscriptionOperations::instances(const std::string& cls) const {
+std::vector<CimInstance> SubscriptionOperations::instances(std::string const& cls) const {
     std::vector<CimInstance> out;
     if (CimName::equal(cls, filterClass) || _classes.isA(interopNamespace, filterClass, cls))
-        for (const auto& f : _store.filters()) out.push_back(_filterInstance(f));
-    if (CimName::equal(cls, destinationClass) || _classes.isA(interopNamespace, destinationClass, cls))
-        for (const auto& d : _store.destinations()) out.push_back(_destinationInstance(d));
-    if (CimName::equal(cls, subscriptionClass) || _classes.isA(interopNamespace, subscriptionClass, cls))
-        for (const auto& s : _store.subscriptions()) out.push_back(_subscriptionInstance(s));
+        for (auto const& f : _store.filters())
+            out.push_back(_filterInstance(f));
+    if (CimName::equal(cls, destinationClass) ||
+        _classes.isA(interopNamespace, destinationClass, cls))
+        for (auto const& d : _store.destinations())
+            out.push_back(_destinationInstance(d));
+    if (CimName::equal(cls, subscriptionClass) ||
+        _classes.isA(interopNamespace, subscriptionClass, cls))
+        for (auto const& s : _store.subscriptions())
+            out.push_back(_subscriptionInstance(s));
     return out;
 }
 
@@ -241,30 +282,36 @@ void SubscriptionOperations::activate() {
     std::set<std::pair<std::string, std::string>> wanted;
     auto active = _store.active();
     auto registered = _providers.indicationClasses();
-    for (const auto& each : active) {
-        const auto& filter = each.filter;
-        for (const auto& [ns, cls] : registered) {
+    for (auto const& each : active) {
+        auto const& filter = each.filter;
+        for (auto const& [ns, cls] : registered) {
             // A filter without a source namespace takes indications from all of them.
-            if (!filter.sourceNamespace.empty() && !CimName::equal(filter.sourceNamespace, ns)) continue;
-            if (CimName::equal(cls, filter.wql.className()) || _classes.isA(ns, cls, filter.wql.className()))
+            if (!filter.sourceNamespace.empty() && !CimName::equal(filter.sourceNamespace, ns))
+                continue;
+            if (CimName::equal(cls, filter.wql.className()) ||
+                _classes.isA(ns, cls, filter.wql.className()))
                 wanted.insert({ns, cls});
         }
     }
-    auto call = [](const char* what, auto&& action) {
+    auto call = [](char const* what, auto&& action) {
         try {
             action();
         } catch (const std::exception& e) {
             ServerLog::warn(std::string("subscriptions: ") + what + " failed: " + e.what());
         }
     };
-    for (const auto& [ns, cls] : wanted)
+    for (auto const& [ns, cls] : wanted)
         if (!_activated.count({ns, cls}))
-            call("activateFilter", [&, ns = ns, cls = cls] { _providers.activateFilter(ns, cls, true); });
-    for (const auto& [ns, cls] : _activated)
+            call("activateFilter",
+                 [&, ns = ns, cls = cls] { _providers.activateFilter(ns, cls, true); });
+    for (auto const& [ns, cls] : _activated)
         if (!wanted.count({ns, cls}))
-            call("deActivateFilter", [&, ns = ns, cls = cls] { _providers.deActivateFilter(ns, cls, true); });
+            call("deActivateFilter",
+                 [&, ns = ns, cls = cls] { _providers.deActivateFilter(ns, cls, true); });
     _activated = std::move(wanted);
-    if (!active.empty() && !_enabled) call("enableIndications", [&] { _providers.enableIndications(); });
-    if (active.empty() && _enabled) call("disableIndications", [&] { _providers.disableIndications(); });
+    if (!active.empty() && !_enabled)
+        call("enableIndications", [&] { _providers.enableIndications(); });
+    if (active.empty() && _enabled)
+        call("disableIndications", [&] { _providers.disableIndications(); });
     _enabled = !active.empty();
 }

@@ -20,36 +20,37 @@ class ProviderManager;
 // switch in line with what is subscribed.
 class SubscriptionOperations {
 public:
-    static constexpr const char* interopNamespace = "root/interop";
-    static constexpr const char* filterClass = "CIM_IndicationFilter";
-    static constexpr const char* destinationClass = "CIM_ListenerDestinationCIMXML";
-    static constexpr const char* subscriptionClass = "CIM_IndicationSubscription";
+    static constexpr char const* interopNamespace = "root/interop";
+    static constexpr char const* filterClass = "CIM_IndicationFilter";
+    static constexpr char const* destinationClass = "CIM_ListenerDestinationCIMXML";
+    static constexpr char const* subscriptionClass = "CIM_IndicationSubscription";
 
-    SubscriptionOperations(SubscriptionStore& store, ProviderManager& providers, const ClassRepository& classes,
-                           std::string systemName);
+    SubscriptionOperations(SubscriptionStore& store, ProviderManager& providers,
+                           ClassRepository const& classes, std::string systemName);
 
     // Whether `cls` in `nameSpace` is one of the three or a class above one.
-    bool serves(const std::string& nameSpace, const std::string& cls) const;
+    bool serves(std::string const& nameSpace, std::string const& cls) const;
     // Errors are CimOperationError with the code DSP0200 gives.
-    CimObjectPath create(const CimRequest& request);
-    void remove(const CimObjectPath& path);
-    CimInstance get(const CimObjectPath& path) const;
-    std::vector<CimInstance> instances(const std::string& cls) const;
+    CimObjectPath create(CimRequest const& request);
+    void remove(CimObjectPath const& path);
+    CimInstance get(CimObjectPath const& path) const;
+    std::vector<CimInstance> instances(std::string const& cls) const;
 
     // Brings the providers' activated filters and indication switch in line
     // with the subscriptions; at start, and after every change.
     void activate();
 
 private:
-    CimInstance _filterInstance(const SubscriptionStore::Filter& filter) const;
-    CimInstance _destinationInstance(const SubscriptionStore::Destination& destination) const;
-    CimInstance _subscriptionInstance(const SubscriptionStore::Subscription& subscription) const;
-    CimObjectPath _systemPath(const std::string& cls, const std::string& systemName, const std::string& name) const;
+    CimInstance _filterInstance(SubscriptionStore::Filter const& filter) const;
+    CimInstance _destinationInstance(SubscriptionStore::Destination const& destination) const;
+    CimInstance _subscriptionInstance(SubscriptionStore::Subscription const& subscription) const;
+    CimObjectPath _systemPath(std::string const& cls, std::string const& systemName,
+                              std::string const& name) const;
 
     SubscriptionStore& _store;
     ProviderManager& _providers;
-    const ClassRepository& _classes;
+    ClassRepository const& _classes;
     std::string _systemName;
-    std::set<std::pair<std::string, std::string>> _activated;  // (namespace, class)
+    std::set<std::pair<std::string, std::string>> _activated; // (namespace, class)
     bool _enabled = false;
 };

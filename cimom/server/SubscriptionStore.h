@@ -27,8 +27,8 @@ public:
         std::string url;
     };
     struct Subscription {
-        std::string filter;       // filter's Name
-        std::string destination;  // destination's Name
+        std::string filter;      // filter's Name
+        std::string destination; // destination's Name
     };
     // A subscription with its two ends, as delivery needs it.
     struct Active {
@@ -47,9 +47,9 @@ public:
     void addSubscription(Subscription subscription);
     // False when there is no such object; std::invalid_argument when a
     // subscription still uses it.
-    bool removeFilter(const std::string& name);
-    bool removeDestination(const std::string& name);
-    bool removeSubscription(const std::string& filter, const std::string& destination);
+    bool removeFilter(std::string const& name);
+    bool removeDestination(std::string const& name);
+    bool removeSubscription(std::string const& filter, std::string const& destination);
 
     std::vector<Filter> filters() const;
     std::vector<Destination> destinations() const;
@@ -58,7 +58,7 @@ public:
 
 private:
     void _load();
-    void _save() const;  // under _mutex
+    void _save() const; // under _mutex
 
     std::string _stateFile;
     mutable std::mutex _mutex;

@@ -12,17 +12,17 @@
 class WqlFilter {
 public:
     // Throws std::invalid_argument naming what is wrong.
-    static WqlFilter parse(const std::string& query);
+    static WqlFilter parse(std::string const& query);
 
-    const std::string& className() const { return _className; }
+    std::string const& className() const { return _className; }
     // Whether the indication's properties satisfy the WHERE clause (the class
     // is the caller's test: only the object manager knows subclasses).
-    bool matches(const CimInstance& indication) const;
+    bool matches(CimInstance const& indication) const;
 
 private:
     struct Condition {
         std::string property;
-        std::string value;  // as text, compared without regard to case for TRUE/FALSE
+        std::string value; // as text, compared without regard to case for TRUE/FALSE
         bool equal = true;
     };
     std::string _className;

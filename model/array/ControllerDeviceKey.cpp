@@ -1,6 +1,5 @@
 #include "ControllerDeviceKey.h"
 
-
 namespace QLN {
 
 std::string ControllerDeviceKey::serialOr(VeldraControllerData const& data,

@@ -40,19 +40,20 @@ public:
     // "Veldra 8e in Slot 3"; the model and slot fall back when unknown.
     static std::string controllerText(VeldraControllerData const& data);
 
-    void sendDisk(int event, std::uint16_t previous, std::uint16_t current, VeldraPhysicalDisk const& disk,
-                  VeldraControllerData const& controllerData, std::string const& changeName,
-                  std::string const& pathText);
+    void sendDisk(int event, std::uint16_t previous, std::uint16_t current,
+                  VeldraPhysicalDisk const& disk, VeldraControllerData const& controllerData,
+                  std::string const& changeName, std::string const& pathText);
     void sendVolume(VeldraLogicalDisk const& logical, VolumeEvent const& what,
                     std::vector<std::uint16_t> const& previousList, std::string const& changeName,
                     std::string const& pathText);
-    void sendEnclosure(int event, VeldraEnclosure const& enclosure, VeldraControllerData const& controllerData,
-                       std::string const& pathText);
-    void sendEnclosureTemperature(int event, VeldraEnclosure const& enclosure, std::string const& pathText);
+    void sendEnclosure(int event, VeldraEnclosure const& enclosure,
+                       VeldraControllerData const& controllerData, std::string const& pathText);
+    void sendEnclosureTemperature(int event, VeldraEnclosure const& enclosure,
+                                  std::string const& pathText);
     // The controller state goes in its own class; cache, battery and
     // encryption in the general one.
-    void sendControllerState(int event, VeldraControllerData const& data, std::string const& changeName,
-                             std::string const& pathText);
+    void sendControllerState(int event, VeldraControllerData const& data,
+                             std::string const& changeName, std::string const& pathText);
     void sendController(int event, VeldraControllerData const& data, std::string const& changeName,
                         std::string const& pathText);
 

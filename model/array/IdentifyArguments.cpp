@@ -9,10 +9,11 @@ namespace {
 u32 const durationScale = 10;
 } // namespace
 
-char const* const IdentifyArguments::failureText = ":invokeMethod Identify, failed to extract Duration arg";
+char const* const IdentifyArguments::failureText =
+    ":invokeMethod Identify, failed to extract Duration arg";
 
-std::optional<u32> IdentifyArguments::duration(CmpiCpp::CmpiName const& method, CmpiCpp::CmpiArgs const& in,
-                                               Logger const& logger) {
+std::optional<u32> IdentifyArguments::duration(CmpiCpp::CmpiName const& method,
+                                               CmpiCpp::CmpiArgs const& in, Logger const& logger) {
     if (!(method == CmpiCpp::CmpiName("Identify")))
         return std::nullopt;
     try {

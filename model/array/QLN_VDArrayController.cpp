@@ -223,7 +223,9 @@ namespace {
 
 // A device counts as changed when something differs and a counterpart was found;
 // without one it is new, and its status is not compared.
-bool changed(u32 mask) { return mask != 0 && (mask & 0x1) == 0; }
+bool changed(u32 mask) {
+    return mask != 0 && (mask & 0x1) == 0;
+}
 
 std::string serialOf(VeldraControllerData const& data) {
     std::string serial;
@@ -238,12 +240,16 @@ std::string serialOf(VeldraControllerData const& data) {
 namespace QLN {
 
 void QLN_VDArrayController::manageDynamic(
-    bool indicationsEnabled, CmpiCpp::CmpiContext const& context, std::vector<VeldraEnclosure>& currentEnclosures,
-    std::vector<VeldraEnclosure>& newEnclosures, std::vector<VeldraEnclosure>& removedEnclosures,
-    std::vector<VeldraEnclosure>& pathChangeEnclosures, std::vector<VeldraLogicalDisk>& currentLogicals,
-    std::vector<VeldraLogicalDisk>& newLogicals, std::vector<VeldraLogicalDisk>& removedLogicals,
-    std::vector<VeldraPhysicalDisk>& currentPhysicals, std::vector<VeldraPhysicalDisk>& newPhysicals,
-    std::vector<VeldraPhysicalDisk>& removedPhysicals, std::vector<VeldraPhysicalDisk>& configChangedPhysicals,
+    bool indicationsEnabled, CmpiCpp::CmpiContext const& context,
+    std::vector<VeldraEnclosure>& currentEnclosures, std::vector<VeldraEnclosure>& newEnclosures,
+    std::vector<VeldraEnclosure>& removedEnclosures,
+    std::vector<VeldraEnclosure>& pathChangeEnclosures,
+    std::vector<VeldraLogicalDisk>& currentLogicals, std::vector<VeldraLogicalDisk>& newLogicals,
+    std::vector<VeldraLogicalDisk>& removedLogicals,
+    std::vector<VeldraPhysicalDisk>& currentPhysicals,
+    std::vector<VeldraPhysicalDisk>& newPhysicals,
+    std::vector<VeldraPhysicalDisk>& removedPhysicals,
+    std::vector<VeldraPhysicalDisk>& configChangedPhysicals,
     std::vector<VeldraPhysicalDisk>& spareStateChangePhysicals,
     std::vector<VeldraPhysicalDisk>& pathChangePhysicals) {
     _logger.info("manageDynamic()");
@@ -280,17 +286,22 @@ void QLN_VDArrayController::manageDynamic(
         return;
     }
     _logger.info("Disk vector count changed: Old: %d New: %d",
-                 static_cast<int>(controller->getConsumedDiskVectorCount()), static_cast<int>(count));
+                 static_cast<int>(controller->getConsumedDiskVectorCount()),
+                 static_cast<int>(count));
     std::string const serial = serialOf(_lastData());
-    _enclosurePass(events, indicationsEnabled, serial, currentEnclosures, newEnclosures, removedEnclosures, pathChangeEnclosures);
-    _physicalPass(events, indicationsEnabled, serial, currentPhysicals, newPhysicals, removedPhysicals, configChangedPhysicals,
-                  spareStateChangePhysicals, pathChangePhysicals);
-    _logicalPass(events, indicationsEnabled, serial, currentPhysicals, currentLogicals, newLogicals, removedLogicals);
+    _enclosurePass(events, indicationsEnabled, serial, currentEnclosures, newEnclosures,
+                   removedEnclosures, pathChangeEnclosures);
+    _physicalPass(events, indicationsEnabled, serial, currentPhysicals, newPhysicals,
+                  removedPhysicals, configChangedPhysicals, spareStateChangePhysicals,
+                  pathChangePhysicals);
+    _logicalPass(events, indicationsEnabled, serial, currentPhysicals, currentLogicals, newLogicals,
+                 removedLogicals);
     // Written only after all three lists are stored: a pass that throws half
     // way sees the counter moved again and compares once more.
     controller->setConsumedDiskVectorCount(count);
     for (std::size_t i = 0; i < currentLogicals.size(); ++i) {
-        _logger.info("VD %s Logical Disk %d last physicals end: %d", serial.c_str(), static_cast<int>(i),
+        _logger.info("VD %s Logical Disk %d last physicals end: %d", serial.c_str(),
+                     static_cast<int>(i),
                      static_cast<int>(currentLogicals[i].getLastAllPhysicalDisks().size()));
     }
     _logger.info("return manageDynamic");
@@ -318,12 +329,14 @@ void QLN_VDArrayController::_firstStatusPass(DeviceEvents& events, bool indicati
         cacheStatusEnum cache{};
         data.getCacheStatus(cache);
         if (cache >= 2 && cache <= 4) {
-            events.sendController(static_cast<int>(cache) + 8, data, "ControllerCacheStateChange", controllerPath);
+            events.sendController(static_cast<int>(cache) + 8, data, "ControllerCacheStateChange",
+                                  controllerPath);
         }
         batteryStatusEnum battery{};
         data.getBatteryStatus(battery);
         if (battery == 2 || battery == 3) {
-            events.sendController(battery == 2 ? 8 : 7, data, "ControllerBatteryStateChange", controllerPath);
+            events.sendController(battery == 2 ? 8 : 7, data, "ControllerBatteryStateChange",
+                                  controllerPath);
         }
         EncryptSelfTestStatusEnum selfTest{};
         data.getEncryptionSelfTestStatus(selfTest);
@@ -354,10 +367,13 @@ void QLN_VDArrayController::_firstStatusPass(DeviceEvents& events, bool indicati
         if (int const event = DeviceEvents::fanEvent(enclosure.getFanStatus(), true); event > 0) {
             events.sendEnclosure(event, enclosure, data, pathText);
         }
-        if (int const event = DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), true); event > 0) {
+        if (int const event =
+                DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), true);
+            event > 0) {
             events.sendEnclosure(event, enclosure, data, pathText);
         }
-        if (int const event = DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), true); event > 0) {
+        if (int const event = DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), true);
+            event > 0) {
             events.sendEnclosureTemperature(event, enclosure, pathText);
         }
     }
@@ -372,8 +388,9 @@ void QLN_VDArrayController::_firstStatusPass(DeviceEvents& events, bool indicati
         if (logical.getStatus() == 2 || !indicationsEnabled) {
             continue;
         }
-        _logger.info("send VD Logical %s Disk Status bad indication %s (%d)", logical.getSerialNumber().c_str(),
-                     logical.statusToStr(logical.getStatus()), static_cast<int>(logical.getStatus()));
+        _logger.info("send VD Logical %s Disk Status bad indication %s (%d)",
+                     logical.getSerialNumber().c_str(), logical.statusToStr(logical.getStatus()),
+                     static_cast<int>(logical.getStatus()));
         DeviceEvents::VolumeEvent const what = DeviceEvents::volumeEvent(logical.getStatus());
         if (what.event > 0) {
             // Always the first volume's path: the alert has carried it so.
@@ -393,17 +410,19 @@ void QLN_VDArrayController::_firstStatusPass(DeviceEvents& events, bool indicati
         }
         VeldraPhysicalDiskStatusEnum const status = disk.getStatus();
         if (status != 1) {
-            _logger.info("VD Physical Disk %s Status not OK: %s (%d)", disk.getSerialNumber().c_str(),
-                         disk.diskStatusToStr(status), static_cast<int>(status));
+            _logger.info("VD Physical Disk %s Status not OK: %s (%d)",
+                         disk.getSerialNumber().c_str(), disk.diskStatusToStr(status),
+                         static_cast<int>(status));
             if (int const event = DeviceEvents::diskStatusEvent(status, true); event > 0) {
-                events.sendDisk(event, 1, static_cast<std::uint16_t>(status), disk, data, "DiskDriveStatusChange",
-                                path);
+                events.sendDisk(event, 1, static_cast<std::uint16_t>(status), disk, data,
+                                "DiskDriveStatusChange", path);
             }
         }
         VeldraPhysicalDiskSSDWearStatusEnum const wear = disk.getSSDWearStatus();
         if (wear != 1 && disk.getSupportsGasGauge()) {
-            _logger.info("VD Physical Disk %s SSD Wearout Status not OK: %s (%d)", disk.getSerialNumber().c_str(),
-                         disk.SSDWearStatusToStr(wear), static_cast<int>(wear));
+            _logger.info("VD Physical Disk %s SSD Wearout Status not OK: %s (%d)",
+                         disk.getSerialNumber().c_str(), disk.SSDWearStatusToStr(wear),
+                         static_cast<int>(wear));
             if (int const event = DeviceEvents::wearEvent(wear); event > 0) {
                 events.sendDisk(event, 1, static_cast<std::uint16_t>(wear), disk, data,
                                 "DiskDriveSSDWearOutStatusChange", path);
@@ -433,7 +452,8 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
         return;
     }
     _logger.info("Controller Data count changed: Old: %d New: %d",
-                 static_cast<int>(controller->getConsumedControllerDataCount()), static_cast<int>(count));
+                 static_cast<int>(controller->getConsumedControllerDataCount()),
+                 static_cast<int>(count));
     VeldraControllerData const fresh = controller->getVDData();
     u32 const mask = fresh.compare(last);
     if (mask != 0) {
@@ -454,7 +474,8 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
                 events.sendControllerState(event, fresh, "ControllerStateChange", pathText);
             }
         }
-        auto textLine = [&](u32 bit, char const* format, int (VeldraControllerData::*getter)(std::string&) const) {
+        auto textLine = [&](u32 bit, char const* format,
+                            int (VeldraControllerData::*getter)(std::string&) const) {
             if (mask & bit) {
                 std::string before;
                 std::string after;
@@ -475,8 +496,8 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
             auto before = read(last, &VeldraControllerData::getBatteryStatus);
             auto after = read(fresh, &VeldraControllerData::getBatteryStatus);
             _logger.info("VD %s Data Battery Status Change Old: %s (%d), New: %s (%d)", s,
-                         last.batteryStatusToStr(before), static_cast<int>(before), fresh.batteryStatusToStr(after),
-                         static_cast<int>(after));
+                         last.batteryStatusToStr(before), static_cast<int>(before),
+                         fresh.batteryStatusToStr(after), static_cast<int>(after));
             int const event = after == 1 ? 6 : after == 2 ? 8 : after == 3 ? 7 : 0;
             if (event > 0) {
                 events.sendController(event, fresh, "ControllerBatteryStateChange", pathText);
@@ -485,17 +506,19 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
         if (mask & VeldraControllerData::changeCacheStatusOrSCSIBuses) {
             auto before = read(last, &VeldraControllerData::getCacheStatus);
             auto after = read(fresh, &VeldraControllerData::getCacheStatus);
-            _logger.info("VD %s Data Cache Status Change Old: %s (%d), New: %s (%d)", s, last.cacheStatusToStr(before),
-                         static_cast<int>(before), fresh.cacheStatusToStr(after), static_cast<int>(after));
+            _logger.info("VD %s Data Cache Status Change Old: %s (%d), New: %s (%d)", s,
+                         last.cacheStatusToStr(before), static_cast<int>(before),
+                         fresh.cacheStatusToStr(after), static_cast<int>(after));
             if (after >= 1 && after <= 4) {
-                events.sendController(static_cast<int>(after) + 8, fresh, "ControllerCacheStateChange", pathText);
+                events.sendController(static_cast<int>(after) + 8, fresh,
+                                      "ControllerCacheStateChange", pathText);
             }
         }
         if (mask & VeldraControllerData::changeEncryptionSelfTest) {
             auto before = read(last, &VeldraControllerData::getEncryptionSelfTestStatus);
             auto after = read(fresh, &VeldraControllerData::getEncryptionSelfTestStatus);
-            _logger.info("VD %s Data Encrypt Self Test Status Change Old: %d, New: %d", s, static_cast<int>(before),
-                         static_cast<int>(after));
+            _logger.info("VD %s Data Encrypt Self Test Status Change Old: %d, New: %d", s,
+                         static_cast<int>(before), static_cast<int>(after));
             if (after == 3) {
                 events.sendController(14, fresh, "ControllerEncryptionSelfTest", pathText);
             }
@@ -503,8 +526,8 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
         if (mask & VeldraControllerData::changeEncryptionCSPNvram) {
             auto before = read(last, &VeldraControllerData::getEncryptionCSPNvramStatus);
             auto after = read(fresh, &VeldraControllerData::getEncryptionCSPNvramStatus);
-            _logger.info("VD %s Data Encrypt CSPNvram Status Change Old: %d, New: %d", s, static_cast<int>(before),
-                         static_cast<int>(after));
+            _logger.info("VD %s Data Encrypt CSPNvram Status Change Old: %d, New: %d", s,
+                         static_cast<int>(before), static_cast<int>(after));
             int const event = after == 1 ? 15 : after == 3 ? 16 : 0;
             if (event > 0) {
                 events.sendController(event, fresh, "ControllerEncryptionCSPNVRAM", pathText);
@@ -515,7 +538,9 @@ void QLN_VDArrayController::_controllerDataStage(DeviceEvents& events, bool indi
     controller->setLastVDData(fresh);
 }
 
-void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraEnclosure>& current,
+void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indicationsEnabled,
+                                           std::string const& serial,
+                                           std::vector<VeldraEnclosure>& current,
                                            std::vector<VeldraEnclosure>& added,
                                            std::vector<VeldraEnclosure>& removed,
                                            std::vector<VeldraEnclosure>& pathChanged) {
@@ -529,10 +554,12 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
     added = findNewVDEnclosures(old, current);
     removed = findRemovedVDEnclosures(old, current);
     for (VeldraEnclosure const& enclosure : removed) {
-        _logger.info("VD %s Removed Enclosure : %s", serial.c_str(), enclosure.getSerialNumber().c_str());
+        _logger.info("VD %s Removed Enclosure : %s", serial.c_str(),
+                     enclosure.getSerialNumber().c_str());
     }
     for (VeldraEnclosure const& enclosure : added) {
-        _logger.info("VD %s Added Enclosure: %s", serial.c_str(), enclosure.getSerialNumber().c_str());
+        _logger.info("VD %s Added Enclosure: %s", serial.c_str(),
+                     enclosure.getSerialNumber().c_str());
     }
     VeldraControllerData const lastData = _lastData();
     int const controllerIndex = static_cast<int>(getControllerIndex());
@@ -547,10 +574,13 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
         // The path of the old record at this position, not of the match:
         // kept as the alerts have always carried it.
         std::string const pathText =
-            at < old.size() ? makeEnclosureProcessorPath(controllerIndex, old[at]).str() : std::string();
-        _logger.info("VD %s Changed Enclosure : %s", serial.c_str(), enclosure.getSerialNumber().c_str());
+            at < old.size() ? makeEnclosureProcessorPath(controllerIndex, old[at]).str()
+                            : std::string();
+        _logger.info("VD %s Changed Enclosure : %s", serial.c_str(),
+                     enclosure.getSerialNumber().c_str());
         if (mask & VeldraEnclosure::changeBoxNumber) {
-            _logger.info("VD Enclosure Box Change Old: %d, New: %d", before.getBoxNumber(), enclosure.getBoxNumber());
+            _logger.info("VD Enclosure Box Change Old: %d, New: %d", before.getBoxNumber(),
+                         enclosure.getBoxNumber());
         }
         if (mask & VeldraEnclosure::changeEnclosureBoxNumber) {
             _logger.info("VD Enclosure Box Index Change Old: %d, New: %d",
@@ -565,7 +595,8 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
         }
         if (mask & VeldraEnclosure::changeFanStatus) {
             _logger.info("VD Enclosure Fan Status Change Old: %s (%d), New: %s (%d)",
-                         before.FanStatusToStr(before.getFanStatus()), static_cast<int>(before.getFanStatus()),
+                         before.FanStatusToStr(before.getFanStatus()),
+                         static_cast<int>(before.getFanStatus()),
                          enclosure.FanStatusToStr(enclosure.getFanStatus()),
                          static_cast<int>(enclosure.getFanStatus()));
             int const event = DeviceEvents::fanEvent(enclosure.getFanStatus(), false);
@@ -579,7 +610,8 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
                          static_cast<int>(before.getPowerSupplyStatus()),
                          enclosure.PowerSupplyStatusToStr(enclosure.getPowerSupplyStatus()),
                          static_cast<int>(enclosure.getPowerSupplyStatus()));
-            int const event = DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), false);
+            int const event =
+                DeviceEvents::powerSupplyEvent(enclosure.getPowerSupplyStatus(), false);
             if (indicationsEnabled && event > 0) {
                 events.sendEnclosure(event, enclosure, lastData, pathText);
             }
@@ -590,7 +622,8 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
                          static_cast<int>(before.getTempSensorStatus()),
                          enclosure.TempSensorStatusToStr(enclosure.getTempSensorStatus()),
                          static_cast<int>(enclosure.getTempSensorStatus()));
-            int const event = DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), false);
+            int const event =
+                DeviceEvents::temperatureEvent(enclosure.getTempSensorStatus(), false);
             if (indicationsEnabled && event > 0) {
                 events.sendEnclosureTemperature(event, enclosure, pathText);
             }
@@ -600,7 +633,9 @@ void QLN_VDArrayController::_enclosurePass(DeviceEvents& events, bool indication
     _logger.info("after enclosure check");
 }
 
-void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
+void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indicationsEnabled,
+                                          std::string const& serial,
+                                          std::vector<VeldraPhysicalDisk>& current,
                                           std::vector<VeldraPhysicalDisk>& added,
                                           std::vector<VeldraPhysicalDisk>& removed,
                                           std::vector<VeldraPhysicalDisk>& configChanged,
@@ -616,10 +651,12 @@ void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indications
     findNewVDPhysicalDisks(old, current, added);
     findRemovedVDPhysicalDisks(old, current, removed);
     for (VeldraPhysicalDisk const& disk : removed) {
-        _logger.info("VD %s Removed Physical Disk: %s", serial.c_str(), disk.getSerialNumber().c_str());
+        _logger.info("VD %s Removed Physical Disk: %s", serial.c_str(),
+                     disk.getSerialNumber().c_str());
     }
     for (VeldraPhysicalDisk const& disk : added) {
-        _logger.info("VD %s Added Physical Disk: %s", serial.c_str(), disk.getSerialNumber().c_str());
+        _logger.info("VD %s Added Physical Disk: %s", serial.c_str(),
+                     disk.getSerialNumber().c_str());
     }
     VeldraControllerData const lastData = _lastData();
     int const controllerIndex = static_cast<int>(getControllerIndex());
@@ -632,13 +669,17 @@ void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indications
         }
         VeldraPhysicalDisk const& before = old[index];
         std::string const pathText =
-            at < old.size() ? makeDiskDrivePath(lastData, controllerIndex, old[at]).str() : std::string();
-        _logger.info("VD %s Changed Physical Disk: %s", serial.c_str(), disk.getSerialNumber().c_str());
+            at < old.size() ? makeDiskDrivePath(lastData, controllerIndex, old[at]).str()
+                            : std::string();
+        _logger.info("VD %s Changed Physical Disk: %s", serial.c_str(),
+                     disk.getSerialNumber().c_str());
         if (mask & VeldraPhysicalDisk::changeBox) {
-            _logger.info("VD Physical Disk Box Change Old: %d, New: %d", before.getBox(), disk.getBox());
+            _logger.info("VD Physical Disk Box Change Old: %d, New: %d", before.getBox(),
+                         disk.getBox());
         }
         if (mask & VeldraPhysicalDisk::changeBay) {
-            _logger.info("VD Physical Disk Bay Change Old: %d, New: %d", before.getBay(), disk.getBay());
+            _logger.info("VD Physical Disk Bay Change Old: %d, New: %d", before.getBay(),
+                         disk.getBay());
         }
         if (mask & VeldraPhysicalDisk::changePaths) {
             _logger.info("VD Physical Disk Path Change Old: %s, New: %s",
@@ -647,21 +688,23 @@ void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indications
             pathChanged.push_back(disk);
         }
         if (mask & VeldraPhysicalDisk::changeStatus) {
-            _logger.info("VD Physical Disk Status Change Old: %s (%d), New: %s (%d)",
-                         before.diskStatusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
-                         disk.diskStatusToStr(disk.getStatus()), static_cast<int>(disk.getStatus()));
+            _logger.info(
+                "VD Physical Disk Status Change Old: %s (%d), New: %s (%d)",
+                before.diskStatusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
+                disk.diskStatusToStr(disk.getStatus()), static_cast<int>(disk.getStatus()));
             int const event = DeviceEvents::diskStatusEvent(disk.getStatus(), false);
             if (indicationsEnabled && event > 0) {
                 events.sendDisk(event, static_cast<std::uint16_t>(before.getStatus()),
-                                static_cast<std::uint16_t>(disk.getStatus()), disk, lastData, "DiskDriveStatusChange",
-                                pathText);
+                                static_cast<std::uint16_t>(disk.getStatus()), disk, lastData,
+                                "DiskDriveStatusChange", pathText);
             }
         }
         if (mask & VeldraPhysicalDisk::changeSSDWear) {
             _logger.info("VD Physical Disk SSD Status Change Old: %s (%d), New: %s (%d)",
                          before.SSDWearStatusToStr(before.getSSDWearStatus()),
                          static_cast<int>(before.getSSDWearStatus()),
-                         disk.SSDWearStatusToStr(disk.getSSDWearStatus()), static_cast<int>(disk.getSSDWearStatus()));
+                         disk.SSDWearStatusToStr(disk.getSSDWearStatus()),
+                         static_cast<int>(disk.getSSDWearStatus()));
             int const event = DeviceEvents::wearEvent(disk.getSSDWearStatus());
             if (indicationsEnabled && event > 0) {
                 events.sendDisk(event, static_cast<std::uint16_t>(before.getSSDWearStatus()),
@@ -670,21 +713,23 @@ void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indications
             }
         }
         if (mask & VeldraPhysicalDisk::changeConfiguration) {
-            _logger.info("VD Physical Disk Config Change Old: %d, New: %d", static_cast<int>(before.getConfiguration()),
+            _logger.info("VD Physical Disk Config Change Old: %d, New: %d",
+                         static_cast<int>(before.getConfiguration()),
                          static_cast<int>(disk.getConfiguration()));
             configChanged.push_back(disk);
         }
         if (mask & VeldraPhysicalDisk::changeMNPData) {
-            _logger.info("VD Physical Disk Has MNP Change Old: %d, New: %d", before.hasMNPData() ? 1 : 0,
-                         disk.hasMNPData() ? 1 : 0);
+            _logger.info("VD Physical Disk Has MNP Change Old: %d, New: %d",
+                         before.hasMNPData() ? 1 : 0, disk.hasMNPData() ? 1 : 0);
         }
         if (mask & VeldraPhysicalDisk::changeRemainingBlocks) {
             _logger.info("VD Physical Disk Remaining Blocks Change Old: %ld, New: %ld",
-                         static_cast<long>(before.getRemainingBlocks()), static_cast<long>(disk.getRemainingBlocks()));
+                         static_cast<long>(before.getRemainingBlocks()),
+                         static_cast<long>(disk.getRemainingBlocks()));
         }
         if (mask & VeldraPhysicalDisk::changeActiveSpare) {
-            _logger.info("VD Physical Disk Active Spare Change Old: %d, New: %d", before.getIsActiveSpare() ? 1 : 0,
-                         disk.getIsActiveSpare() ? 1 : 0);
+            _logger.info("VD Physical Disk Active Spare Change Old: %d, New: %d",
+                         before.getIsActiveSpare() ? 1 : 0, disk.getIsActiveSpare() ? 1 : 0);
             spareStateChanged.push_back(disk);
         }
     }
@@ -692,7 +737,9 @@ void QLN_VDArrayController::_physicalPass(DeviceEvents& events, bool indications
     _logger.info("after physical disk check");
 }
 
-void QLN_VDArrayController::_logicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
+void QLN_VDArrayController::_logicalPass(DeviceEvents& events, bool indicationsEnabled,
+                                         std::string const& serial,
+                                         std::vector<VeldraPhysicalDisk>& physicals,
                                          std::vector<VeldraLogicalDisk>& current,
                                          std::vector<VeldraLogicalDisk>& added,
                                          std::vector<VeldraLogicalDisk>& removed) {
@@ -708,10 +755,12 @@ void QLN_VDArrayController::_logicalPass(DeviceEvents& events, bool indicationsE
     added = findNewVDLogicalDisks(old, current);
     removed = findRemovedVDLogicalDisks(old, current);
     for (VeldraLogicalDisk const& logical : removed) {
-        _logger.info("VD %s Removed Logical Disk: %s", serial.c_str(), logical.getSerialNumber().c_str());
+        _logger.info("VD %s Removed Logical Disk: %s", serial.c_str(),
+                     logical.getSerialNumber().c_str());
     }
     for (VeldraLogicalDisk const& logical : added) {
-        _logger.info("VD %s Added Logical Disk: %s", serial.c_str(), logical.getSerialNumber().c_str());
+        _logger.info("VD %s Added Logical Disk: %s", serial.c_str(),
+                     logical.getSerialNumber().c_str());
     }
     VeldraControllerData const lastData = _lastData();
     int const controllerIndex = static_cast<int>(getControllerIndex());
@@ -719,33 +768,41 @@ void QLN_VDArrayController::_logicalPass(DeviceEvents& events, bool indicationsE
         VeldraLogicalDisk const& logical = current[i];
         u32 index = 0;
         u32 const mask = logical.compare(old, index);
-        _logger.info("VD %s Logical Disk %d last physicals start: %d", serial.c_str(), static_cast<int>(i),
+        _logger.info("VD %s Logical Disk %d last physicals start: %d", serial.c_str(),
+                     static_cast<int>(i),
                      static_cast<int>(logical.getLastAllPhysicalDisks().size()));
         if (!changed(mask)) {
             continue;
         }
         VeldraLogicalDisk const& before = old[index];
-        _logger.info("VD %s Changed Logical Disk: %s", serial.c_str(), logical.getSerialNumber().c_str());
+        _logger.info("VD %s Changed Logical Disk: %s", serial.c_str(),
+                     logical.getSerialNumber().c_str());
         if (mask & VeldraLogicalDisk::changeTotalBlocks) {
             _logger.info("VD Logical Disk Total Blocks Change Old: %ld, New: %ld",
-                         static_cast<long>(before.getTotalBlocks()), static_cast<long>(logical.getTotalBlocks()));
+                         static_cast<long>(before.getTotalBlocks()),
+                         static_cast<long>(logical.getTotalBlocks()));
         }
         if (mask & VeldraLogicalDisk::changeDriveLabel) {
-            _logger.info("VD Logical Disk Drive Label Change Old: %s, New: %s", before.getDriveLabel().c_str(),
-                         logical.getDriveLabel().c_str());
+            _logger.info("VD Logical Disk Drive Label Change Old: %s, New: %s",
+                         before.getDriveLabel().c_str(), logical.getDriveLabel().c_str());
         }
         if (mask & VeldraLogicalDisk::changeTolerance) {
             _logger.info("VD Logical Disk Tolerance Change Old: %s (%d), New: %s (%d)",
-                         before.toleranceToStr(before.getTolerance()), static_cast<int>(before.getTolerance()),
-                         logical.toleranceToStr(logical.getTolerance()), static_cast<int>(logical.getTolerance()));
+                         before.toleranceToStr(before.getTolerance()),
+                         static_cast<int>(before.getTolerance()),
+                         logical.toleranceToStr(logical.getTolerance()),
+                         static_cast<int>(logical.getTolerance()));
         }
         if (mask & VeldraLogicalDisk::changeStatus) {
-            _logger.info("VD Logical Disk Status Change Old: %s (%d), New: %s (%d)",
-                         before.statusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
-                         logical.statusToStr(logical.getStatus()), static_cast<int>(logical.getStatus()));
-            DeviceEvents::VolumeEvent const what = DeviceEvents::volumeChangeEvent(before.getStatus(), logical.getStatus());
+            _logger.info(
+                "VD Logical Disk Status Change Old: %s (%d), New: %s (%d)",
+                before.statusToStr(before.getStatus()), static_cast<int>(before.getStatus()),
+                logical.statusToStr(logical.getStatus()), static_cast<int>(logical.getStatus()));
+            DeviceEvents::VolumeEvent const what =
+                DeviceEvents::volumeChangeEvent(before.getStatus(), logical.getStatus());
             if (indicationsEnabled && what.event > 0) {
-                events.sendVolume(logical, what, DeviceEvents::previousVolumeStatus(before.getStatus()),
+                events.sendVolume(logical, what,
+                                  DeviceEvents::previousVolumeStatus(before.getStatus()),
                                   "StorageVolumeStateChange",
                                   makeStorageVolumePath(lastData, controllerIndex, before).str());
             }

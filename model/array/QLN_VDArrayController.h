@@ -30,10 +30,12 @@ public:
     // which devices came, went or changed the way they are wired. The two
     // path change lists are appended to, all others are replaced.
     void manageDynamic(bool indicationsEnabled, CmpiCpp::CmpiContext const& context,
-                       std::vector<VeldraEnclosure>& currentEnclosures, std::vector<VeldraEnclosure>& newEnclosures,
+                       std::vector<VeldraEnclosure>& currentEnclosures,
+                       std::vector<VeldraEnclosure>& newEnclosures,
                        std::vector<VeldraEnclosure>& removedEnclosures,
                        std::vector<VeldraEnclosure>& pathChangeEnclosures,
-                       std::vector<VeldraLogicalDisk>& currentLogicals, std::vector<VeldraLogicalDisk>& newLogicals,
+                       std::vector<VeldraLogicalDisk>& currentLogicals,
+                       std::vector<VeldraLogicalDisk>& newLogicals,
                        std::vector<VeldraLogicalDisk>& removedLogicals,
                        std::vector<VeldraPhysicalDisk>& currentPhysicals,
                        std::vector<VeldraPhysicalDisk>& newPhysicals,
@@ -45,16 +47,21 @@ public:
 private:
     void _firstStatusPass(DeviceEvents& events, bool indicationsEnabled);
     void _controllerDataStage(DeviceEvents& events, bool indicationsEnabled);
-    void _enclosurePass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraEnclosure>& current,
-                        std::vector<VeldraEnclosure>& added, std::vector<VeldraEnclosure>& removed,
+    void _enclosurePass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial,
+                        std::vector<VeldraEnclosure>& current, std::vector<VeldraEnclosure>& added,
+                        std::vector<VeldraEnclosure>& removed,
                         std::vector<VeldraEnclosure>& pathChanged);
-    void _physicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& current,
-                       std::vector<VeldraPhysicalDisk>& added, std::vector<VeldraPhysicalDisk>& removed,
+    void _physicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial,
+                       std::vector<VeldraPhysicalDisk>& current,
+                       std::vector<VeldraPhysicalDisk>& added,
+                       std::vector<VeldraPhysicalDisk>& removed,
                        std::vector<VeldraPhysicalDisk>& configChanged,
                        std::vector<VeldraPhysicalDisk>& spareStateChanged,
                        std::vector<VeldraPhysicalDisk>& pathChanged);
-    void _logicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial, std::vector<VeldraPhysicalDisk>& physicals,
-                      std::vector<VeldraLogicalDisk>& current, std::vector<VeldraLogicalDisk>& added,
+    void _logicalPass(DeviceEvents& events, bool indicationsEnabled, std::string const& serial,
+                      std::vector<VeldraPhysicalDisk>& physicals,
+                      std::vector<VeldraLogicalDisk>& current,
+                      std::vector<VeldraLogicalDisk>& added,
                       std::vector<VeldraLogicalDisk>& removed);
 
     bool _firstStatus;

@@ -1,10 +1,10 @@
 #include "QLN_VDArraySystem.h"
 
-#include "IdentifyArguments.h"
 #include "CmpiArray.h"
 #include "CmpiBroker.h"
 #include "CmpiStatus.h"
 #include "FixedStateProperties.h"
+#include "IdentifyArguments.h"
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"

@@ -27,7 +27,6 @@ public:
     int getEnclosureBoxNumber() const { return _enclosureBoxNumber; }
 
 private:
-
     int _boxNumber;
     int _enclosureBoxNumber;
 };

@@ -36,8 +36,7 @@ unsigned short QLN_VDStorageEnclosure::locationOf(std::string const& userText) {
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosure::getPath() const {
-    return _pathByClassAndKey("Tag",
-                              enclosureTag(_controllerIndex, _enclosureBoxNumber));
+    return _pathByClassAndKey("Tag", enclosureTag(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosure::getInstance() const {

@@ -26,7 +26,6 @@ public:
     unsigned int getEnclosureBoxNumber() const { return _enclosureBoxNumber; }
 
 private:
-
     unsigned int _enclosureBoxNumber;
 };
 

@@ -2,8 +2,8 @@
 
 #include "CmpiBroker.h"
 #include "EnclosureSnapshot.h"
-#include "IdentityHelpers.h"
 #include "FixedStateProperties.h"
+#include "IdentityHelpers.h"
 #include "QLNUtil.h"
 #include "VDArrayValues.h"
 #include "VeldraStorageFunctions.h"
@@ -48,8 +48,7 @@ QLN_VDStorageEnclosureProcessor::QLN_VDStorageEnclosureProcessor(Logger& logger,
       _enclosureBoxNumber(enclosure.getEnclosureBoxNumber()) {}
 
 CmpiCpp::CmpiObjectPath QLN_VDStorageEnclosureProcessor::getPath() const {
-    return _pathByClassAndKey("Name",
-                              enclosureTag(_controllerIndex, _enclosureBoxNumber));
+    return _pathByClassAndKey("Name", enclosureTag(_controllerIndex, _enclosureBoxNumber));
 }
 
 CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
@@ -60,8 +59,7 @@ CmpiCpp::CmpiInstance QLN_VDStorageEnclosureProcessor::getInstance() const {
     std::vector<VeldraPhysicalPath> const paths = enclosure.getPaths();
 
     instance.addProperty("CreationClassName", className);
-    instance.addProperty("Name",
-                         enclosureTag(_controllerIndex, _enclosureBoxNumber));
+    instance.addProperty("Name", enclosureTag(_controllerIndex, _enclosureBoxNumber));
     instance.addProperty("NameFormat", "Other");
     instance.addProperty("ElementName", pathsToUserStr(paths, -1));
     instance.addProperty("IdentifyingDescriptions",

@@ -207,14 +207,14 @@ unsigned int QLN_VDStorageVolume::invokeMethod(CmpiCpp::CmpiName const& method,
     if (!duration)
         return CmpiManagedInstance::methodNotFound;
 
-    std::optional<VeldraLogicalDisk> const logical = _controller->findLastLogicalDisk(_serialNumber);
+    std::optional<VeldraLogicalDisk> const logical =
+        _controller->findLastLogicalDisk(_serialNumber);
     if (!logical)
         return methodFailed;
     // The current disks, not the snapshot: a disk that moved since the last
     // pass should blink where it is now.
     std::vector<VeldraPhysicalDisk> disks = _controller->getAllPhysicalDisks();
-    std::vector<VeldraPhysicalDisk> members =
-        logical->logicalToAllPhysicals(disks);
+    std::vector<VeldraPhysicalDisk> members = logical->logicalToAllPhysicals(disks);
     int const identified = _controller->identifyPhysicalDisks(members, *duration);
     return identified < 0 ? methodFailed : methodDone;
 }

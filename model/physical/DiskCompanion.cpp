@@ -15,8 +15,8 @@ DiskCompanion::DiskCompanion(Logger& logger, std::string const& nameSpace, char 
 std::string DiskCompanion::_identityTail() const {
     // The serial as the disk reports it: one of only blanks names the disk
     // "MODEL-" here, where change detection's makeDiskDrivePath uses the place.
-    return diskKeyName(_serialNumber, _model, std::to_string(_controllerIndex) + "-",
-                                 _boxNumber, _bay);
+    return diskKeyName(_serialNumber, _model, std::to_string(_controllerIndex) + "-", _boxNumber,
+                       _bay);
 }
 
 VeldraPhysicalDisk DiskCompanion::_findDisk(char const* failure) const {

@@ -24,8 +24,7 @@ QLN_VDMediaAccessStatData::QLN_VDMediaAccessStatData(Logger& logger, std::string
     : DiskCompanion(logger, nameSpace, className, controllerIndex, disk, controller) {}
 
 std::string QLN_VDMediaAccessStatData::_instanceId() const {
-    return std::string(className) + "-" +
-           diskKeyName(_serialNumber, _model, "", _boxNumber, _bay);
+    return std::string(className) + "-" + diskKeyName(_serialNumber, _model, "", _boxNumber, _bay);
 }
 
 CmpiCpp::CmpiObjectPath QLN_VDMediaAccessStatData::getPath() const {

@@ -10,15 +10,16 @@ namespace CmpiCpp {
 namespace {
 
 CmpiAssociationProvider* self(CMPIAssociationMI* mi) {
-    return mi ? static_cast<CmpiAssociationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
+    return mi ? static_cast<CmpiAssociationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE))
+              : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     // Not through CmpiGuard, which asks the provider for its broker: the
     // provider may be gone, taken down by a terminating cleanup of another table.
     try {
-        CmpiAssociationProvider::releaseTable<CmpiAssociationProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
-                                                              terminating != 0);
+        CmpiAssociationProvider::releaseTable<CmpiAssociationProvider>(
+            mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx), terminating != 0);
         return CMPIStatus{CMPI_RC_OK, nullptr};
     } catch (CmpiStatus const& status) {
         return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
@@ -82,7 +83,8 @@ CMPIAssociationMIFT const associationTable = {
 
 } // namespace
 
-CmpiAssociationProvider::CmpiAssociationProvider() : _associationMI(new CMPIAssociationMI{this, &associationTable}) {
+CmpiAssociationProvider::CmpiAssociationProvider()
+    : _associationMI(new CMPIAssociationMI{this, &associationTable}) {
     addTable(&_associationMI->hdl);
 }
 

@@ -55,7 +55,8 @@ CmpiInstance CmpiBroker::getInstance(CmpiContext const& context, CmpiObjectPath 
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIInstance* found = ft->getInstance(_broker, context.toCMPI(), op, properties, &rc);
     if (rc.rc != CMPI_RC_OK)
-        throw CmpiStatus(rc.rc, "getInstance of " + path.str() + " failed: " + CmpiConvert::fromCMPI(rc.msg));
+        throw CmpiStatus(rc.rc, "getInstance of " + path.str() +
+                                    " failed: " + CmpiConvert::fromCMPI(rc.msg));
     if (!found)
         throw CmpiStatus(CMPI_RC_ERR_NOT_FOUND, "getInstance of " + path.str() + " gave nothing");
     // The instance belongs to the request; a copy is what the caller keeps.
@@ -72,7 +73,8 @@ bool CmpiBroker::classPathIsA(CmpiObjectPath const& path, CmpiName const& type) 
     CMPIStatus rc{CMPI_RC_OK, nullptr};
     CMPIBoolean const answer = eft->classPathIsA(_broker, op, type.c_str(), &rc);
     if (rc.rc != CMPI_RC_OK)
-        throw CmpiStatus(rc.rc, "classPathIsA of " + path.str() + " failed: " + CmpiConvert::fromCMPI(rc.msg));
+        throw CmpiStatus(rc.rc, "classPathIsA of " + path.str() +
+                                    " failed: " + CmpiConvert::fromCMPI(rc.msg));
     return answer != 0;
 }
 

@@ -8,7 +8,8 @@ namespace CmpiCpp {
 namespace {
 
 CmpiIndicationProvider* self(CMPIIndicationMI* mi) {
-    return mi ? static_cast<CmpiIndicationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
+    return mi ? static_cast<CmpiIndicationProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE))
+              : nullptr;
 }
 
 // The class path of a filter may be absent; that is an empty path, not an error.
@@ -20,8 +21,8 @@ CMPIStatus miCleanup(CMPIIndicationMI* mi, CMPIContext const* ctx, CMPIBoolean t
     // Not through CmpiGuard, which asks the provider for its broker: the
     // provider may be gone, taken down by a terminating cleanup of another table.
     try {
-        CmpiIndicationProvider::releaseTable<CmpiIndicationProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
-                                                              terminating != 0);
+        CmpiIndicationProvider::releaseTable<CmpiIndicationProvider>(
+            mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx), terminating != 0);
         return CMPIStatus{CMPI_RC_OK, nullptr};
     } catch (CmpiStatus const& status) {
         return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
@@ -88,7 +89,8 @@ CMPIIndicationMIFT const indicationTable = {
 
 } // namespace
 
-CmpiIndicationProvider::CmpiIndicationProvider() : _indicationMI(new CMPIIndicationMI{this, &indicationTable}) {
+CmpiIndicationProvider::CmpiIndicationProvider()
+    : _indicationMI(new CMPIIndicationMI{this, &indicationTable}) {
     addTable(&_indicationMI->hdl);
 }
 

@@ -11,15 +11,16 @@ namespace CmpiCpp {
 namespace {
 
 CmpiInstanceProvider* self(CMPIInstanceMI* mi) {
-    return mi ? static_cast<CmpiInstanceProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
+    return mi ? static_cast<CmpiInstanceProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE))
+              : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     // Not through CmpiGuard, which asks the provider for its broker: the
     // provider may be gone, taken down by a terminating cleanup of another table.
     try {
-        CmpiInstanceProvider::releaseTable<CmpiInstanceProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
-                                                              terminating != 0);
+        CmpiInstanceProvider::releaseTable<CmpiInstanceProvider>(
+            mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx), terminating != 0);
         return CMPIStatus{CMPI_RC_OK, nullptr};
     } catch (CmpiStatus const& status) {
         return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());
@@ -110,7 +111,8 @@ CMPIInstanceMIFT const instanceTable = {
 
 } // namespace
 
-CmpiInstanceProvider::CmpiInstanceProvider() : _instanceMI(new CMPIInstanceMI{this, &instanceTable}) {
+CmpiInstanceProvider::CmpiInstanceProvider()
+    : _instanceMI(new CMPIInstanceMI{this, &instanceTable}) {
     addTable(&_instanceMI->hdl);
 }
 

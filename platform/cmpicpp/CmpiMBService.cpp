@@ -5,8 +5,7 @@
 
 namespace CmpiCpp {
 
-CmpiMBService::CmpiMBService(CMPIBroker const* broker, Logger&)
-    : _broker(broker) {}
+CmpiMBService::CmpiMBService(CMPIBroker const* broker, Logger&) : _broker(broker) {}
 
 void CmpiMBService::deliverIndication(CmpiContext const& context, CmpiName const& nameSpace,
                                       CmpiInstance const& indication) const {

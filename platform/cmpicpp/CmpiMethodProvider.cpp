@@ -9,15 +9,16 @@ namespace CmpiCpp {
 namespace {
 
 CmpiMethodProvider* self(CMPIMethodMI* mi) {
-    return mi ? static_cast<CmpiMethodProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE)) : nullptr;
+    return mi ? static_cast<CmpiMethodProvider*>(__atomic_load_n(&mi->hdl, __ATOMIC_ACQUIRE))
+              : nullptr;
 }
 
 CMPIStatus miCleanup(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     // Not through CmpiGuard, which asks the provider for its broker: the
     // provider may be gone, taken down by a terminating cleanup of another table.
     try {
-        CmpiMethodProvider::releaseTable<CmpiMethodProvider>(mi != nullptr ? &mi->hdl : nullptr, CmpiContext(ctx),
-                                                              terminating != 0);
+        CmpiMethodProvider::releaseTable<CmpiMethodProvider>(mi != nullptr ? &mi->hdl : nullptr,
+                                                             CmpiContext(ctx), terminating != 0);
         return CMPIStatus{CMPI_RC_OK, nullptr};
     } catch (CmpiStatus const& status) {
         return CmpiGuard::failed(CmpiBroker(), status.rc(), status.msg());

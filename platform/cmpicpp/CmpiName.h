@@ -38,7 +38,9 @@ public:
     std::size_t hash() const;
 
 private:
-    static char _fold(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+    static char _fold(char c) {
+        return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+    }
 
     std::string _name;
 };

@@ -66,8 +66,10 @@ void CmpiProvider::addTable(void** handle) {
 bool CmpiProvider::_releaseLocked(bool terminating) {
     unsigned int remaining = 0;
     bool const last = terminating ? _refcount.exchange(0) > 0 : _drop(remaining);
-    if (!last) return false;
-    for (void** handle : _tables) __atomic_store_n(handle, nullptr, __ATOMIC_RELEASE);
+    if (!last)
+        return false;
+    for (void** handle : _tables)
+        __atomic_store_n(handle, nullptr, __ATOMIC_RELEASE);
     live().erase(this);
     return true;
 }
@@ -89,23 +91,27 @@ bool CmpiProvider::releaseReference(CmpiProvider* provider, CmpiContext const& c
         // Under the lock, so that of two cleanups at once only one deletes,
         // and none looks at a provider the other deleted.
         std::lock_guard lock(liveMutex);
-        if (provider == nullptr || live().count(provider) == 0 || !provider->_releaseLocked(terminating)) {
+        if (provider == nullptr || live().count(provider) == 0 ||
+            !provider->_releaseLocked(terminating)) {
             return false;
         }
     }
     return _finish(provider, context, terminating);
 }
 
-bool CmpiProvider::_releaseTable(void** handle, CmpiProvider* (*toProvider)(void*), CmpiContext const& context,
-                                 bool terminating) {
+bool CmpiProvider::_releaseTable(void** handle, CmpiProvider* (*toProvider)(void*),
+                                 CmpiContext const& context, bool terminating) {
     CmpiProvider* provider = nullptr;
     {
         std::lock_guard lock(liveMutex);
-        if (handle == nullptr) return false;
+        if (handle == nullptr)
+            return false;
         void* const current = __atomic_load_n(handle, __ATOMIC_ACQUIRE);
-        if (current == nullptr) return false;
+        if (current == nullptr)
+            return false;
         provider = toProvider(current);
-        if (!provider->_releaseLocked(terminating)) return false;
+        if (!provider->_releaseLocked(terminating))
+            return false;
     }
     return _finish(provider, context, terminating);
 }

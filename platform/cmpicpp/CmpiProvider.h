@@ -47,7 +47,8 @@ public:
     template <typename Interface>
     static bool releaseTable(void** handle, CmpiContext const& context, bool terminating) {
         return _releaseTable(
-            handle, [](void* h) -> CmpiProvider* { return static_cast<Interface*>(h); }, context, terminating);
+            handle, [](void* h) -> CmpiProvider* { return static_cast<Interface*>(h); }, context,
+            terminating);
     }
     // False once the provider was deleted (or for a pointer that never was one).
     static bool isLive(CmpiProvider const* provider);
@@ -69,8 +70,8 @@ private:
     // terminating; on the last one clears the tables' handles and forgets the
     // provider, so that the caller deletes it.
     bool _releaseLocked(bool terminating);
-    static bool _releaseTable(void** handle, CmpiProvider* (*provider)(void*), CmpiContext const& context,
-                              bool terminating);
+    static bool _releaseTable(void** handle, CmpiProvider* (*provider)(void*),
+                              CmpiContext const& context, bool terminating);
     static bool _finish(CmpiProvider* provider, CmpiContext const& context, bool terminating);
 
     std::vector<void**> _tables;

@@ -105,7 +105,8 @@ void CmpiManagedInstanceCollection::_index(Entry* entry, std::vector<NamedEnd>& 
             end.path = std::move(named.path);
             end.key = &at->first;
         }
-        if (std::find(end.associations.begin(), end.associations.end(), entry) == end.associations.end()) {
+        if (std::find(end.associations.begin(), end.associations.end(), entry) ==
+            end.associations.end()) {
             end.associations.push_back(entry);
         }
         entry->references.push_back({std::move(named.role), &end});
@@ -273,7 +274,8 @@ unsigned int CmpiManagedInstanceCollection::cleanup() {
             }
         }
         _entries = std::move(kept);
-        if (!gone.empty()) ++_generation;
+        if (!gone.empty())
+            ++_generation;
     }
     return static_cast<unsigned int>(gone.size());
 }
@@ -376,9 +378,9 @@ CmpiManagedInstanceCollection::_fittingAssociations(CmpiObjectPath const& path,
         if (!classFilter.fits(entry->className) || !entry->instance->visible()) {
             continue;
         }
-        bool named = std::any_of(
-            entry->references.begin(), entry->references.end(),
-            [&](Reference const& r) { return r.end == source && fits(role, r.role); });
+        bool named =
+            std::any_of(entry->references.begin(), entry->references.end(),
+                        [&](Reference const& r) { return r.end == source && fits(role, r.role); });
         if (named) {
             fitting.push_back(entry);
         }
@@ -448,7 +450,8 @@ CmpiManagedInstanceCollection::Associators CmpiManagedInstanceCollection::findAs
     return answer;
 }
 
-void CmpiManagedInstanceCollection::resolveElsewhere(Associators& answer, CmpiContext const& context,
+void CmpiManagedInstanceCollection::resolveElsewhere(Associators& answer,
+                                                     CmpiContext const& context,
                                                      char const** properties) const {
     CmpiCpp::CmpiBroker const broker(QLNUtil::getBroker());
     for (auto const& far : answer.elsewhere) {
@@ -456,7 +459,8 @@ void CmpiManagedInstanceCollection::resolveElsewhere(Associators& answer, CmpiCo
             break;
         }
         try {
-            answer.found.push_back(broker.getInstance(context, far, properties).filtered(properties));
+            answer.found.push_back(
+                broker.getInstance(context, far, properties).filtered(properties));
         } catch (std::exception const& e) {
             _logger.warn("associators: far end %s not available: %s", far.str().c_str(), e.what());
         }
@@ -464,13 +468,12 @@ void CmpiManagedInstanceCollection::resolveElsewhere(Associators& answer, CmpiCo
     answer.elsewhere.clear();
 }
 
-void CmpiManagedInstanceCollection::associators(CmpiInstanceResult& result, CmpiContext const& context,
-                                                CmpiObjectPath const& path,
-                                                CmpiName const& assocClass,
-                                                CmpiName const& resultClass, CmpiName const& role,
-                                                CmpiName const& resultRole,
-                                                char const** properties) const {
-    Associators answer = findAssociators(path, assocClass, resultClass, role, resultRole, properties);
+void CmpiManagedInstanceCollection::associators(
+    CmpiInstanceResult& result, CmpiContext const& context, CmpiObjectPath const& path,
+    CmpiName const& assocClass, CmpiName const& resultClass, CmpiName const& role,
+    CmpiName const& resultRole, char const** properties) const {
+    Associators answer =
+        findAssociators(path, assocClass, resultClass, role, resultRole, properties);
     resolveElsewhere(answer, context, properties);
     for (auto const& each : answer.found) {
         result.returnInstance(each);
@@ -502,8 +505,7 @@ void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiC
     std::vector<CmpiInstance> found;
     {
         std::shared_lock lock(_mutex);
-        for (Entry const* association :
-             _fittingAssociations(path, resultClass, role)) {
+        for (Entry const* association : _fittingAssociations(path, resultClass, role)) {
             CmpiInstance instance;
             if (_instanceOf(association, instance, "references")) {
                 found.push_back(instance.filtered(properties));
@@ -522,8 +524,7 @@ void CmpiManagedInstanceCollection::referenceNames(CmpiObjectPathResult& result,
     std::vector<CmpiObjectPath> found;
     {
         std::shared_lock lock(_mutex);
-        for (Entry const* association :
-             _fittingAssociations(path, resultClass, role)) {
+        for (Entry const* association : _fittingAssociations(path, resultClass, role)) {
             try {
                 found.push_back(association->instance->getPath());
             } catch (std::exception const& e) {

@@ -51,7 +51,8 @@ public:
     CmpiManagedInstance* getManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
     // For callers without the provider lock (methods): the instance stays
     // alive as long as they hold it, even when a worker pass deletes it.
-    std::shared_ptr<CmpiManagedInstance> shareManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
+    std::shared_ptr<CmpiManagedInstance>
+    shareManagedInstance(CmpiCpp::CmpiObjectPath const& path) const;
     // Null past the end, since the size may have changed under the caller.
     CmpiManagedInstance* getManagedInstance(unsigned int index) const;
     unsigned int size() const;
@@ -72,8 +73,9 @@ public:
     // Whether a class of this namespace is the filter's class or one of its
     // subclasses. Only the object manager knows the hierarchy; the provider
     // sets a test that asks it.
-    using ClassTest = std::function<bool(std::string const& nameSpace, CmpiCpp::CmpiName const& className,
-                                         CmpiCpp::CmpiName const& filter)>;
+    using ClassTest =
+        std::function<bool(std::string const& nameSpace, CmpiCpp::CmpiName const& className,
+                           CmpiCpp::CmpiName const& filter)>;
     // Without a test, a class filter takes only its own class.
     void setClassTest(ClassTest test);
 
@@ -91,10 +93,11 @@ public:
     // into the same provider, so the second step, which asks it, must run
     // with no provider lock held.
     struct Associators {
-        std::vector<CmpiCpp::CmpiInstance> found;    // ends served here
+        std::vector<CmpiCpp::CmpiInstance> found;       // ends served here
         std::vector<CmpiCpp::CmpiObjectPath> elsewhere; // ends another provider serves
     };
-    Associators findAssociators(CmpiCpp::CmpiObjectPath const& path, CmpiCpp::CmpiName const& assocClass,
+    Associators findAssociators(CmpiCpp::CmpiObjectPath const& path,
+                                CmpiCpp::CmpiName const& assocClass,
                                 CmpiCpp::CmpiName const& resultClass, CmpiCpp::CmpiName const& role,
                                 CmpiCpp::CmpiName const& resultRole, char const** properties) const;
     void resolveElsewhere(Associators& answer, CmpiCpp::CmpiContext const& context,

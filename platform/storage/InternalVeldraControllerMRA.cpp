@@ -16,7 +16,8 @@ bool isFile(std::string const& path) {
 
 std::string libraryDirectory() {
     Dl_info info{};
-    if (::dladdr(reinterpret_cast<void*>(&internalVeldraControllerMRAFactory), &info) == 0 || !info.dli_fname)
+    if (::dladdr(reinterpret_cast<void*>(&internalVeldraControllerMRAFactory), &info) == 0 ||
+        !info.dli_fname)
         return "";
     std::string path = info.dli_fname;
     auto slash = path.rfind('/');
@@ -26,9 +27,11 @@ std::string libraryDirectory() {
 
 std::string InternalVeldraControllerMRA::defaultScenarioPath() {
     std::string installed = libraryDirectory() + "/../share/veldra/scenarios/demo.yaml";
-    if (isFile(installed)) return installed;
+    if (isFile(installed))
+        return installed;
     std::string source = std::string(VELDRA_STORAGE_DATA_DIR) + "/scenarios/demo.yaml";
-    if (isFile(source)) return source;
+    if (isFile(source))
+        return source;
     return "";
 }
 
@@ -40,9 +43,11 @@ InternalVeldraControllerMRA* internalVeldraControllerMRAFactory(Logger& logger) 
             return nullptr;
         }
         std::string scenario = QLN::FrameworkConfig::getString("VELDRA_SCENARIO", "");
-        if (scenario.empty()) scenario = InternalVeldraControllerMRA::defaultScenarioPath();
+        if (scenario.empty())
+            scenario = InternalVeldraControllerMRA::defaultScenarioPath();
         if (scenario.empty()) {
-            logger.error("no scenario file: VELDRA_SCENARIO is not set and no demo.yaml is installed");
+            logger.error(
+                "no scenario file: VELDRA_SCENARIO is not set and no demo.yaml is installed");
             return nullptr;
         }
         return new SimulatedControllerMRA(scenario, logger);

@@ -5,10 +5,10 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <limits>
 #include <optional>
-#include <filesystem>
 #include <set>
 #include <sstream>
 #include <type_traits>
@@ -17,28 +17,50 @@ namespace {
 
 #define VELDRA_FIELD_NAME(type, member, init) #member,
 
-std::vector<std::string> const statisticsKeys = {
-    "abortedCommands", "badTargetErrors", "eccRecoveredReadErrors", "formatErrors", "hardReadErrors",
-    "hardWriteErrors", "hardwareErrors", "hotPlugCount", "mediaFailures", "notReadyErrors",
-    "otherTimeOuts", "scsiBusFaults", "sectorsRead", "sectorsWritten", "seekCount",
-    "seekErrors", "spinUpErrors", "drqTimeOuts", "retryRecoveredReadErrors", "retryRecoveredWriteErrors",
-    "failedReadRecovers", "failedWriteRecovers", "serviceHours"};
+std::vector<std::string> const statisticsKeys = {"abortedCommands",
+                                                 "badTargetErrors",
+                                                 "eccRecoveredReadErrors",
+                                                 "formatErrors",
+                                                 "hardReadErrors",
+                                                 "hardWriteErrors",
+                                                 "hardwareErrors",
+                                                 "hotPlugCount",
+                                                 "mediaFailures",
+                                                 "notReadyErrors",
+                                                 "otherTimeOuts",
+                                                 "scsiBusFaults",
+                                                 "sectorsRead",
+                                                 "sectorsWritten",
+                                                 "seekCount",
+                                                 "seekErrors",
+                                                 "spinUpErrors",
+                                                 "drqTimeOuts",
+                                                 "retryRecoveredReadErrors",
+                                                 "retryRecoveredWriteErrors",
+                                                 "failedReadRecovers",
+                                                 "failedWriteRecovers",
+                                                 "serviceHours"};
 
 // Where we are in the file, for messages.
 struct Context {
     std::string file;
     std::string where;
 
-    [[noreturn]] void fail(YAML::Node const& node, std::string const& field, std::string const& what) const {
+    [[noreturn]] void fail(YAML::Node const& node, std::string const& field,
+                           std::string const& what) const {
         std::ostringstream text;
         text << file;
-        if (node.IsDefined() && node.Mark().line >= 0) text << ":" << node.Mark().line + 1;
+        if (node.IsDefined() && node.Mark().line >= 0)
+            text << ":" << node.Mark().line + 1;
         text << ": " << where;
-        if (!field.empty()) text << ": field '" << field << "'";
+        if (!field.empty())
+            text << ": field '" << field << "'";
         text << ": " << what;
         throw ScenarioError(text.str());
     }
-    Context child(std::string const& part) const { return Context{file, where.empty() ? part : where + "." + part}; }
+    Context child(std::string const& part) const {
+        return Context{file, where.empty() ? part : where + "." + part};
+    }
 };
 
 // Finds the first alias (*name). Aliases let a few lines stand for thousands
@@ -51,23 +73,32 @@ public:
     void OnDocumentEnd() override {}
     void OnNull(YAML::Mark const&, YAML::anchor_t) override {}
     void OnAlias(YAML::Mark const& mark, YAML::anchor_t) override {
-        if (!alias) alias = mark;
+        if (!alias)
+            alias = mark;
     }
-    void OnScalar(YAML::Mark const&, std::string const&, YAML::anchor_t, std::string const&) override {}
-    void OnSequenceStart(YAML::Mark const&, std::string const&, YAML::anchor_t, YAML::EmitterStyle::value) override {}
+    void OnScalar(YAML::Mark const&, std::string const&, YAML::anchor_t,
+                  std::string const&) override {}
+    void OnSequenceStart(YAML::Mark const&, std::string const&, YAML::anchor_t,
+                         YAML::EmitterStyle::value) override {}
     void OnSequenceEnd() override {}
-    void OnMapStart(YAML::Mark const&, std::string const&, YAML::anchor_t, YAML::EmitterStyle::value) override {}
+    void OnMapStart(YAML::Mark const&, std::string const&, YAML::anchor_t,
+                    YAML::EmitterStyle::value) override {}
     void OnMapEnd() override {}
 };
 
-std::string scalarText(YAML::Node const& node) { return node.IsScalar() ? node.Scalar() : std::string("(not a value)"); }
-
-template <class T> void convert(YAML::Node const& node, T& out, Context const& ctx, std::string const& field);
+std::string scalarText(YAML::Node const& node) {
+    return node.IsScalar() ? node.Scalar() : std::string("(not a value)");
+}
 
 template <class T>
-    requires std::is_integral_v<T> && (!std::is_same_v<T, bool>)
-void convertInteger(YAML::Node const& node, T& out, Context const& ctx, std::string const& field) {
-    if (!node.IsScalar()) ctx.fail(node, field, "expected an integer");
+void convert(YAML::Node const& node, T& out, Context const& ctx, std::string const& field);
+
+template <class T>
+requires std::is_integral_v<T> &&
+    (!std::is_same_v<T, bool>)void convertInteger(YAML::Node const& node, T& out,
+                                                  Context const& ctx, std::string const& field) {
+    if (!node.IsScalar())
+        ctx.fail(node, field, "expected an integer");
     std::string const& text = node.Scalar();
     char* end = nullptr;
     errno = 0;
@@ -76,24 +107,31 @@ void convertInteger(YAML::Node const& node, T& out, Context const& ctx, std::str
         long long v = ok ? std::strtoll(text.c_str(), &end, 0) : 0;
         ok = ok && errno == 0 && *end == '\0' && v >= std::numeric_limits<T>::min() &&
              v <= std::numeric_limits<T>::max();
-        if (ok) out = static_cast<T>(v);
+        if (ok)
+            out = static_cast<T>(v);
     } else {
         ok = ok && text[0] != '-';
         unsigned long long v = ok ? std::strtoull(text.c_str(), &end, 0) : 0;
         ok = ok && errno == 0 && *end == '\0' && v <= std::numeric_limits<T>::max();
-        if (ok) out = static_cast<T>(v);
+        if (ok)
+            out = static_cast<T>(v);
     }
     if (!ok)
         ctx.fail(node, field,
-                 "expected an integer from " + std::to_string(+std::numeric_limits<T>::min()) + " to " +
-                     std::to_string(+std::numeric_limits<T>::max()) + ", got '" + text + "'");
+                 "expected an integer from " + std::to_string(+std::numeric_limits<T>::min()) +
+                     " to " + std::to_string(+std::numeric_limits<T>::max()) + ", got '" + text +
+                     "'");
 }
 
-template <class T> void convert(YAML::Node const& node, T& out, Context const& ctx, std::string const& field) {
+template <class T>
+void convert(YAML::Node const& node, T& out, Context const& ctx, std::string const& field) {
     if constexpr (std::is_same_v<T, std::string>) {
-        if (node.IsNull()) out.clear();
-        else if (node.IsScalar()) out = node.Scalar();
-        else ctx.fail(node, field, "expected a text");
+        if (node.IsNull())
+            out.clear();
+        else if (node.IsScalar())
+            out = node.Scalar();
+        else
+            ctx.fail(node, field, "expected a text");
     } else if constexpr (std::is_same_v<T, bool>) {
         bool value = false;
         if (!node.IsScalar() || !YAML::convert<bool>::decode(node, value))
@@ -108,7 +146,8 @@ template <class T> void convert(YAML::Node const& node, T& out, Context const& c
         convertInteger(node, out, ctx, field);
     } else {
         // a vector of one of the above
-        if (!node.IsSequence()) ctx.fail(node, field, "expected a list");
+        if (!node.IsSequence())
+            ctx.fail(node, field, "expected a list");
         out.clear();
         for (auto const& item : node) {
             typename T::value_type value{};
@@ -119,33 +158,39 @@ template <class T> void convert(YAML::Node const& node, T& out, Context const& c
 }
 
 void checkKeys(YAML::Node const& map, std::set<std::string> const& allowed, Context const& ctx) {
-    if (!map.IsMap()) ctx.fail(map, "", "expected a mapping of fields");
+    if (!map.IsMap())
+        ctx.fail(map, "", "expected a mapping of fields");
     for (auto const& entry : map) {
         std::string key = entry.first.as<std::string>();
-        if (!allowed.count(key)) ctx.fail(entry.first, key, "unknown field");
+        if (!allowed.count(key))
+            ctx.fail(entry.first, key, "unknown field");
     }
 }
 
 template <class T> void read(YAML::Node const& map, char const* key, T& out, Context const& ctx) {
     YAML::Node node = map[key];
-    if (node.IsDefined()) convert(node, out, ctx, key);
+    if (node.IsDefined())
+        convert(node, out, ctx, key);
 }
 
 // A list of operations, each one that `failable` names: "fail" (returns
 // non-zero) or, for controllers, "throw".
-std::set<std::string> readFail(YAML::Node const& map, std::vector<std::string> const& failable, Context const& ctx,
-                               char const* key = "fail") {
+std::set<std::string> readFail(YAML::Node const& map, std::vector<std::string> const& failable,
+                               Context const& ctx, char const* key = "fail") {
     std::set<std::string> out;
     YAML::Node node = map[key];
-    if (!node.IsDefined()) return out;
+    if (!node.IsDefined())
+        return out;
     std::vector<std::string> names;
     convert(node, names, ctx, key);
     std::set<std::string> known(failable.begin(), failable.end());
     for (auto const& name : names) {
         if (!known.count(name)) {
             std::string list;
-            for (auto const& k : failable) list += (list.empty() ? "" : ", ") + k;
-            ctx.fail(node, key, "'" + name + "' is no operation that can fail here (known: " + list + ")");
+            for (auto const& k : failable)
+                list += (list.empty() ? "" : ", ") + k;
+            ctx.fail(node, key,
+                     "'" + name + "' is no operation that can fail here (known: " + list + ")");
         }
         out.insert(name);
     }
@@ -155,8 +200,10 @@ std::set<std::string> readFail(YAML::Node const& map, std::vector<std::string> c
 std::vector<VeldraPhysicalPath> readPaths(YAML::Node const& map, Context const& ctx) {
     std::vector<VeldraPhysicalPath> paths;
     YAML::Node node = map["paths"];
-    if (!node.IsDefined()) return paths;
-    if (!node.IsSequence()) ctx.fail(node, "paths", "expected a list of routes");
+    if (!node.IsDefined())
+        return paths;
+    if (!node.IsSequence())
+        ctx.fail(node, "paths", "expected a list of routes");
     int i = 0;
     for (auto const& item : node) {
         Context here = ctx.child("paths[" + std::to_string(i++) + "]");
@@ -166,15 +213,19 @@ std::vector<VeldraPhysicalPath> readPaths(YAML::Node const& map, Context const& 
         read(item, "port", port, here);
         read(item, "box", box, here);
         read(item, "status", status, here);
-        if (port.empty()) here.fail(item, "port", "a route needs a port");
+        if (port.empty())
+            here.fail(item, "port", "a route needs a port");
         paths.emplace_back(port, box, status);
     }
     return paths;
 }
 
-std::set<std::string> keySet(std::vector<std::string> const& keys) { return {keys.begin(), keys.end()}; }
+std::set<std::string> keySet(std::vector<std::string> const& keys) {
+    return {keys.begin(), keys.end()};
+}
 
-std::shared_ptr<VeldraEnclosureInfo const> readEnclosure(YAML::Node const& map, Context const& ctx) {
+std::shared_ptr<VeldraEnclosureInfo const> readEnclosure(YAML::Node const& map,
+                                                         Context const& ctx) {
     checkKeys(map, keySet(ScenarioParser::enclosureKeys()), ctx);
     auto info = std::make_shared<VeldraEnclosureInfo>();
 #define VELDRA_READ_FIELD(type, member, init) read(map, #member, info->member, ctx);
@@ -187,7 +238,8 @@ std::shared_ptr<VeldraEnclosureInfo const> readEnclosure(YAML::Node const& map, 
     return info;
 }
 
-std::shared_ptr<VeldraPhysicalDiskInfo const> readPhysicalDisk(YAML::Node const& map, Context const& ctx) {
+std::shared_ptr<VeldraPhysicalDiskInfo const> readPhysicalDisk(YAML::Node const& map,
+                                                               Context const& ctx) {
     checkKeys(map, keySet(ScenarioParser::physicalDiskKeys()), ctx);
     auto info = std::make_shared<VeldraPhysicalDiskInfo>();
     VELDRA_PHYSICAL_DISK_FIELDS(VELDRA_READ_FIELD)
@@ -198,12 +250,14 @@ std::shared_ptr<VeldraPhysicalDiskInfo const> readPhysicalDisk(YAML::Node const&
         Context here = ctx.child("statistics");
         checkKeys(stats, keySet(statisticsKeys), here);
         u64* counters = &info->statistics.abortedCommands;
-        for (size_t i = 0; i < statisticsKeys.size(); ++i) read(stats, statisticsKeys[i].c_str(), counters[i], here);
+        for (size_t i = 0; i < statisticsKeys.size(); ++i)
+            read(stats, statisticsKeys[i].c_str(), counters[i], here);
     }
     return info;
 }
 
-std::shared_ptr<VeldraLogicalDiskInfo const> readLogicalDisk(YAML::Node const& map, Context const& ctx) {
+std::shared_ptr<VeldraLogicalDiskInfo const> readLogicalDisk(YAML::Node const& map,
+                                                             Context const& ctx) {
     checkKeys(map, keySet(ScenarioParser::logicalDiskKeys()), ctx);
     auto info = std::make_shared<VeldraLogicalDiskInfo>();
     VELDRA_LOGICAL_DISK_FIELDS(VELDRA_READ_FIELD)
@@ -214,7 +268,8 @@ std::shared_ptr<VeldraLogicalDiskInfo const> readLogicalDisk(YAML::Node const& m
     info->fail = readFail(map, ScenarioParser::logicalDiskFailable(), ctx);
     YAML::Node replaced = map["replaced"];
     if (replaced.IsDefined()) {
-        if (!replaced.IsMap()) ctx.fail(replaced, "replaced", "expected a mapping of spare id to replaced disk id");
+        if (!replaced.IsMap())
+            ctx.fail(replaced, "replaced", "expected a mapping of spare id to replaced disk id");
         for (auto const& entry : replaced) {
             u32 spare = 0, failed = 0;
             convert(entry.first, spare, ctx, "replaced");
@@ -222,7 +277,8 @@ std::shared_ptr<VeldraLogicalDiskInfo const> readLogicalDisk(YAML::Node const& m
             info->replaced[spare] = failed;
         }
     }
-    if (info->serialNumber.empty()) ctx.fail(map, "serialNumber", "a logical disk needs a serial number");
+    if (info->serialNumber.empty())
+        ctx.fail(map, "serialNumber", "a logical disk needs a serial number");
     return info;
 }
 
@@ -242,7 +298,8 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
     if (YAML::Node loc = map["physloc"]; loc.IsDefined()) {
         std::vector<uint8_t> bytes;
         convert(loc, bytes, ctx, "physloc");
-        if (bytes.size() > 8) ctx.fail(loc, "physloc", "a location has at most 8 bytes");
+        if (bytes.size() > 8)
+            ctx.fail(loc, "physloc", "a location has at most 8 bytes");
         std::copy(bytes.begin(), bytes.end(), info->physloc.begin());
     }
     if (YAML::Node addr = map["address"]; addr.IsDefined()) {
@@ -260,10 +317,14 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
     controller.data = info;
     auto list = [&](char const* key, auto reader, auto& out) {
         YAML::Node node = map[key];
-        if (!node.IsDefined() || node.IsNull()) return;
-        if (!node.IsSequence()) ctx.fail(node, key, "expected a list");
+        if (!node.IsDefined() || node.IsNull())
+            return;
+        if (!node.IsSequence())
+            ctx.fail(node, key, "expected a list");
         int i = 0;
-        for (auto const& item : node) out.push_back(reader(item, ctx.child(std::string(key) + "[" + std::to_string(i++) + "]")));
+        for (auto const& item : node)
+            out.push_back(
+                reader(item, ctx.child(std::string(key) + "[" + std::to_string(i++) + "]")));
     };
     list("enclosures", readEnclosure, controller.enclosures);
     list("physicalDisks", readPhysicalDisk, controller.physicalDisks);
@@ -283,12 +344,15 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
     std::set<std::pair<int, int>> places;
     for (size_t i = 0; i < controller.physicalDisks.size(); ++i) {
         auto const& d = *controller.physicalDisks[i];
-        if (!ids.insert(d.id).second) fail("physicalDisks", i, "id", "id " + std::to_string(d.id) + " is used twice");
+        if (!ids.insert(d.id).second)
+            fail("physicalDisks", i, "id", "id " + std::to_string(d.id) + " is used twice");
         if (!d.serialNumber.empty() && !serials.insert(d.serialNumber).second)
-            fail("physicalDisks", i, "serialNumber", "serial number '" + d.serialNumber + "' is used twice");
+            fail("physicalDisks", i, "serialNumber",
+                 "serial number '" + d.serialNumber + "' is used twice");
         if (d.serialNumber.empty() && !places.insert({d.enclosureBoxNumber, d.bay}).second)
-            fail("physicalDisks", i, "bay", "two disks without serial number share enclosure " +
-                                                std::to_string(d.enclosureBoxNumber) + " bay " + std::to_string(d.bay));
+            fail("physicalDisks", i, "bay",
+                 "two disks without serial number share enclosure " +
+                     std::to_string(d.enclosureBoxNumber) + " bay " + std::to_string(d.bay));
     }
     // A volume may name a member that was pulled: it keeps its slot.
     std::set<u32> memberIds = ids;
@@ -303,24 +367,32 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
             fail("enclosures", i, "enclosureBoxNumber",
                  "enclosure box number " + std::to_string(e.enclosureBoxNumber) + " is used twice");
         if (!e.serialNumber.empty() && !enclosureSerials.insert(e.serialNumber).second)
-            fail("enclosures", i, "serialNumber", "serial number '" + e.serialNumber + "' is used twice");
+            fail("enclosures", i, "serialNumber",
+                 "serial number '" + e.serialNumber + "' is used twice");
     }
     std::set<std::string> volumeSerials;
     std::set<u32> numbers;
     for (size_t i = 0; i < controller.logicalDisks.size(); ++i) {
         auto const& l = *controller.logicalDisks[i];
         if (!volumeSerials.insert(l.serialNumber).second)
-            fail("logicalDisks", i, "serialNumber", "serial number '" + l.serialNumber + "' is used twice");
+            fail("logicalDisks", i, "serialNumber",
+                 "serial number '" + l.serialNumber + "' is used twice");
         if (!numbers.insert(l.number).second)
-            fail("logicalDisks", i, "number", "volume number " + std::to_string(l.number) + " is used twice");
+            fail("logicalDisks", i, "number",
+                 "volume number " + std::to_string(l.number) + " is used twice");
         for (u32 id : l.dataDisks)
-            if (!memberIds.count(id)) fail("logicalDisks", i, "dataDisks", "no physical disk has id " + std::to_string(id));
+            if (!memberIds.count(id))
+                fail("logicalDisks", i, "dataDisks",
+                     "no physical disk has id " + std::to_string(id));
         for (u32 id : l.spareDisks)
-            if (!memberIds.count(id)) fail("logicalDisks", i, "spareDisks", "no physical disk has id " + std::to_string(id));
+            if (!memberIds.count(id))
+                fail("logicalDisks", i, "spareDisks",
+                     "no physical disk has id " + std::to_string(id));
         for (auto const& [spare, failed] : l.replaced)
             if (!memberIds.count(spare) || !memberIds.count(failed))
                 fail("logicalDisks", i, "replaced",
-                     "no physical disk has id " + std::to_string(memberIds.count(spare) ? failed : spare));
+                     "no physical disk has id " +
+                         std::to_string(memberIds.count(spare) ? failed : spare));
     }
     return controller;
 }
@@ -328,8 +400,10 @@ VeldraControllerScenario readController(YAML::Node const& map, Context const& ct
 VeldraScenario readScenario(YAML::Node const& root, Context const& ctx) {
     checkKeys(root, {"name", "description", "controllers"}, ctx);
     YAML::Node list = root["controllers"];
-    if (!list.IsDefined()) ctx.fail(root, "controllers", "missing; a scenario lists its controllers");
-    if (!list.IsSequence()) ctx.fail(list, "controllers", "expected a list");
+    if (!list.IsDefined())
+        ctx.fail(root, "controllers", "missing; a scenario lists its controllers");
+    if (!list.IsSequence())
+        ctx.fail(list, "controllers", "expected a list");
     VeldraScenario scenario;
     int i = 0;
     std::set<std::string> serials;
@@ -352,9 +426,11 @@ VeldraScenario ScenarioParser::parseText(std::string const& text, std::string co
     try {
         root = YAML::Load(text);
     } catch (YAML::ParserException const& e) {
-        throw ScenarioError(name + ":" + std::to_string(e.mark.line + 1) + ": not valid YAML: " + e.msg);
+        throw ScenarioError(name + ":" + std::to_string(e.mark.line + 1) +
+                            ": not valid YAML: " + e.msg);
     }
-    if (!root.IsDefined() || root.IsNull()) throw ScenarioError(name + ": the file is empty");
+    if (!root.IsDefined() || root.IsNull())
+        throw ScenarioError(name + ": the file is empty");
     // Only a text with a '*' can hold an alias; the others skip the second pass.
     if (text.find('*') != std::string::npos) {
         std::istringstream in(text);
@@ -379,27 +455,66 @@ VeldraScenario ScenarioParser::parseFile(std::string const& path) {
     if (std::filesystem::exists(path, ec) && !std::filesystem::is_regular_file(path, ec))
         throw ScenarioError(path + ": not a regular file");
     std::ifstream in(path, std::ios::binary);
-    if (!in) throw ScenarioError(path + ": cannot open the scenario file");
+    if (!in)
+        throw ScenarioError(path + ": cannot open the scenario file");
     std::ostringstream text;
     text << in.rdbuf();
     return parseText(text.str(), path);
 }
 
 std::vector<std::string> const& ScenarioParser::controllerFailable() {
-    static std::vector<std::string> const names = {
-        "getControllerSerialNumber", "getModel", "getManufacturer", "getFWVersion", "getCacheSerialNumber",
-        "getDriverName", "getDriverVersion", "getVDPorts", "getPCISlotNumber", "getControllerTemperature",
-        "getCacheModuleTemperature", "getSuperCapTemperature", "getCacheSizeInBytes", "getCacheSizeTotal",
-        "getSplitReadSize", "getSplitWriteSize", "getCacheParityReadErrors", "getCacheParityWriteErrors",
-        "getExtendedCacheSizeTotal", "getCacheReadPercent", "getCacheWritePercent", "getNumberOfSASPorts",
-        "getNumberOfSASInternalPorts", "getNumberOfSASExternalPorts", "getNumberOfSCSIBuses", "getPCIInfo",
-        "getPhysloc", "getControllerStatus", "getControllerOperationalStatus", "getControllerType",
-        "getBatteryStatus", "getCacheStatus", "getCacheState", "getCacheBoardPresent", "getCacheHasBattery",
-        "getCacheBackupPowerSource", "getCacheOperationalStatus", "getReadCacheStatus", "getRebuildPriority",
-        "getExpandPriority", "getDPGSupportedType", "getEncryptionStatus", "getEncryptionSelfTestStatus",
-        "getEncryptionCSPNvramStatus", "getEncryptFWLockStatus", "getEncryptCntlrPwdSetStatus",
-        "getEncryptCryptoOfficerPwdSetStatus", "getEncryptedCntlrPwdAvailStatus", "getEncryptLDCreationPolicy",
-        "getUnencryptLDCreationPolicy", "identifyAllPhysicalDisks", "identifyPhysicalDisks"};
+    static std::vector<std::string> const names = {"getControllerSerialNumber",
+                                                   "getModel",
+                                                   "getManufacturer",
+                                                   "getFWVersion",
+                                                   "getCacheSerialNumber",
+                                                   "getDriverName",
+                                                   "getDriverVersion",
+                                                   "getVDPorts",
+                                                   "getPCISlotNumber",
+                                                   "getControllerTemperature",
+                                                   "getCacheModuleTemperature",
+                                                   "getSuperCapTemperature",
+                                                   "getCacheSizeInBytes",
+                                                   "getCacheSizeTotal",
+                                                   "getSplitReadSize",
+                                                   "getSplitWriteSize",
+                                                   "getCacheParityReadErrors",
+                                                   "getCacheParityWriteErrors",
+                                                   "getExtendedCacheSizeTotal",
+                                                   "getCacheReadPercent",
+                                                   "getCacheWritePercent",
+                                                   "getNumberOfSASPorts",
+                                                   "getNumberOfSASInternalPorts",
+                                                   "getNumberOfSASExternalPorts",
+                                                   "getNumberOfSCSIBuses",
+                                                   "getPCIInfo",
+                                                   "getPhysloc",
+                                                   "getControllerStatus",
+                                                   "getControllerOperationalStatus",
+                                                   "getControllerType",
+                                                   "getBatteryStatus",
+                                                   "getCacheStatus",
+                                                   "getCacheState",
+                                                   "getCacheBoardPresent",
+                                                   "getCacheHasBattery",
+                                                   "getCacheBackupPowerSource",
+                                                   "getCacheOperationalStatus",
+                                                   "getReadCacheStatus",
+                                                   "getRebuildPriority",
+                                                   "getExpandPriority",
+                                                   "getDPGSupportedType",
+                                                   "getEncryptionStatus",
+                                                   "getEncryptionSelfTestStatus",
+                                                   "getEncryptionCSPNvramStatus",
+                                                   "getEncryptFWLockStatus",
+                                                   "getEncryptCntlrPwdSetStatus",
+                                                   "getEncryptCryptoOfficerPwdSetStatus",
+                                                   "getEncryptedCntlrPwdAvailStatus",
+                                                   "getEncryptLDCreationPolicy",
+                                                   "getUnencryptLDCreationPolicy",
+                                                   "identifyAllPhysicalDisks",
+                                                   "identifyPhysicalDisks"};
     return names;
 }
 
@@ -416,8 +531,8 @@ std::vector<std::string> const& ScenarioParser::logicalDiskFailable() {
 std::vector<std::string> const& ScenarioParser::controllerKeys() {
     static std::vector<std::string> const keys = [] {
         std::vector<std::string> k = {VELDRA_CONTROLLER_FIELDS(VELDRA_FIELD_NAME)};
-        for (char const* extra : {"pciInfo", "physloc", "address", "fail", "throw", "enclosures", "physicalDisks",
-                                  "logicalDisks", "pulled"})
+        for (char const* extra : {"pciInfo", "physloc", "address", "fail", "throw", "enclosures",
+                                  "physicalDisks", "logicalDisks", "pulled"})
             k.push_back(extra);
         return k;
     }();
@@ -427,7 +542,8 @@ std::vector<std::string> const& ScenarioParser::controllerKeys() {
 std::vector<std::string> const& ScenarioParser::physicalDiskKeys() {
     static std::vector<std::string> const keys = [] {
         std::vector<std::string> k = {VELDRA_PHYSICAL_DISK_FIELDS(VELDRA_FIELD_NAME)};
-        for (char const* extra : {"paths", "statistics", "fail"}) k.push_back(extra);
+        for (char const* extra : {"paths", "statistics", "fail"})
+            k.push_back(extra);
         return k;
     }();
     return keys;
@@ -436,7 +552,8 @@ std::vector<std::string> const& ScenarioParser::physicalDiskKeys() {
 std::vector<std::string> const& ScenarioParser::logicalDiskKeys() {
     static std::vector<std::string> const keys = [] {
         std::vector<std::string> k = {VELDRA_LOGICAL_DISK_FIELDS(VELDRA_FIELD_NAME)};
-        for (char const* extra : {"spareAvailable", "replaced", "fail"}) k.push_back(extra);
+        for (char const* extra : {"spareAvailable", "replaced", "fail"})
+            k.push_back(extra);
         return k;
     }();
     return keys;
@@ -445,7 +562,8 @@ std::vector<std::string> const& ScenarioParser::logicalDiskKeys() {
 std::vector<std::string> const& ScenarioParser::enclosureKeys() {
     static std::vector<std::string> const keys = [] {
         std::vector<std::string> k = {VELDRA_ENCLOSURE_FIELDS(VELDRA_FIELD_NAME)};
-        for (char const* extra : {"overallStatus", "paths"}) k.push_back(extra);
+        for (char const* extra : {"overallStatus", "paths"})
+            k.push_back(extra);
         return k;
     }();
     return keys;

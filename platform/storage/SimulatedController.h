@@ -25,7 +25,8 @@ public:
     u32 getPossibleSignificantDiskVectorChangeCount() override;
 
 private:
-    VeldraControllerScenario const& _state(std::shared_ptr<VeldraScenario const> const& scenario) const;
+    VeldraControllerScenario const&
+    _state(std::shared_ptr<VeldraScenario const> const& scenario) const;
     int _recordLocate(char const* operation, std::string const& what, u32 duration);
 
     std::shared_ptr<ScenarioStore> _store;

@@ -11,7 +11,9 @@ VeldraController::VeldraController()
 
 VeldraController::~VeldraController() = default;
 
-void VeldraController::getLastVDData(VeldraControllerData& out) { out = *shareLastVDData(); }
+void VeldraController::getLastVDData(VeldraControllerData& out) {
+    out = *shareLastVDData();
+}
 
 void VeldraController::setLastVDData(VeldraControllerData const& data) {
     auto stored = std::make_shared<VeldraControllerData const>(data);
@@ -19,7 +21,9 @@ void VeldraController::setLastVDData(VeldraControllerData const& data) {
     _lastData.swap(stored);
 }
 
-std::vector<VeldraEnclosure> VeldraController::getLastAllEnclosures() { return *shareLastAllEnclosures(); }
+std::vector<VeldraEnclosure> VeldraController::getLastAllEnclosures() {
+    return *shareLastAllEnclosures();
+}
 
 void VeldraController::setLastAllEnclosures(std::vector<VeldraEnclosure>& enclosures) {
     auto stored = std::make_shared<std::vector<VeldraEnclosure> const>(enclosures);
@@ -27,16 +31,20 @@ void VeldraController::setLastAllEnclosures(std::vector<VeldraEnclosure>& enclos
     _lastEnclosures.swap(stored);
 }
 
-std::vector<VeldraPhysicalDisk> VeldraController::getLastAllPhysicalDisks() { return *shareLastAllPhysicalDisks(); }
+std::vector<VeldraPhysicalDisk> VeldraController::getLastAllPhysicalDisks() {
+    return *shareLastAllPhysicalDisks();
+}
 
 void VeldraController::setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& disks) {
     auto stored = std::make_shared<std::vector<VeldraPhysicalDisk> const>(disks);
     auto index = std::make_shared<std::unordered_map<std::string, std::size_t>>();
     for (std::size_t i = 0; i < stored->size(); ++i) {
         std::string serial = (*stored)[i].getSerialNumber();
-        if (!serial.empty()) index->emplace(std::move(serial), i);
+        if (!serial.empty())
+            index->emplace(std::move(serial), i);
     }
-    std::shared_ptr<std::unordered_map<std::string, std::size_t> const> storedIndex = std::move(index);
+    std::shared_ptr<std::unordered_map<std::string, std::size_t> const> storedIndex =
+        std::move(index);
     std::lock_guard<std::mutex> lock(_snapshotMutex);
     _lastPhysicalDisks.swap(stored);
     _lastDiskBySerial.swap(storedIndex);
@@ -45,12 +53,13 @@ void VeldraController::setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& 
 std::optional<VeldraLogicalDisk> VeldraController::findLastLogicalDisk(std::string const& serial) {
     auto const logicals = shareLastLogicalDisks();
     int const at = findLogicalDiskInVector(serial, *logicals);
-    if (at < 0) return std::nullopt;
+    if (at < 0)
+        return std::nullopt;
     return (*logicals)[static_cast<std::size_t>(at)];
 }
 
-std::optional<VeldraPhysicalDisk> VeldraController::findLastPhysicalDisk(std::string const& serial,
-                                                                         int enclosureBoxNumber, int bay) {
+std::optional<VeldraPhysicalDisk>
+VeldraController::findLastPhysicalDisk(std::string const& serial, int enclosureBoxNumber, int bay) {
     std::shared_ptr<std::vector<VeldraPhysicalDisk> const> disks;
     std::shared_ptr<std::unordered_map<std::string, std::size_t> const> bySerial;
     {
@@ -61,15 +70,19 @@ std::optional<VeldraPhysicalDisk> VeldraController::findLastPhysicalDisk(std::st
     if (serial.empty()) {
         // Disks without a serial number are few; they are found by place.
         int const at = findPhysicalDiskInVector(serial, enclosureBoxNumber, bay, *disks);
-        if (at < 0) return std::nullopt;
+        if (at < 0)
+            return std::nullopt;
         return (*disks)[static_cast<std::size_t>(at)];
     }
     auto found = bySerial->find(serial);
-    if (found == bySerial->end()) return std::nullopt;
+    if (found == bySerial->end())
+        return std::nullopt;
     return (*disks)[found->second];
 }
 
-void VeldraController::getLastLogicalDisks(std::vector<VeldraLogicalDisk>& out) { out = *shareLastLogicalDisks(); }
+void VeldraController::getLastLogicalDisks(std::vector<VeldraLogicalDisk>& out) {
+    out = *shareLastLogicalDisks();
+}
 
 void VeldraController::setLastLogicalDisks(std::vector<VeldraLogicalDisk> disks) {
     auto stored = std::make_shared<std::vector<VeldraLogicalDisk> const>(std::move(disks));
@@ -87,7 +100,8 @@ std::shared_ptr<std::vector<VeldraEnclosure> const> VeldraController::shareLastA
     return _lastEnclosures;
 }
 
-std::shared_ptr<std::vector<VeldraPhysicalDisk> const> VeldraController::shareLastAllPhysicalDisks() {
+std::shared_ptr<std::vector<VeldraPhysicalDisk> const>
+VeldraController::shareLastAllPhysicalDisks() {
     std::lock_guard<std::mutex> lock(_snapshotMutex);
     return _lastPhysicalDisks;
 }

@@ -61,15 +61,17 @@ public:
     // stored snapshot, through an index made when the snapshot was stored.
     // The stored logical disk with this serial number, without copying the rest.
     std::optional<VeldraLogicalDisk> findLastLogicalDisk(std::string const& serial);
-    std::optional<VeldraPhysicalDisk> findLastPhysicalDisk(std::string const& serial, int enclosureBoxNumber,
-                                                           int bay);
+    std::optional<VeldraPhysicalDisk> findLastPhysicalDisk(std::string const& serial,
+                                                           int enclosureBoxNumber, int bay);
 
     u32 getConsumedDiskVectorCount() const { return _consumedDiskVector; }
     void setConsumedDiskVectorCount(u32 value) { _consumedDiskVector = value; }
     u32 getConsumedControllerDataCount() const { return _consumedControllerData; }
     void setConsumedControllerDataCount(u32 value) { _consumedControllerData = value; }
     u32 getConsumedPossibleSignificantDiskVectorChangeCount() const { return _consumedSignificant; }
-    void setConsumedPossibleSignificantDiskVectorChangeCount(u32 value) { _consumedSignificant = value; }
+    void setConsumedPossibleSignificantDiskVectorChangeCount(u32 value) {
+        _consumedSignificant = value;
+    }
 
 private:
     // The worker writes snapshots under the provider's lock, but the view

@@ -20,17 +20,19 @@ bool VeldraControllerData::_failing(char const* operation) const {
     return !_info->fail.empty() && _info->fail.count(operation) != 0;
 }
 
-#define VD_PLAIN_GETTER(name, Type, member)                     \
-    int VeldraControllerData::name(Type& out) const {           \
-        if (_failing(#name)) return 1;                          \
-        out = _info->member;                                    \
-        return 0;                                               \
+#define VD_PLAIN_GETTER(name, Type, member)                                                        \
+    int VeldraControllerData::name(Type& out) const {                                              \
+        if (_failing(#name))                                                                       \
+            return 1;                                                                              \
+        out = _info->member;                                                                       \
+        return 0;                                                                                  \
     }
-#define VD_ENUM_GETTER(name, Type, member)                      \
-    int VeldraControllerData::name(Type& out) const {           \
-        if (_failing(#name)) return 1;                          \
-        out = static_cast<Type>(_info->member);                 \
-        return 0;                                               \
+#define VD_ENUM_GETTER(name, Type, member)                                                         \
+    int VeldraControllerData::name(Type& out) const {                                              \
+        if (_failing(#name))                                                                       \
+            return 1;                                                                              \
+        out = static_cast<Type>(_info->member);                                                    \
+        return 0;                                                                                  \
     }
 
 VD_PLAIN_GETTER(getControllerSerialNumber, std::string, serialNumber)
@@ -79,36 +81,51 @@ VD_ENUM_GETTER(getEncryptFWLockStatus, EncryptFWLockStatusEnum, encryptFWLockSta
 VD_ENUM_GETTER(getEncryptCntlrPwdSetStatus, EncryptCntlrPwdSetStatusEnum, encryptCntlrPwdSetStatus)
 VD_ENUM_GETTER(getEncryptCryptoOfficerPwdSetStatus, EncryptCryptoOfficerPwdSetStatusEnum,
                encryptCryptoOfficerPwdSetStatus)
-VD_ENUM_GETTER(getEncryptedCntlrPwdAvailStatus, EncryptedCntlrPwdAvailStatusEnum, encryptedCntlrPwdAvailStatus)
+VD_ENUM_GETTER(getEncryptedCntlrPwdAvailStatus, EncryptedCntlrPwdAvailStatusEnum,
+               encryptedCntlrPwdAvailStatus)
 VD_ENUM_GETTER(getEncryptLDCreationPolicy, EncryptLDCreationPolicyEnum, encryptLDCreationPolicy)
-VD_ENUM_GETTER(getUnencryptLDCreationPolicy, UnencryptLDCreationPolicyEnum, unencryptLDCreationPolicy)
+VD_ENUM_GETTER(getUnencryptLDCreationPolicy, UnencryptLDCreationPolicyEnum,
+               unencryptLDCreationPolicy)
 
 #undef VD_PLAIN_GETTER
 #undef VD_ENUM_GETTER
 
 int VeldraControllerData::getPhysloc(physloc_t& out) const {
-    if (_failing("getPhysloc")) return 1;
+    if (_failing("getPhysloc"))
+        return 1;
     std::memcpy(out.bytes, _info->physloc.data(), sizeof(out.bytes));
     return 0;
 }
 
 int VeldraControllerData::getEncryptionStatus(EncryptionStatusEnum* out) const {
-    if (out == nullptr || _failing("getEncryptionStatus")) return 1;
+    if (out == nullptr || _failing("getEncryptionStatus"))
+        return 1;
     *out = static_cast<EncryptionStatusEnum>(_info->encryptionStatus);
     return 0;
 }
 
-VeldraControllerAddress VeldraControllerData::getAddress() const { return _info->address; }
+VeldraControllerAddress VeldraControllerData::getAddress() const {
+    return _info->address;
+}
 
-bool VeldraControllerData::checkHBAModeSupported() const { return _info->hbaModeSupported; }
-bool VeldraControllerData::checkHBAModeEnabled() const { return _info->hbaModeEnabled; }
-bool VeldraControllerData::checkSanitizeEraseSupported() const { return _info->sanitizeEraseSupported; }
-bool VeldraControllerData::checkSplitCacheSupported() const { return _info->splitCacheSupported; }
+bool VeldraControllerData::checkHBAModeSupported() const {
+    return _info->hbaModeSupported;
+}
+bool VeldraControllerData::checkHBAModeEnabled() const {
+    return _info->hbaModeEnabled;
+}
+bool VeldraControllerData::checkSanitizeEraseSupported() const {
+    return _info->sanitizeEraseSupported;
+}
+bool VeldraControllerData::checkSplitCacheSupported() const {
+    return _info->splitCacheSupported;
+}
 
 u32 VeldraControllerData::compare(VeldraControllerData const& previous) const {
     VeldraControllerInfo const& now = *_info;
     VeldraControllerInfo const& was = *previous._info;
-    if (_info.shares(previous._info) || now == was) return 0;
+    if (_info.shares(previous._info) || now == was)
+        return 0;
 
     // Each named item compares what its getter would say, failure included,
     // and is then taken out of the remainder; whatever still differs
@@ -118,12 +135,16 @@ u32 VeldraControllerData::compare(VeldraControllerData const& previous) const {
     auto item = [&](auto member, char const* getter, u32 bit) {
         bool failNow = now.fail.count(getter) != 0;
         bool failWas = was.fail.count(getter) != 0;
-        if (failNow != failWas || (!failNow && now.*member != was.*member)) mask |= bit;
+        if (failNow != failWas || (!failNow && now.*member != was.*member))
+            mask |= bit;
         rest.*member = was.*member;
-        if (failWas) rest.fail.insert(getter);
-        else rest.fail.erase(getter);
+        if (failWas)
+            rest.fail.insert(getter);
+        else
+            rest.fail.erase(getter);
     };
-    item(&VeldraControllerInfo::operationalStatus, "getControllerOperationalStatus", changeOperationalStatus);
+    item(&VeldraControllerInfo::operationalStatus, "getControllerOperationalStatus",
+         changeOperationalStatus);
     item(&VeldraControllerInfo::fwVersion, "getFWVersion", changeFirmware);
     item(&VeldraControllerInfo::manufacturer, "getManufacturer", changeManufacturer);
     item(&VeldraControllerInfo::model, "getModel", changeModel);
@@ -132,17 +153,22 @@ u32 VeldraControllerData::compare(VeldraControllerData const& previous) const {
     item(&VeldraControllerInfo::cacheBoardPresent, "getCacheBoardPresent", changeCacheBoardPresent);
     item(&VeldraControllerInfo::cacheHasBattery, "getCacheHasBattery", changeCacheHasBattery);
     item(&VeldraControllerInfo::cacheState, "getCacheState", changeCacheState);
-    item(&VeldraControllerInfo::cacheParityReadErrors, "getCacheParityReadErrors", changeCacheParityReadErrors);
+    item(&VeldraControllerInfo::cacheParityReadErrors, "getCacheParityReadErrors",
+         changeCacheParityReadErrors);
     item(&VeldraControllerInfo::cacheParityWriteErrors, "getCacheParityWriteErrors",
          changeCacheParityWriteErrors);
     item(&VeldraControllerInfo::rebuildPriority, "getRebuildPriority", changeRebuildPriority);
     item(&VeldraControllerInfo::expandPriority, "getExpandPriority", changeExpandPriority);
     item(&VeldraControllerInfo::numberOfSASPorts, "getNumberOfSASPorts", changeNumberOfSASPorts);
     item(&VeldraControllerInfo::cacheStatus, "getCacheStatus", changeCacheStatusOrSCSIBuses);
-    item(&VeldraControllerInfo::numberOfSCSIBuses, "getNumberOfSCSIBuses", changeCacheStatusOrSCSIBuses);
-    item(&VeldraControllerInfo::encryptionSelfTestStatus, "getEncryptionSelfTestStatus", changeEncryptionSelfTest);
-    item(&VeldraControllerInfo::encryptionCSPNvramStatus, "getEncryptionCSPNvramStatus", changeEncryptionCSPNvram);
-    if (!(rest == was)) mask |= changeUnexpected;
+    item(&VeldraControllerInfo::numberOfSCSIBuses, "getNumberOfSCSIBuses",
+         changeCacheStatusOrSCSIBuses);
+    item(&VeldraControllerInfo::encryptionSelfTestStatus, "getEncryptionSelfTestStatus",
+         changeEncryptionSelfTest);
+    item(&VeldraControllerInfo::encryptionCSPNvramStatus, "getEncryptionCSPNvramStatus",
+         changeEncryptionCSPNvram);
+    if (!(rest == was))
+        mask |= changeUnexpected;
     return mask;
 }
 
@@ -150,88 +176,121 @@ namespace {
 char const* const unknownText = "Unknown value";
 }
 
-char const* VeldraControllerData::operationalStatusToStr(controllerOperationalStatusEnum const& value) const {
+char const*
+VeldraControllerData::operationalStatusToStr(controllerOperationalStatusEnum const& value) const {
     switch (value) {
-    case CONTROLLER_OP_STATUS_UNKNOWN: return "Unknown";
-    case CONTROLLER_OP_STATUS_OK: return "OK";
-    case CONTROLLER_OP_STATUS_DEGRADED: return "Degraded";
-    case CONTROLLER_OP_STATUS_FAILED: return "Failed";
-    case CONTROLLER_OP_STATUS_NOT_REPORTED: return "Not Reported";
+    case CONTROLLER_OP_STATUS_UNKNOWN:
+        return "Unknown";
+    case CONTROLLER_OP_STATUS_OK:
+        return "OK";
+    case CONTROLLER_OP_STATUS_DEGRADED:
+        return "Degraded";
+    case CONTROLLER_OP_STATUS_FAILED:
+        return "Failed";
+    case CONTROLLER_OP_STATUS_NOT_REPORTED:
+        return "Not Reported";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::dpgToStr(DPGSupportedTypeEnum const& value) const {
     switch (value) {
-    case DPG_NOT_SUPPORTED: return "Not Supported";
-    case DPG_SUPPORTED: return "Supported";
-    case DPG_SUPPORTED_ENABLED: return "Supported and Enabled";
+    case DPG_NOT_SUPPORTED:
+        return "Not Supported";
+    case DPG_SUPPORTED:
+        return "Supported";
+    case DPG_SUPPORTED_ENABLED:
+        return "Supported and Enabled";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::batteryStatusToStr(batteryStatusEnum& value) const {
     switch (value) {
-    case BATTERY_NOT_PRESENT: return "Not Present";
-    case BATTERY_OK: return "OK";
-    case BATTERY_FAILED: return "Failed";
-    case BATTERY_CHARGING: return "Charging";
+    case BATTERY_NOT_PRESENT:
+        return "Not Present";
+    case BATTERY_OK:
+        return "OK";
+    case BATTERY_FAILED:
+        return "Failed";
+    case BATTERY_CHARGING:
+        return "Charging";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::cacheStatusToStr(cacheStatusEnum& value) const {
     switch (value) {
-    case CACHE_STATUS_NOT_CONFIGURED: return "Not Configured";
-    case CACHE_STATUS_OK: return "OK";
-    case CACHE_STATUS_TEMPORARILY_DISABLED: return "Temporarily Disabled";
-    case CACHE_STATUS_PERMANENTLY_DISABLED: return "Permanently Disabled";
-    case CACHE_STATUS_FAILED: return "Failed";
+    case CACHE_STATUS_NOT_CONFIGURED:
+        return "Not Configured";
+    case CACHE_STATUS_OK:
+        return "OK";
+    case CACHE_STATUS_TEMPORARILY_DISABLED:
+        return "Temporarily Disabled";
+    case CACHE_STATUS_PERMANENTLY_DISABLED:
+        return "Permanently Disabled";
+    case CACHE_STATUS_FAILED:
+        return "Failed";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::cacheStateToStr(cacheStateEnum& value) const {
     switch (value) {
-    case CACHE_STATE_NOT_CONFIGURED: return "Not Configured";
-    case CACHE_STATE_ENABLED: return "Enabled";
-    case CACHE_STATE_DISABLED: return "Disabled";
-    case CACHE_STATE_WRITE_THROUGH: return "Write-Through";
+    case CACHE_STATE_NOT_CONFIGURED:
+        return "Not Configured";
+    case CACHE_STATE_ENABLED:
+        return "Enabled";
+    case CACHE_STATE_DISABLED:
+        return "Disabled";
+    case CACHE_STATE_WRITE_THROUGH:
+        return "Write-Through";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::cacheBoardPresentToStr(cacheBoardPresentEnum& value) const {
     switch (value) {
-    case CACHE_BOARD_ABSENT: return "Absent";
-    case CACHE_BOARD_PRESENT: return "Present";
+    case CACHE_BOARD_ABSENT:
+        return "Absent";
+    case CACHE_BOARD_PRESENT:
+        return "Present";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::cacheHasBatteryToStr(cacheHasBatteryEnum& value) const {
     switch (value) {
-    case CACHE_BATTERY_ABSENT: return "No Battery";
-    case CACHE_BATTERY_PRESENT: return "Battery Present";
+    case CACHE_BATTERY_ABSENT:
+        return "No Battery";
+    case CACHE_BATTERY_PRESENT:
+        return "Battery Present";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::rebuildPriorityToStr(rebuildPriorityEnum& value) const {
     switch (value) {
-    case REBUILD_PRIORITY_LOW: return "Low";
-    case REBUILD_PRIORITY_MEDIUM: return "Medium";
-    case REBUILD_PRIORITY_HIGH: return "High";
-    case REBUILD_PRIORITY_RAPID: return "Rapid";
+    case REBUILD_PRIORITY_LOW:
+        return "Low";
+    case REBUILD_PRIORITY_MEDIUM:
+        return "Medium";
+    case REBUILD_PRIORITY_HIGH:
+        return "High";
+    case REBUILD_PRIORITY_RAPID:
+        return "Rapid";
     }
     return unknownText;
 }
 
 char const* VeldraControllerData::expandPriorityToStr(expandPriorityEnum& value) const {
     switch (value) {
-    case EXPAND_PRIORITY_LOW: return "Low";
-    case EXPAND_PRIORITY_MEDIUM: return "Medium";
-    case EXPAND_PRIORITY_HIGH: return "High";
+    case EXPAND_PRIORITY_LOW:
+        return "Low";
+    case EXPAND_PRIORITY_MEDIUM:
+        return "Medium";
+    case EXPAND_PRIORITY_HIGH:
+        return "High";
     }
     return unknownText;
 }

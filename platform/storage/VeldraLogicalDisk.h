@@ -53,7 +53,8 @@ public:
 
     // Those of `all` that are members of this volume, spares included, in the
     // order of `all`.
-    std::vector<VeldraPhysicalDisk> logicalToAllPhysicals(std::vector<VeldraPhysicalDisk>& all) const;
+    std::vector<VeldraPhysicalDisk>
+    logicalToAllPhysicals(std::vector<VeldraPhysicalDisk>& all) const;
     std::vector<VeldraPhysicalDisk> getLastAllPhysicalDisks() const;
     void setLastAllPhysicalDisks(std::vector<VeldraPhysicalDisk>& disks);
 

@@ -38,7 +38,8 @@ public:
     VeldraPhysicalDiskStatusEnum getStatus() const;
     char const* diskStatusToStr(VeldraPhysicalDiskStatusEnum const& value) const;
     VeldraPhysicalDiskLastFailureReasonEnum getLastFailureReason() const;
-    char const* diskLastFailureReasonToStr(VeldraPhysicalDiskLastFailureReasonEnum const& value) const;
+    char const*
+    diskLastFailureReasonToStr(VeldraPhysicalDiskLastFailureReasonEnum const& value) const;
     VeldraPhysicalDiskSSDWearStatusEnum getSSDWearStatus() const;
     char const* SSDWearStatusToStr(VeldraPhysicalDiskSSDWearStatusEnum const& value) const;
     int getEncryptionStatus(EncryptionPDStatusEnum& out) const;

@@ -17,13 +17,16 @@ std::vector<VeldraLogicalDisk> findNewVDLogicalDisks(std::vector<VeldraLogicalDi
                                                      std::vector<VeldraLogicalDisk>& current);
 std::vector<VeldraLogicalDisk> findRemovedVDLogicalDisks(std::vector<VeldraLogicalDisk>& previous,
                                                          std::vector<VeldraLogicalDisk>& current);
-void findNewVDPhysicalDisks(std::vector<VeldraPhysicalDisk>& previous, std::vector<VeldraPhysicalDisk>& current,
+void findNewVDPhysicalDisks(std::vector<VeldraPhysicalDisk>& previous,
+                            std::vector<VeldraPhysicalDisk>& current,
                             std::vector<VeldraPhysicalDisk>& out);
-void findRemovedVDPhysicalDisks(std::vector<VeldraPhysicalDisk>& previous, std::vector<VeldraPhysicalDisk>& current,
+void findRemovedVDPhysicalDisks(std::vector<VeldraPhysicalDisk>& previous,
+                                std::vector<VeldraPhysicalDisk>& current,
                                 std::vector<VeldraPhysicalDisk>& out);
 // Routes of current that previous lacks (same port and box). Status is not identity.
 void findNewVDPhysicalPaths(std::vector<VeldraPhysicalPath> const& previous,
-                            std::vector<VeldraPhysicalPath> const& current, std::vector<VeldraPhysicalPath>& out);
+                            std::vector<VeldraPhysicalPath> const& current,
+                            std::vector<VeldraPhysicalPath>& out);
 
 // Index of the disk with this serial number (or, for an empty serial, the
 // serial-less disk at this enclosure and bay); -1 when there is none.

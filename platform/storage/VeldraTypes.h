@@ -131,7 +131,11 @@ enum EncryptFWLockStatusEnum : u32 { FW_UNLOCKED = 0, FW_LOCKED = 1 };
 enum EncryptCntlrPwdSetStatusEnum : u32 { CNTLR_PWD_NOT_SET = 0, CNTLR_PWD_SET = 1 };
 enum EncryptCryptoOfficerPwdSetStatusEnum : u32 { OFFICER_PWD_NOT_SET = 0, OFFICER_PWD_SET = 1 };
 enum EncryptedCntlrPwdAvailStatusEnum : u32 { CNTLR_PWD_MISSING = 0, CNTLR_PWD_AVAILABLE = 1 };
-enum EncryptLDCreationPolicyEnum : u32 { ENCRYPTED_LD_ALLOWED = 0, ENCRYPTED_LD_REQUIRED = 1, ENCRYPTED_LD_FORBIDDEN = 2 };
+enum EncryptLDCreationPolicyEnum : u32 {
+    ENCRYPTED_LD_ALLOWED = 0,
+    ENCRYPTED_LD_REQUIRED = 1,
+    ENCRYPTED_LD_FORBIDDEN = 2
+};
 enum UnencryptLDCreationPolicyEnum : u32 { PLAIN_LD_ALLOWED = 0, PLAIN_LD_FORBIDDEN = 1 };
 
 // ---- physical disk -------------------------------------------------------
@@ -318,4 +322,5 @@ struct VeldraDiskStatistics {
     u64 serviceHours = notAvailable;
     bool operator==(VeldraDiskStatistics const&) const = default;
 };
-static_assert(sizeof(VeldraDiskStatistics) == 23 * sizeof(u64), "the statistics record holds 23 counters");
+static_assert(sizeof(VeldraDiskStatistics) == 23 * sizeof(u64),
+              "the statistics record holds 23 counters");

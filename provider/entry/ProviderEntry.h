@@ -89,7 +89,7 @@ MI* createMI(char const* entryPoint, MI* (Interface::*accessor)(), char const* n
 // and accessor to createMI with `findFunction(broker, context, name)`. The
 // status argument is not read: a failure is told by the null result and the log.
 #define VELDRA_PROVIDER_ENTRY_POINT(Interface, MI, accessor, findFunction)                         \
-    extern "C" __attribute__((visibility("default"))) CMPI##MI* _Generic_Create_##MI(                    \
+    extern "C" __attribute__((visibility("default"))) CMPI##MI* _Generic_Create_##MI(              \
         CMPIBroker const* broker, CMPIContext const* context, char const* name, CMPIStatus*) {     \
         return QLN::ProviderEntry::createMI<CmpiCpp::Interface>(                                   \
             "_Generic_Create_" #MI, &CmpiCpp::Interface::accessor, name,                           \

@@ -47,9 +47,10 @@ bool isPhyslocNull(physloc_t const& location) {
 std::string removeWhitespace(std::string text) {
     // Runs for every disk key made; a string stream here cost more than the
     // rest of building the key.
-    text.erase(std::remove_if(text.begin(), text.end(),
-                              [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }),
-               text.end());
+    text.erase(
+        std::remove_if(text.begin(), text.end(),
+                       [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }),
+        text.end());
     return text;
 }
 

@@ -15,18 +15,21 @@
 
 CimdProcess::CimdProcess(std::vector<std::string> args) {
     char pattern[] = "/tmp/cimd-test-XXXXXX";
-    if (!mkdtemp(pattern)) throw std::runtime_error("mkdtemp failed");
+    if (!mkdtemp(pattern))
+        throw std::runtime_error("mkdtemp failed");
     _dir = pattern;
     std::string portFile = _dir + "/port";
     std::string logFile = _dir + "/stderr.log";
-    args.insert(args.begin(), {std::string(VELDRA_BIN_DIR) + "/veldra-cimd", "--port", "0", "--port-file", portFile});
+    args.insert(args.begin(), {std::string(VELDRA_BIN_DIR) + "/veldra-cimd", "--port", "0",
+                               "--port-file", portFile});
     _pid = fork();
     if (_pid == 0) {
         FILE* log = std::freopen(logFile.c_str(), "w", stderr);
         (void)log;
         std::freopen("/dev/null", "w", stdout);
         std::vector<char*> argv;
-        for (auto& a : args) argv.push_back(a.data());
+        for (auto& a : args)
+            argv.push_back(a.data());
         argv.push_back(nullptr);
         execv(argv[0], argv.data());
         _exit(127);
@@ -34,7 +37,8 @@ CimdProcess::CimdProcess(std::vector<std::string> args) {
     // Start-up reads MOF and loads providers; give it a generous while.
     for (int i = 0; i < 300; ++i) {
         std::ifstream in(portFile);
-        if (in >> _port && _port > 0) return;
+        if (in >> _port && _port > 0)
+            return;
         int status = 0;
         if (waitpid(_pid, &status, WNOHANG) == _pid) {
             _pid = -1;
@@ -53,13 +57,15 @@ CimdProcess::~CimdProcess() {
 }
 
 bool CimdProcess::running() const {
-    if (_pid <= 0) return false;
+    if (_pid <= 0)
+        return false;
     int status = 0;
     return waitpid(_pid, &status, WNOHANG) == 0;
 }
 
 int CimdProcess::stop(int signal) {
-    if (_pid <= 0) return _exitStatus;
+    if (_pid <= 0)
+        return _exitStatus;
     kill(_pid, signal);
     int status = 0;
     for (int i = 0; i < 200; ++i) {
@@ -84,13 +90,15 @@ std::string CimdProcess::log() const {
     return text.str();
 }
 
-CommandResult runCommand(const std::string& commandLine) {
+CommandResult runCommand(std::string const& commandLine) {
     CommandResult result;
     FILE* pipe = popen((commandLine + " 2>&1").c_str(), "r");
-    if (!pipe) return result;
+    if (!pipe)
+        return result;
     std::array<char, 4096> buffer{};
     size_t n = 0;
-    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0) result.out.append(buffer.data(), n);
+    while ((n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0)
+        result.out.append(buffer.data(), n);
     int status = pclose(pipe);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return result;

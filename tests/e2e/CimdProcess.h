@@ -26,8 +26,8 @@ private:
 
 struct CommandResult {
     int exitCode = -1;
-    std::string out;  // stdout and stderr together
+    std::string out; // stdout and stderr together
 };
 
 // Runs a command line through /bin/sh and collects its output.
-CommandResult runCommand(const std::string& commandLine);
+CommandResult runCommand(std::string const& commandLine);

@@ -9,13 +9,15 @@
 // Sends `request` and reads until the server closes or `timeoutSeconds` pass
 // without data. With `second`, that is sent once the first answer's headers
 // are in, as a client retrying on one connection does.
-std::string rawExchange(int port, const std::string& request, int timeoutSeconds = 10,
-                        const std::string& second = std::string());
+std::string rawExchange(int port, std::string const& request, int timeoutSeconds = 10,
+                        std::string const& second = std::string());
 
 // An intrinsic method call on root/mwq with the given parameters.
-std::string body(const std::string& method, const std::string& params, const std::string& messageId = "9");
+std::string body(std::string const& method, std::string const& params,
+                 std::string const& messageId = "9");
 
 // A POST of `content` with the CIM headers; "Connection: close" unless
 // `extraHeaders` says otherwise.
-std::string post(const std::string& method, const std::string& content, const std::string& extraHeaders = "",
+std::string post(std::string const& method, std::string const& content,
+                 std::string const& extraHeaders = "",
                  std::optional<size_t> contentLength = std::nullopt);

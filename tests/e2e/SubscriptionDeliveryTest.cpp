@@ -38,7 +38,7 @@ int freePort() {
     return ntohs(addr.sin_port);
 }
 
-std::string readFile(const fs::path& path) {
+std::string readFile(fs::path const& path) {
     std::ifstream in(path);
     std::ostringstream text;
     text << in.rdbuf();
@@ -53,8 +53,10 @@ public:
         if (_pid == 0) {
             std::freopen(_output.c_str(), "a", stdout);
             std::freopen("/dev/null", "w", stderr);
-            std::string bin = std::string(VELDRA_BIN_DIR) + "/veldra-listen", p = std::to_string(port);
-            execl(bin.c_str(), bin.c_str(), "--port", p.c_str(), "--json", static_cast<char*>(nullptr));
+            std::string bin = std::string(VELDRA_BIN_DIR) + "/veldra-listen",
+                        p = std::to_string(port);
+            execl(bin.c_str(), bin.c_str(), "--port", p.c_str(), "--json",
+                  static_cast<char*>(nullptr));
             _exit(127);
         }
     }
@@ -63,14 +65,16 @@ public:
         waitpid(_pid, nullptr, 0);
     }
     // Lines naming `what`, waiting up to `bound` for at least `count` of them.
-    int lines(const std::string& what, int count = 1, std::chrono::seconds bound = 30s) const {
+    int lines(std::string const& what, int count = 1, std::chrono::seconds bound = 30s) const {
         auto until = std::chrono::steady_clock::now() + bound;
         int n = 0;
         do {
             std::istringstream in(readFile(_output));
             n = 0;
-            for (std::string line; std::getline(in, line);) n += line.find(what) != std::string::npos;
-            if (n >= count) break;
+            for (std::string line; std::getline(in, line);)
+                n += line.find(what) != std::string::npos;
+            if (n >= count)
+                break;
             std::this_thread::sleep_for(100ms);
         } while (std::chrono::steady_clock::now() < until);
         return n;
@@ -95,11 +99,11 @@ protected:
 
     std::unique_ptr<CimdProcess> start() {
         return std::make_unique<CimdProcess>(std::vector<std::string>{
-            "--scenario", VELDRA_DATA_DIR "/scenarios/demo.yaml", "--state-file", (dir / "state.json").string(),
-            "--delivery-pause-ms", "200"});
+            "--scenario", VELDRA_DATA_DIR "/scenarios/demo.yaml", "--state-file",
+            (dir / "state.json").string(), "--delivery-pause-ms", "200"});
     }
 
-    static std::string wbemcli(const std::string& args) {
+    static std::string wbemcli(std::string const& args) {
         CommandResult r = runCommand("wbemcli " + args);
         EXPECT_EQ(r.exitCode, 0) << args << "\n" << r.out;
         return r.out;
@@ -108,39 +112,59 @@ protected:
     // Filter and destination with wbemcli, the subscription with a raw request.
     static void subscribe(int cimd, int listener) {
         const std::string url = "'http://127.0.0.1:" + std::to_string(cimd) + "/root/interop:";
-        const std::string system = "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"here\",";
-        std::string filter = wbemcli("ci " + url + "CIM_IndicationFilter." + system +
-                                     "CreationClassName=\"CIM_IndicationFilter\",Name=\"f\"' "
-                                     "'Query=\"SELECT * FROM QLN_VeldraIndication\",QueryLanguage=\"WQL\","
-                                     "SourceNamespace=\"root/mwq\"'");
-        std::string destination = wbemcli("ci " + url + "CIM_ListenerDestinationCIMXML." + system +
-                                          "CreationClassName=\"CIM_ListenerDestinationCIMXML\",Name=\"d\"' "
-                                          "'Destination=\"http://127.0.0.1:" + std::to_string(listener) + "/\"'");
+        const std::string system =
+            "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"here\",";
+        std::string filter =
+            wbemcli("ci " + url + "CIM_IndicationFilter." + system +
+                    "CreationClassName=\"CIM_IndicationFilter\",Name=\"f\"' "
+                    "'Query=\"SELECT * FROM QLN_VeldraIndication\",QueryLanguage=\"WQL\","
+                    "SourceNamespace=\"root/mwq\"'");
+        std::string destination =
+            wbemcli("ci " + url + "CIM_ListenerDestinationCIMXML." + system +
+                    "CreationClassName=\"CIM_ListenerDestinationCIMXML\",Name=\"d\"' "
+                    "'Destination=\"http://127.0.0.1:" +
+                    std::to_string(listener) + "/\"'");
         std::smatch f, d;
         ASSERT_TRUE(std::regex_search(filter, f, std::regex("Name=\"([^\"]+)\"\\s*$"))) << filter;
-        ASSERT_TRUE(std::regex_search(destination, d, std::regex("Name=\"([^\"]+)\"\\s*$"))) << destination;
-        auto name = [](const char* cls, const std::string& n, const std::string& systemName) {
+        ASSERT_TRUE(std::regex_search(destination, d, std::regex("Name=\"([^\"]+)\"\\s*$")))
+            << destination;
+        auto name = [](char const* cls, std::string const& n, std::string const& systemName) {
             return std::string("<INSTANCENAME CLASSNAME=\"") + cls +
-                   "\"><KEYBINDING NAME=\"SystemCreationClassName\"><KEYVALUE>CIM_ComputerSystem</KEYVALUE></KEYBINDING>"
-                   "<KEYBINDING NAME=\"SystemName\"><KEYVALUE>" + systemName + "</KEYVALUE></KEYBINDING>"
-                   "<KEYBINDING NAME=\"CreationClassName\"><KEYVALUE>" + cls + "</KEYVALUE></KEYBINDING>"
-                   "<KEYBINDING NAME=\"Name\"><KEYVALUE>" + n + "</KEYVALUE></KEYBINDING></INSTANCENAME>";
+                   "\"><KEYBINDING "
+                   "NAME=\"SystemCreationClassName\"><KEYVALUE>CIM_ComputerSystem</KEYVALUE></"
+                   "KEYBINDING>"
+                   "<KEYBINDING NAME=\"SystemName\"><KEYVALUE>" +
+                   systemName +
+                   "</KEYVALUE></KEYBINDING>"
+                   "<KEYBINDING NAME=\"CreationClassName\"><KEYVALUE>" +
+                   cls +
+                   "</KEYVALUE></KEYBINDING>"
+                   "<KEYBINDING NAME=\"Name\"><KEYVALUE>" +
+                   n + "</KEYVALUE></KEYBINDING></INSTANCENAME>";
         };
         std::smatch s;
         std::regex_search(filter, s, std::regex("SystemName=\"([^\"]+)\""));
         const std::string host = s[1];
         std::string body =
-            "<?xml version=\"1.0\" encoding=\"utf-8\"?><CIM CIMVERSION=\"2.0\" DTDVERSION=\"2.0\"><MESSAGE ID=\"1\" "
-            "PROTOCOLVERSION=\"1.0\"><SIMPLEREQ><IMETHODCALL NAME=\"CreateInstance\"><LOCALNAMESPACEPATH>"
-            "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"interop\"/></LOCALNAMESPACEPATH><IPARAMVALUE NAME=\"NewInstance\">"
-            "<INSTANCE CLASSNAME=\"CIM_IndicationSubscription\"><PROPERTY.REFERENCE NAME=\"Filter\"><VALUE.REFERENCE>" +
+            "<?xml version=\"1.0\" encoding=\"utf-8\"?><CIM CIMVERSION=\"2.0\" "
+            "DTDVERSION=\"2.0\"><MESSAGE ID=\"1\" "
+            "PROTOCOLVERSION=\"1.0\"><SIMPLEREQ><IMETHODCALL "
+            "NAME=\"CreateInstance\"><LOCALNAMESPACEPATH>"
+            "<NAMESPACE NAME=\"root\"/><NAMESPACE "
+            "NAME=\"interop\"/></LOCALNAMESPACEPATH><IPARAMVALUE NAME=\"NewInstance\">"
+            "<INSTANCE CLASSNAME=\"CIM_IndicationSubscription\"><PROPERTY.REFERENCE "
+            "NAME=\"Filter\"><VALUE.REFERENCE>" +
             name("CIM_IndicationFilter", f[1], host) +
-            "</VALUE.REFERENCE></PROPERTY.REFERENCE><PROPERTY.REFERENCE NAME=\"Handler\"><VALUE.REFERENCE>" +
+            "</VALUE.REFERENCE></PROPERTY.REFERENCE><PROPERTY.REFERENCE "
+            "NAME=\"Handler\"><VALUE.REFERENCE>" +
             name("CIM_ListenerDestinationCIMXML", d[1], host) +
-            "</VALUE.REFERENCE></PROPERTY.REFERENCE></INSTANCE></IPARAMVALUE></IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>";
+            "</VALUE.REFERENCE></PROPERTY.REFERENCE></INSTANCE></IPARAMVALUE></IMETHODCALL></"
+            "SIMPLEREQ></MESSAGE></CIM>";
         httplib::Client client("127.0.0.1", cimd);
         auto reply = client.Post("/cimom",
-                                 {{"CIMOperation", "MethodCall"}, {"CIMMethod", "CreateInstance"}, {"CIMObject", "root%2Finterop"}},
+                                 {{"CIMOperation", "MethodCall"},
+                                  {"CIMMethod", "CreateInstance"},
+                                  {"CIMObject", "root%2Finterop"}},
                                  body, "application/xml; charset=\"utf-8\"");
         ASSERT_TRUE(reply);
         ASSERT_EQ(reply->status, 200);
@@ -151,10 +175,10 @@ protected:
     fs::path dir;
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(SubscriptionDelivery, TheHeartbeatReachesASubscribedListenerAndSurvivesARestart) {
-    const int port = freePort();
+    int const port = freePort();
     Listener listener(port, dir / "listened.jsonl");
     auto cimd = start();
     subscribe(cimd->port(), port);
@@ -166,9 +190,11 @@ TEST_F(SubscriptionDelivery, TheHeartbeatReachesASubscribedListenerAndSurvivesAR
     int before = listener.lines(heartbeat, 0, 0s);
     cimd = start();
     const std::string url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
-    EXPECT_NE(wbemcli("ein " + url + "CIM_IndicationSubscription'").find("CIM_IndicationSubscription.Filter="),
+    EXPECT_NE(wbemcli("ein " + url + "CIM_IndicationSubscription'")
+                  .find("CIM_IndicationSubscription.Filter="),
               std::string::npos);
-    EXPECT_GE(listener.lines(heartbeat, before + 1), before + 1) << "no heartbeat after the restart";
+    EXPECT_GE(listener.lines(heartbeat, before + 1), before + 1)
+        << "no heartbeat after the restart";
 
     // Unsubscribed, the provider is told to stop sending.
     std::string subscription = wbemcli("ein " + url + "CIM_IndicationSubscription'");
@@ -182,11 +208,12 @@ TEST_F(SubscriptionDelivery, TheHeartbeatReachesASubscribedListenerAndSurvivesAR
 }
 
 TEST_F(SubscriptionDelivery, AListenerThatWasDownReceivesWhatWasSentMeanwhile) {
-    const int port = freePort();
+    int const port = freePort();
     auto cimd = start();
     subscribe(cimd->port(), port);
     // Wait for a heartbeat to be sent while nobody listens.
-    for (int i = 0; i < 100 && cimd->log().find("Send heartbeat indication") == std::string::npos; ++i)
+    for (int i = 0; i < 100 && cimd->log().find("Send heartbeat indication") == std::string::npos;
+         ++i)
         std::this_thread::sleep_for(100ms);
     ASSERT_NE(cimd->log().find("Send heartbeat indication"), std::string::npos) << cimd->log();
     std::this_thread::sleep_for(500ms);
@@ -199,12 +226,14 @@ TEST_F(SubscriptionDelivery, BadSubscriptionsAreRefusedWithCimErrors) {
     auto cimd = start();
     const std::string url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
     const std::string keys = "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"h\",";
-    CommandResult r = runCommand("wbemcli ci " + url + "CIM_IndicationFilter." + keys +
-                                 "CreationClassName=\"CIM_IndicationFilter\",Name=\"f\"' 'Query=\"SELECT Name FROM X\"'");
+    CommandResult r = runCommand(
+        "wbemcli ci " + url + "CIM_IndicationFilter." + keys +
+        "CreationClassName=\"CIM_IndicationFilter\",Name=\"f\"' 'Query=\"SELECT Name FROM X\"'");
     EXPECT_NE(r.exitCode, 0);
     EXPECT_NE(r.out.find("CIM_ERR_INVALID_PARAMETER"), std::string::npos) << r.out;
     r = runCommand("wbemcli ci " + url + "CIM_ListenerDestinationCIMXML." + keys +
-                   "CreationClassName=\"CIM_ListenerDestinationCIMXML\",Name=\"d\"' 'Destination=\"ftp://x/\"'");
+                   "CreationClassName=\"CIM_ListenerDestinationCIMXML\",Name=\"d\"' "
+                   "'Destination=\"ftp://x/\"'");
     EXPECT_NE(r.out.find("CIM_ERR_INVALID_PARAMETER"), std::string::npos) << r.out;
     EXPECT_TRUE(cimd->running());
 }

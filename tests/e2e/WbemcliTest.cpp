@@ -20,7 +20,7 @@ namespace {
 
 const std::string providerDir = VELDRA_SOURCE_DIR "/tests/unit/broker/testprovider";
 
-std::string readFile(const std::string& path) {
+std::string readFile(std::string const& path) {
     std::ifstream in(path);
     std::ostringstream text;
     text << in.rdbuf();
@@ -48,8 +48,10 @@ protected:
     static void TearDownTestSuite() { std::filesystem::remove_all(dir); }
 
     static std::vector<std::string> args() {
-        return {"--registration", providerDir + "/TestProvider.registration.yaml", "--mof",
-                providerDir + "/TestProvider.mof", "--mof-dir", "", "--provider-dir", VELDRA_LIB_DIR};
+        return {"--registration", providerDir + "/TestProvider.registration.yaml",
+                "--mof",          providerDir + "/TestProvider.mof",
+                "--mof-dir",      "",
+                "--provider-dir", VELDRA_LIB_DIR};
     }
 
     static inline std::filesystem::path dir;
@@ -57,12 +59,12 @@ protected:
 };
 
 struct Row {
-    std::string command;  // after "wbemcli"; URL is the namespace URL
+    std::string command; // after "wbemcli"; URL is the namespace URL
     int exitCode;
-    std::string output;  // exact, after normalizing host and port
+    std::string output; // exact, after normalizing host and port
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(Wbemcli, EveryOperationAndItsErrors) {
     CimdProcess cimd(args());
@@ -71,15 +73,20 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
     const std::string d1Line =
         "HOST/root/test:Test_Disk.Name=\"d1\" Name=\"d1\",Size=1000,Slot=1,Tags=\"fast\",\"d1\","
         "Created=20260101000000.000000+000,Healthy=TRUE\n";
-    const std::string poolLine = "HOST/root/test:Test_Pool.InstanceID=\"p1\" InstanceID=\"p1\",ElementName=\"Pool One\"\n";
-    const std::string ends = "Antecedent=root/test:Test_Pool.InstanceID=\"p1\",Dependent=root/test:Test_Disk.Name=\"d1\"";
+    const std::string poolLine =
+        "HOST/root/test:Test_Pool.InstanceID=\"p1\" InstanceID=\"p1\",ElementName=\"Pool One\"\n";
+    const std::string ends = "Antecedent=root/test:Test_Pool.InstanceID=\"p1\",Dependent=root/"
+                             "test:Test_Disk.Name=\"d1\"";
     const std::string link = "HOST/root/test:Test_PoolDisk." + ends;
     const Row rows[] = {
         {"ecn " + url, 0,
-         "HOST/root/test:Test_Alert\nHOST/root/test:Test_Disk\nHOST/root/test:Test_Pool\nHOST/root/test:Test_PoolDisk\n"},
-        {"gc " + url + ":Test_Disk", 0, "HOST/root/test:Test_Disk Name=,Size=,Slot=,Tags=,Created=,Healthy=\n"},
+         "HOST/root/test:Test_Alert\nHOST/root/test:Test_Disk\nHOST/root/test:Test_Pool\nHOST/root/"
+         "test:Test_PoolDisk\n"},
+        {"gc " + url + ":Test_Disk", 0,
+         "HOST/root/test:Test_Disk Name=,Size=,Slot=,Tags=,Created=,Healthy=\n"},
         {"ein " + url + ":Test_Disk", 0,
-         "HOST/root/test:Test_Disk.Name=\"d1\"\nHOST/root/test:Test_Disk.Name=\"d2\"\nHOST/root/test:Test_Disk.Name=\"d3\"\n"},
+         "HOST/root/test:Test_Disk.Name=\"d1\"\nHOST/root/test:Test_Disk.Name=\"d2\"\nHOST/root/"
+         "test:Test_Disk.Name=\"d3\"\n"},
         {"ei " + url + ":Test_Pool", 0, poolLine},
         {"ei " + url + ":Test_Disk Size,Healthy", 0,
          "HOST/root/test:Test_Disk.Name=\"d1\" Size=1000,Healthy=TRUE\n"
@@ -95,20 +102,26 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
         {"ri " + d1, 0, link + " " + ends + "\n"},
         {"rin -arc Test_PoolDisk " + d1, 0, link + "\n"},
         // Sent untyped; the provider answers INVALID_PARAMETER unless it gets a CMPI uint32.
-        {"cm " + d1 + " Identify.Duration=7", 0, "HOST/root/test:Test_Disk.Name=\"d1\" Identify: 7, Echo (uint32): 7\n"},
-        {"gi '" + url + ":Test_Disk.Name=\"d9\"'", 16, "*\n* wbemcli: Cim: (6) CIM_ERR_NOT_FOUND: no such disk\n*\n"},
+        {"cm " + d1 + " Identify.Duration=7", 0,
+         "HOST/root/test:Test_Disk.Name=\"d1\" Identify: 7, Echo (uint32): 7\n"},
+        {"gi '" + url + ":Test_Disk.Name=\"d9\"'", 16,
+         "*\n* wbemcli: Cim: (6) CIM_ERR_NOT_FOUND: no such disk\n*\n"},
         {"ein " + url + ":Test_Nope", 16,
          "*\n* wbemcli: Cim: (5) CIM_ERR_INVALID_CLASS: class Test_Nope does not exist\n*\n"},
         {"gi '" + url + ":Test_Nope.Name=\"x\"'", 16,
          "*\n* wbemcli: Cim: (5) CIM_ERR_INVALID_CLASS: class Test_Nope does not exist\n*\n"},
         {"ein 'http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/nowhere:Test_Disk'", 16,
-         "*\n* wbemcli: Cim: (3) CIM_ERR_INVALID_NAMESPACE: namespace root/nowhere does not exist\n*\n"},
-        {"gi 'http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/nowhere:Test_Disk.Name=\"d1\"'", 16,
-         "*\n* wbemcli: Cim: (3) CIM_ERR_INVALID_NAMESPACE: namespace root/nowhere does not exist\n*\n"},
+         "*\n* wbemcli: Cim: (3) CIM_ERR_INVALID_NAMESPACE: namespace root/nowhere does not "
+         "exist\n*\n"},
+        {"gi 'http://127.0.0.1:" + std::to_string(cimd.port()) +
+             "/root/nowhere:Test_Disk.Name=\"d1\"'",
+         16,
+         "*\n* wbemcli: Cim: (3) CIM_ERR_INVALID_NAMESPACE: namespace root/nowhere does not "
+         "exist\n*\n"},
         {"cm " + d1 + " Identify.Duration=minus", 16,
          "*\n* wbemcli: Cim: (4) CIM_ERR_INVALID_PARAMETER: \"minus\" is not a valid uint32\n*\n"},
     };
-    for (const Row& row : rows) {
+    for (Row const& row : rows) {
         SCOPED_TRACE("wbemcli " + row.command);
         CommandResult r = runCommand("wbemcli " + row.command);
         EXPECT_EQ(r.exitCode, row.exitCode) << r.out;
@@ -132,7 +145,7 @@ TEST_F(Wbemcli, PrintedReferencesPasteBack) {
     ASSERT_NE(split, std::string::npos) << line;
     const std::string antecedent = properties.substr(11, split - 11);
     const std::string dependent = properties.substr(split + 11);
-    for (const std::string& reference : {antecedent, dependent}) {
+    for (std::string const& reference : {antecedent, dependent}) {
         SCOPED_TRACE(reference);
         CommandResult got = runCommand("wbemcli gi '" + server + reference + "'");
         EXPECT_EQ(got.exitCode, 0) << got.out;
@@ -145,7 +158,8 @@ TEST_F(Wbemcli, PrintedReferencesPasteBack) {
 TEST_F(Wbemcli, ShutdownUnloadsTheProvider) {
     std::filesystem::remove(trace);
     CimdProcess cimd(args());
-    CommandResult r = runCommand("wbemcli ein http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test:Test_Disk");
+    CommandResult r = runCommand("wbemcli ein http://127.0.0.1:" + std::to_string(cimd.port()) +
+                                 "/root/test:Test_Disk");
     ASSERT_EQ(r.exitCode, 0) << r.out;
     EXPECT_EQ(cimd.stop(SIGINT), 0) << cimd.log();
     std::string traced = readFile(trace);
@@ -162,7 +176,8 @@ TEST_F(Wbemcli, WrongPasswordIsRefused) {
     std::string where = "@127.0.0.1:" + std::to_string(cimd.port()) + "/root/test:Test_Disk";
     CommandResult wrong = runCommand("wbemcli ein 'http://ops:wrong@" + where.substr(1) + "'");
     EXPECT_EQ(wrong.exitCode, 16) << wrong.out;
-    CommandResult none = runCommand("wbemcli ein 'http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test:Test_Disk'");
+    CommandResult none = runCommand("wbemcli ein 'http://127.0.0.1:" + std::to_string(cimd.port()) +
+                                    "/root/test:Test_Disk'");
     EXPECT_EQ(none.exitCode, 16) << none.out;
     CommandResult right = runCommand("wbemcli ein 'http://ops:s3cret pass" + where + "'");
     EXPECT_EQ(right.exitCode, 0) << right.out;
@@ -173,11 +188,13 @@ TEST_F(Wbemcli, WrongPasswordIsRefused) {
 // entry points and log its unloading line when the server stops.
 TEST_F(Wbemcli, VeldraProviderLoadsAndUnloads) {
     std::string registration = (dir / "veldra.yaml").string();
-    std::ofstream(registration) << "providers:\n  - name: QLNVeldra\n    library: QLNVeldra\n"
-                                   "    namespaces: [root/mwq]\n    classes: [QLN_AutoStartVeldra]\n"
-                                   "    kinds: [instance, method]\n";
-    CimdProcess cimd({"--registration", registration, "--mof-dir", VELDRA_DATA_DIR "/mof", "--provider-dir",
-                      VELDRA_LIB_DIR, "--scenario", VELDRA_DATA_DIR "/scenarios/demo.yaml"});
+    std::ofstream(registration)
+        << "providers:\n  - name: QLNVeldra\n    library: QLNVeldra\n"
+           "    namespaces: [root/mwq]\n    classes: [QLN_AutoStartVeldra]\n"
+           "    kinds: [instance, method]\n";
+    CimdProcess cimd({"--registration", registration, "--mof-dir", VELDRA_DATA_DIR "/mof",
+                      "--provider-dir", VELDRA_LIB_DIR, "--scenario",
+                      VELDRA_DATA_DIR "/scenarios/demo.yaml"});
     CommandResult r = runCommand("wbemcli ein http://127.0.0.1:" + std::to_string(cimd.port()) +
                                  "/root/mwq:QLN_AutoStartVeldra");
     EXPECT_EQ(r.exitCode, 0) << r.out;
@@ -192,13 +209,15 @@ TEST_F(Wbemcli, ShutdownGivesUpOnAStuckProviderCallAndSaysWhich) {
     a.insert(a.end(), {"--shutdown-grace", "1"});
     CimdProcess cimd(a);
     const std::string url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
-    std::thread stuck([&] { runCommand("timeout 20 wbemcli cm '" + url + ":Test_Disk.Name=\"d1\"' Hang"); });
+    std::thread stuck(
+        [&] { runCommand("timeout 20 wbemcli cm '" + url + ":Test_Disk.Name=\"d1\"' Hang"); });
     for (int i = 0; i < 100 && readFile(trace).find("Hang") == std::string::npos; ++i)
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(cimd.stop(), 3);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
-    EXPECT_NE(cimd.log().find("waiting for requests still running: Hang on root%2Ftest"), std::string::npos)
+    EXPECT_NE(cimd.log().find("waiting for requests still running: Hang on root%2Ftest"),
+              std::string::npos)
         << cimd.log();
     stuck.join();
 }

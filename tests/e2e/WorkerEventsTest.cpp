@@ -40,29 +40,33 @@ std::vector<std::string> linesOf(fs::path const& path) {
     std::vector<std::string> lines;
     std::istringstream in(readFile(path));
     for (std::string line; std::getline(in, line);) {
-        if (!line.empty()) lines.push_back(line);
+        if (!line.empty())
+            lines.push_back(line);
     }
     return lines;
 }
 
 int occurrences(std::string const& text, std::string const& needle) {
     int n = 0;
-    for (auto at = text.find(needle); at != std::string::npos; at = text.find(needle, at + 1)) ++n;
+    for (auto at = text.find(needle); at != std::string::npos; at = text.find(needle, at + 1))
+        ++n;
     return n;
 }
 
 // veldra-listen subscribing itself to every alert indication of root/mwq.
 class Listener {
 public:
-    Listener(int cimdPort, fs::path const& dir) : _output(dir / "alerts.jsonl"), _errors(dir / "listen.log") {
+    Listener(int cimdPort, fs::path const& dir)
+        : _output(dir / "alerts.jsonl"), _errors(dir / "listen.log") {
         _pid = fork();
         if (_pid == 0) {
             std::freopen(_output.c_str(), "w", stdout);
             std::freopen(_errors.c_str(), "w", stderr);
             std::string const bin = std::string(VELDRA_BIN_DIR) + "/veldra-listen";
             std::string const cimom = "http://127.0.0.1:" + std::to_string(cimdPort);
-            execl(bin.c_str(), bin.c_str(), "--port", "0", "--json", "--subscribe", cimom.c_str(), "--filter",
-                  "SELECT * FROM CIM_AlertIndication", "--source-namespace", "root/mwq", static_cast<char*>(nullptr));
+            execl(bin.c_str(), bin.c_str(), "--port", "0", "--json", "--subscribe", cimom.c_str(),
+                  "--filter", "SELECT * FROM CIM_AlertIndication", "--source-namespace", "root/mwq",
+                  static_cast<char*>(nullptr));
             _exit(127);
         }
     }
@@ -72,7 +76,8 @@ public:
     }
     bool subscribed() const {
         for (int i = 0; i < 300; ++i) {
-            if (readFile(_errors).find("subscribed to") != std::string::npos) return true;
+            if (readFile(_errors).find("subscribed to") != std::string::npos)
+                return true;
             std::this_thread::sleep_for(20ms);
         }
         return false;
@@ -108,8 +113,8 @@ protected:
         listener.reset();
         cimd.reset();
         traps.reset();
-        for (char const* name : {"VELDRA_WORKER_STAGGER_MS", "VELDRA_WORKER_INTERVAL_MS", "VELDRA_HEARTBEAT",
-                                 "VELDRA_TRAP_DESTINATIONS"}) {
+        for (char const* name : {"VELDRA_WORKER_STAGGER_MS", "VELDRA_WORKER_INTERVAL_MS",
+                                 "VELDRA_HEARTBEAT", "VELDRA_TRAP_DESTINATIONS"}) {
             unsetenv(name);
         }
         fs::remove_all(dir);
@@ -121,7 +126,8 @@ protected:
     // changed before it, and had ended. One more gives its deliveries time.
     static void awaitPasses(int count) {
         int const from = passes();
-        for (int i = 0; i < 600 && passes() < from + count; ++i) std::this_thread::sleep_for(50ms);
+        for (int i = 0; i < 600 && passes() < from + count; ++i)
+            std::this_thread::sleep_for(50ms);
         ASSERT_GE(passes(), from + count) << "the worker stopped passing";
     }
     static void sim(std::string const& command) {
@@ -131,15 +137,18 @@ protected:
     }
     static void restoreDemo() {
         fs::path const next = dir / "scenario.next";
-        fs::copy_file(VELDRA_DATA_DIR "/scenarios/demo.yaml", next, fs::copy_options::overwrite_existing);
+        fs::copy_file(VELDRA_DATA_DIR "/scenarios/demo.yaml", next,
+                      fs::copy_options::overwrite_existing);
         fs::rename(next, scenario);
     }
 
     // The indications and traps received since the last call, once `count`
     // of each arrived (or a bound passed), and a quiet pass after them.
-    static std::pair<std::vector<std::string>, std::vector<std::string>> alertsSince(std::vector<Alert> const& want) {
+    static std::pair<std::vector<std::string>, std::vector<std::string>>
+    alertsSince(std::vector<Alert> const& want) {
         awaitPasses(2);
-        std::size_t const traps = std::count_if(want.begin(), want.end(), [](Alert const& a) { return a.trap != 0; });
+        std::size_t const traps =
+            std::count_if(want.begin(), want.end(), [](Alert const& a) { return a.trap != 0; });
         for (int i = 0; i < 200; ++i) {
             if (listener->received().size() >= seenIndications + want.size() &&
                 WorkerEvents::traps->received().size() >= seenTraps + traps) {
@@ -155,8 +164,10 @@ protected:
             auto const json = nlohmann::json::parse(lines[i]);
             auto const& properties = json["properties"];
             indications.push_back(hardware_events::observed(
-                json["class"].get<std::string>(), want, [&properties](std::string const& name) -> std::optional<std::string> {
-                    if (!properties.contains(name)) return std::nullopt;
+                json["class"].get<std::string>(), want,
+                [&properties](std::string const& name) -> std::optional<std::string> {
+                    if (!properties.contains(name))
+                        return std::nullopt;
                     return properties[name].get<std::string>();
                 }));
         }
@@ -164,7 +175,8 @@ protected:
 
         auto const received = WorkerEvents::traps->received();
         std::vector<std::string> trapLines;
-        for (std::size_t i = seenTraps; i < received.size(); ++i) trapLines.push_back(trapLine(received[i]));
+        for (std::size_t i = seenTraps; i < received.size(); ++i)
+            trapLines.push_back(trapLine(received[i]));
         std::sort(trapLines.begin(), trapLines.end());
         seenTraps = received.size();
         return {hardware_events::described(indications), trapLines};
@@ -173,15 +185,19 @@ protected:
     static std::string trapLine(TrapReceiver::Trap const& trap) {
         std::string number = "?", flags = "?";
         for (auto const& variable : trap) {
-            if (variable.oid == ".1.3.6.1.6.3.1.1.4.1.0") number = variable.value.substr(variable.value.rfind('.') + 1);
-            if (variable.oid == ".1.3.6.1.4.1.57913.11.2.11.1") flags = variable.value;
+            if (variable.oid == ".1.3.6.1.6.3.1.1.4.1.0")
+                number = variable.value.substr(variable.value.rfind('.') + 1);
+            if (variable.oid == ".1.3.6.1.4.1.57913.11.2.11.1")
+                flags = variable.value;
         }
         return "trap " + number + " flags " + flags;
     }
     static std::vector<std::string> trapsOf(std::vector<Alert> const& alerts) {
         std::vector<std::string> lines;
         for (Alert const& alert : alerts) {
-            if (alert.trap != 0) lines.push_back("trap " + std::to_string(alert.trap) + " flags " + std::to_string(alert.flags));
+            if (alert.trap != 0)
+                lines.push_back("trap " + std::to_string(alert.trap) + " flags " +
+                                std::to_string(alert.flags));
         }
         std::sort(lines.begin(), lines.end());
         return lines;

@@ -5,10 +5,10 @@
 // header lines let the fuzzer get past the header checks into dispatch.
 // Any exception that escapes handle() is a finding: the server would turn it
 // into a bare 500 instead of a CIM error the client can read.
-#include "ClassRepository.h"
 #include "CimHttpExchange.h"
 #include "CimOperationHandler.h"
 #include "CimXmlWriter.h"
+#include "ClassRepository.h"
 #include "InstanceOperations.h"
 #include "ProviderManager.h"
 #include "ServerLog.h"
@@ -32,10 +32,9 @@ struct Server {
         classes.loadDirectory(VELDRA_DATA_DIR "/mof", "root/mwq");
         classes.resolve();
         ProviderManager::Options options;
-        options.classIsA = [this](const std::string& ns, const std::string& cls, const std::string& base) {
-            return classes.isA(ns, cls, base);
-        };
-        options.log = [](int, const std::string&) {};
+        options.classIsA = [this](std::string const& ns, std::string const& cls,
+                                  std::string const& base) { return classes.isA(ns, cls, base); };
+        options.log = [](int, std::string const&) {};
         providers = std::make_unique<ProviderManager>(options);
         instances = std::make_unique<InstanceOperations>(classes, *providers);
         handler = std::make_unique<CimOperationHandler>(classes, CimOperationHandler::Settings{});
@@ -50,29 +49,33 @@ std::string takeLine(std::string& rest) {
     return line;
 }
 
-}  // namespace
+} // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
     static Server* server = [] {
         ServerLog::setLevel(ServerLog::Level::Error);
         return new Server();
     }();
-    if (size < 1) return 0;
+    if (size < 1)
+        return 0;
     const uint8_t flags = data[0];
-    std::string rest(reinterpret_cast<const char*>(data + 1), size - 1);
+    std::string rest(reinterpret_cast<char const*>(data + 1), size - 1);
 
     CimHttpExchange exchange;
     exchange.cimOperation = (flags & 1) ? "methodcall" : "MethodCall";
     exchange.cimMethod = takeLine(rest);
     exchange.cimObject = takeLine(rest);
-    if (flags & 2) exchange.cimProtocolVersion = (flags & 4) ? "2.0" : "1.0";
-    if (flags & 8) exchange.contentType = (flags & 16) ? "text/plain" : "application/xml; charset=utf-8";
-    if (flags & 32) exchange.cimMethod.reset();
+    if (flags & 2)
+        exchange.cimProtocolVersion = (flags & 4) ? "2.0" : "1.0";
+    if (flags & 8)
+        exchange.contentType = (flags & 16) ? "text/plain" : "application/xml; charset=utf-8";
+    if (flags & 32)
+        exchange.cimMethod.reset();
     exchange.body = std::move(rest);
 
     try {
         server->handler->handle(exchange);
-    } catch (const std::exception& e) {
+    } catch (std::exception const& e) {
         std::fprintf(stderr, "escaped handle(): %s\n", e.what());
         std::abort();
     }
@@ -85,7 +88,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         }
         // pugixml does not check characters; a client's parser does.
         if (CimXmlWriter::xmlSafe(exchange.responseBody) != exchange.responseBody) {
-            std::fprintf(stderr, "answer holds text that is not XML: %s\n", exchange.responseBody.c_str());
+            std::fprintf(stderr, "answer holds text that is not XML: %s\n",
+                         exchange.responseBody.c_str());
             std::abort();
         }
     } else if (exchange.cimError.empty() && exchange.status != 500) {

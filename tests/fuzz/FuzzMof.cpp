@@ -7,13 +7,13 @@
 #include <cstdint>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    std::string text(reinterpret_cast<const char*>(data), size);
+extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
+    std::string text(reinterpret_cast<char const*>(data), size);
     ClassRepository repository;
     try {
         repository.loadText(text, VELDRA_DATA_DIR "/mof/fuzz.mof", "root/mwq");
         repository.resolve();
-    } catch (const MofError&) {
+    } catch (MofError const&) {
     }
     return 0;
 }

@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    std::string text(reinterpret_cast<const char*>(data), size);
+extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
+    std::string text(reinterpret_cast<char const*>(data), size);
     try {
         RegistrationFile::parse(text, "fuzz.yaml", "/tmp");
-    } catch (const CimError&) {
+    } catch (CimError const&) {
     }
     return 0;
 }

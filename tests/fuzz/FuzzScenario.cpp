@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    std::string text(reinterpret_cast<const char*>(data), size);
+extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
+    std::string text(reinterpret_cast<char const*>(data), size);
     try {
         ScenarioParser::parseText(text, "fuzz.yaml");
-    } catch (const ScenarioError&) {
+    } catch (ScenarioError const&) {
     }
     return 0;
 }

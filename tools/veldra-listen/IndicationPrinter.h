@@ -11,10 +11,10 @@ public:
 
     // The line for `request`; throws std::invalid_argument when the request
     // is not an ExportIndication with an INSTANCE.
-    std::string line(const std::string& request, const std::string& receivedAt) const;
+    std::string line(std::string const& request, std::string const& receivedAt) const;
 
     // The answer a CIM listener gives: an empty EXPMETHODRESPONSE, or an ERROR.
-    static std::string response(const std::string& messageId, const std::string& error = "");
+    static std::string response(std::string const& messageId, std::string const& error = "");
 
 private:
     bool _json;

@@ -12,15 +12,15 @@ public:
 
     // Throws std::runtime_error with the object manager's answer when a step
     // fails; what was made before the failing step is removed again.
-    void subscribe(const std::string& name, const std::string& query, const std::string& listenerUrl,
-                   const std::string& sourceNamespace);
+    void subscribe(std::string const& name, std::string const& query,
+                   std::string const& listenerUrl, std::string const& sourceNamespace);
     // Removes what subscribe() made, the subscription first; errors are ignored.
     void unsubscribe();
 
 private:
     // The IRETURNVALUE of the call as XML text.
-    std::string _call(const std::string& method, const std::string& params);
+    std::string _call(std::string const& method, std::string const& params);
 
     std::string _cimom, _user, _password;
-    std::string _filter, _destination, _subscription;  // INSTANCENAMEs made
+    std::string _filter, _destination, _subscription; // INSTANCENAMEs made
 };

@@ -11,7 +11,7 @@
 
 namespace {
 
-std::string readPassword(const std::string& prompt) {
+std::string readPassword(std::string const& prompt) {
     bool tty = isatty(STDIN_FILENO);
     termios saved{};
     if (tty) {
@@ -27,11 +27,12 @@ std::string readPassword(const std::string& prompt) {
         tcsetattr(STDIN_FILENO, TCSANOW, &saved);
         std::cerr << "\n";
     }
-    if (!got) throw std::runtime_error("no password given on standard input");
+    if (!got)
+        throw std::runtime_error("no password given on standard input");
     return password;
 }
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv) {
     CLI::App app{"Add or replace a user in the veldra-cimd users file"};
@@ -44,15 +45,18 @@ int main(int argc, char** argv) {
     CLI11_PARSE(app, argc, argv);
 
     try {
-        if (!PasswordFile::validUserName(user)) throw std::runtime_error("bad user name '" + user + "'");
+        if (!PasswordFile::validUserName(user))
+            throw std::runtime_error("bad user name '" + user + "'");
         std::string password = readPassword("Password for " + user + ": ");
         if (isatty(STDIN_FILENO) && readPassword("Again: ") != password)
             throw std::runtime_error("passwords differ");
-        if (password.empty()) throw std::runtime_error("empty password refused");
+        if (password.empty())
+            throw std::runtime_error("empty password refused");
         PasswordFile::setUser(file, user, password, sha512 ? "$6$" : "$y$");
         // Read it back: a file the server cannot load is worse than an error here.
-        if (!PasswordFile::load(file).verify(user, password)) throw std::runtime_error("written hash does not verify");
-    } catch (const std::exception& e) {
+        if (!PasswordFile::load(file).verify(user, password))
+            throw std::runtime_error("written hash does not verify");
+    } catch (std::exception const& e) {
         std::cerr << "veldra-passwd: " << e.what() << "\n";
         return 1;
     }

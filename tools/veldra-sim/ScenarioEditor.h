@@ -30,7 +30,8 @@ public:
     YAML::Node controller(int number); // 1-based
     // A disk by serial number or by "controller:box:bay". `lists` names where
     // to look ("physicalDisks", "pulled" or both).
-    Place findDisk(std::string const& name, std::initializer_list<char const*> lists = {"physicalDisks"});
+    Place findDisk(std::string const& name,
+                   std::initializer_list<char const*> lists = {"physicalDisks"});
     Place findEnclosure(std::string const& name); // "controller:box"
     Place findVolume(std::string const& name);    // serial or "controller:serial"
 

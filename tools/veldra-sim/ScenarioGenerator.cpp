@@ -27,29 +27,39 @@ std::string ScenarioGenerator::generate(int controllers, int disksPerController)
           << "    ports: [1I, 1E, 2E]\n    cacheSizeInBytes: 4294967295\n";
         y << "    enclosures:\n";
         for (int e = 1; e <= enclosures; ++e)
-            y << "      - {enclosureBoxNumber: " << e << ", boxNumber: " << e << ", serialNumber: "
-              << format("GENC%04d%03d", c, e) << ", model: Veldra D24 JBOD, driveBays: " << baysPerEnclosure
+            y << "      - {enclosureBoxNumber: " << e << ", boxNumber: " << e
+              << ", serialNumber: " << format("GENC%04d%03d", c, e)
+              << ", model: Veldra D24 JBOD, driveBays: " << baysPerEnclosure
               << ", paths: [{port: " << (e == 1 ? "1I" : "1E") << ", box: " << e << "}]}\n";
         y << "    physicalDisks:\n";
         for (int d = 0; d < disksPerController; ++d) {
             int box = d / baysPerEnclosure + 1;
             bool ssd = d % 4 == 3;
-            bool spare = d % volumeWidth == volumeWidth - 1 && d / volumeWidth < disksPerController / volumeWidth;
+            bool spare = d % volumeWidth == volumeWidth - 1 &&
+                         d / volumeWidth < disksPerController / volumeWidth;
             bool inVolume = d / volumeWidth < disksPerController / volumeWidth;
-            y << "      - {id: " << d << ", serialNumber: " << format("G%04dD%05d", c, d) << ", model: "
-              << (ssd ? "KS1920 SSD" : "NR4000 SAS") << ", box: " << box << ", bay: " << d % baysPerEnclosure + 1
-              << ", enclosureBoxNumber: " << box << ", port: " << (box == 1 ? "1I" : "1E") << ", paths: [{port: "
-              << (box == 1 ? "1I" : "1E") << ", box: " << box << "}], configuration: "
-              << (spare ? 3 : inVolume ? 2 : 1) << ", totalBlocks: " << (ssd ? "1875385008" : "3907029168")
+            y << "      - {id: " << d << ", serialNumber: " << format("G%04dD%05d", c, d)
+              << ", model: " << (ssd ? "KS1920 SSD" : "NR4000 SAS") << ", box: " << box
+              << ", bay: " << d % baysPerEnclosure + 1 << ", enclosureBoxNumber: " << box
+              << ", port: " << (box == 1 ? "1I" : "1E")
+              << ", paths: [{port: " << (box == 1 ? "1I" : "1E") << ", box: " << box
+              << "}], configuration: "
+              << (spare      ? 3
+                  : inVolume ? 2
+                             : 1)
+              << ", totalBlocks: " << (ssd ? "1875385008" : "3907029168")
               << ", rotationalSpeed: " << (ssd ? 0 : 7200) << (ssd ? ", gasGauge: true" : "")
-              << ", mnpData: true, statistics: {sectorsRead: " << 1000 * d << ", sectorsWritten: " << 500 * d
-              << ", serviceHours: " << 100 + d << "}}\n";
+              << ", mnpData: true, statistics: {sectorsRead: " << 1000 * d
+              << ", sectorsWritten: " << 500 * d << ", serviceHours: " << 100 + d << "}}\n";
         }
         y << "    logicalDisks:\n";
         for (int v = 0; v < disksPerController / volumeWidth; ++v) {
-            y << "      - {number: " << v << ", serialNumber: " << format("600508B1G%04dV%04d", c, v)
-              << ", driveLabel: " << format("vol%d", v) << ", tolerance: 3, totalBlocks: 23442175008, dataDisks: [";
-            for (int m = 0; m < volumeWidth - 1; ++m) y << (m ? ", " : "") << v * volumeWidth + m;
+            y << "      - {number: " << v
+              << ", serialNumber: " << format("600508B1G%04dV%04d", c, v)
+              << ", driveLabel: " << format("vol%d", v)
+              << ", tolerance: 3, totalBlocks: 23442175008, dataDisks: [";
+            for (int m = 0; m < volumeWidth - 1; ++m)
+                y << (m ? ", " : "") << v * volumeWidth + m;
             y << "], spareDisks: [" << v * volumeWidth + volumeWidth - 1 << "]}\n";
         }
     }

@@ -21,17 +21,21 @@ std::string hex(u32 value) {
 
 std::string idList(std::vector<u32> const& ids) {
     std::string text;
-    for (u32 id : ids) text += (text.empty() ? "" : ",") + std::to_string(id);
+    for (u32 id : ids)
+        text += (text.empty() ? "" : ",") + std::to_string(id);
     return text.empty() ? "-" : text;
 }
 
 void printDisk(VeldraPhysicalDisk const& d, std::ostream& out, char const* indent) {
     out << indent << "disk " << d.getId() << "  "
-        << (d.getSerialNumber().empty() ? std::string("(no serial)") : d.getSerialNumber()) << "  " << d.getModel()
-        << "  box " << d.getEnclosureBoxNumber() << " bay " << d.getBay() << "  " << d.diskConfigToStr(d.getConfiguration())
-        << "  " << d.diskStatusToStr(d.getStatus()) << " (" << hex(d.getStatus()) << ")";
-    if (d.getIsActiveSpare()) out << "  active spare";
-    if (d.getSupportsGasGauge()) out << "  wear " << d.SSDWearStatusToStr(d.getSSDWearStatus());
+        << (d.getSerialNumber().empty() ? std::string("(no serial)") : d.getSerialNumber()) << "  "
+        << d.getModel() << "  box " << d.getEnclosureBoxNumber() << " bay " << d.getBay() << "  "
+        << d.diskConfigToStr(d.getConfiguration()) << "  " << d.diskStatusToStr(d.getStatus())
+        << " (" << hex(d.getStatus()) << ")";
+    if (d.getIsActiveSpare())
+        out << "  active spare";
+    if (d.getSupportsGasGauge())
+        out << "  wear " << d.SSDWearStatusToStr(d.getSSDWearStatus());
     out << "\n";
 }
 
@@ -64,7 +68,8 @@ void ScenarioPrinter::print(std::string const& scenarioPath, std::ostream& out) 
             << (batteryRead ? data.batteryStatusToStr(battery) : "(unreadable)") << "\n";
         if (!c.data->fail.empty()) {
             out << "  failing:";
-            for (auto const& f : c.data->fail) out << " " << f;
+            for (auto const& f : c.data->fail)
+                out << " " << f;
             out << "\n";
         }
         std::vector<VeldraPhysicalDisk> disks(c.physicalDisks.begin(), c.physicalDisks.end());
@@ -75,10 +80,11 @@ void ScenarioPrinter::print(std::string const& scenarioPath, std::ostream& out) 
             auto fan = e.getFanStatus();
             auto ps = e.getPowerSupplyStatus();
             auto temp = e.getTempSensorStatus();
-            out << "  Enclosure box " << e.getEnclosureBoxNumber() << "  " << e.getSerialNumber() << "  "
-                << e.getModel() << "  " << e.OverallStatusToStr(overall) << "  [" << e.FanStatusToStr(fan) << ", "
-                << e.PowerSupplyStatusToStr(ps) << ", " << e.TempSensorStatusToStr(temp) << "]  "
-                << pathsToUserStr(e.getPaths(), -1) << "\n";
+            out << "  Enclosure box " << e.getEnclosureBoxNumber() << "  " << e.getSerialNumber()
+                << "  " << e.getModel() << "  " << e.OverallStatusToStr(overall) << "  ["
+                << e.FanStatusToStr(fan) << ", " << e.PowerSupplyStatusToStr(ps) << ", "
+                << e.TempSensorStatusToStr(temp) << "]  " << pathsToUserStr(e.getPaths(), -1)
+                << "\n";
             for (auto const& d : disks)
                 if (static_cast<u32>(d.getEnclosureBoxNumber()) == e.getEnclosureBoxNumber()) {
                     printDisk(d, out, "    ");
@@ -86,23 +92,28 @@ void ScenarioPrinter::print(std::string const& scenarioPath, std::ostream& out) 
                 }
         }
         for (auto const& d : disks)
-            if (!shown.count(d.getId())) printDisk(d, out, "  (no enclosure) ");
+            if (!shown.count(d.getId()))
+                printDisk(d, out, "  (no enclosure) ");
         for (auto const& info : c.logicalDisks) {
             VeldraLogicalDisk v(info);
             out << "  Volume " << v.getLogicalVolumeNumber() << "  " << v.getSerialNumber() << "  "
                 << v.getDriveLabel() << "  " << v.toleranceToStr(v.getTolerance()) << "  "
-                << v.statusToStr(v.getStatus()) << " (" << hex(v.getStatus()) << ")  data " << idList(v.dataDiskIDs)
-                << "  spares " << idList(v.spareDiskIDs);
+                << v.statusToStr(v.getStatus()) << " (" << hex(v.getStatus()) << ")  data "
+                << idList(v.dataDiskIDs) << "  spares " << idList(v.spareDiskIDs);
             for (u32 spare : v.spareDiskIDs)
-                if (u32 replaced = v.getReplacedDiskID(spare); replaced != VeldraLogicalDisk::noReplacedDisk)
+                if (u32 replaced = v.getReplacedDiskID(spare);
+                    replaced != VeldraLogicalDisk::noReplacedDisk)
                     out << "  (spare " << spare << " stands in for " << replaced << ")";
             if (v.getLogicalVolumeType() == 2 || v.getLogicalVolumeType() == 3)
-                out << "  " << (v.getLogicalVolumeType() == 2 ? "cached by volume " : "cache of volume ")
+                out << "  "
+                    << (v.getLogicalVolumeType() == 2 ? "cached by volume " : "cache of volume ")
                     << (v.getRelatedLUN() & 0xffff);
             out << "\n";
         }
     }
     auto requests = LocatorLog::read(scenarioPath);
-    out << "Locator requests: " << (requests.empty() ? "none" : std::to_string(requests.size())) << "\n";
-    for (auto const& line : requests) out << "  " << line << "\n";
+    out << "Locator requests: " << (requests.empty() ? "none" : std::to_string(requests.size()))
+        << "\n";
+    for (auto const& line : requests)
+        out << "  " << line << "\n";
 }

@@ -27,10 +27,12 @@ public:
     };
     void insertNewDisk(NewDisk const& disk);
 
-    void addEnclosure(int controller, int box, std::string const& serial, int bays, std::vector<std::string> ports);
+    void addEnclosure(int controller, int box, std::string const& serial, int bays,
+                      std::vector<std::string> ports);
     void removeEnclosure(std::string const& enclosure);
     // kind: "fan", "power-supply" or "temperature"; status: a word or a number.
-    void setEnclosureStatus(std::string const& enclosure, std::string const& kind, std::string const& status);
+    void setEnclosureStatus(std::string const& enclosure, std::string const& kind,
+                            std::string const& status);
 
     void failController(int controller);
     void failCache(int controller);

@@ -26,7 +26,8 @@ std::vector<std::string> servedClasses() {
     for (auto const& provider : root["providers"]) {
         for (auto const& name : provider["classes"]) {
             std::string const text = name.as<std::string>();
-            if (text.size() < 10 || text.compare(text.size() - 10, 10, "Indication") != 0) names.push_back(text);
+            if (text.size() < 10 || text.compare(text.size() - 10, 10, "Indication") != 0)
+                names.push_back(text);
         }
     }
     return names;
@@ -40,13 +41,15 @@ std::string nameSpaceOf(std::string const& className) {
 // printed as a reference and one printed as an instance name compare.
 std::string normalized(std::string const& path) {
     auto const dot = path.find('.');
-    if (dot == std::string::npos) return path;
+    if (dot == std::string::npos)
+        return path;
     std::vector<std::string> keys;
     std::string key;
     bool quoted = false;
     for (std::size_t i = dot + 1; i < path.size(); ++i) {
         char const c = path[i];
-        if (c == '"' && path[i - 1] != '\\') quoted = !quoted;
+        if (c == '"' && path[i - 1] != '\\')
+            quoted = !quoted;
         if (c == ',' && !quoted) {
             keys.push_back(key);
             key.clear();
@@ -57,7 +60,8 @@ std::string normalized(std::string const& path) {
     keys.push_back(key);
     std::sort(keys.begin(), keys.end());
     std::string out = path.substr(0, dot + 1);
-    for (std::size_t i = 0; i < keys.size(); ++i) out += (i ? "," : "") + keys[i];
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        out += (i ? "," : "") + keys[i];
     return out;
 }
 
@@ -66,7 +70,8 @@ std::string normalized(std::string const& path) {
 std::vector<std::string> endsOf(std::string const& associationPath) {
     static std::regex const role(R"((?:^|,)(\w+)=root/\w+:)");
     std::string const keys = associationPath.substr(associationPath.find('.') + 1);
-    std::vector<std::pair<std::size_t, std::size_t>> starts; // where the match begins, where the path begins
+    std::vector<std::pair<std::size_t, std::size_t>>
+        starts; // where the match begins, where the path begins
     for (std::sregex_iterator it(keys.begin(), keys.end(), role), end; it != end; ++it) {
         starts.emplace_back(it->position(0), it->position(0) + it->length(0));
     }
@@ -79,9 +84,9 @@ std::vector<std::string> endsOf(std::string const& associationPath) {
 }
 
 struct Model {
-    std::map<std::string, int> counts;           // by class
-    std::set<std::string> paths;                 // every instance name, normalized
-    std::vector<std::string> associationNames;   // as printed
+    std::map<std::string, int> counts;         // by class
+    std::set<std::string> paths;               // every instance name, normalized
+    std::vector<std::string> associationNames; // as printed
 };
 
 Model modelOf(ModelServer const& server) {
@@ -93,7 +98,8 @@ Model modelOf(ModelServer const& server) {
         for (std::string const& line : lines) {
             std::string const path = WbemcliClient::localPath(line);
             model.paths.insert(normalized(path));
-            if (path.find("=root/") != std::string::npos) model.associationNames.push_back(path);
+            if (path.find("=root/") != std::string::npos)
+                model.associationNames.push_back(path);
         }
     }
     return model;
@@ -104,7 +110,8 @@ std::set<std::string> danglingEnds(Model const& model) {
     std::set<std::string> dangling;
     for (std::string const& association : model.associationNames) {
         for (std::string const& end : endsOf(association)) {
-            if (!model.paths.count(end)) dangling.insert(association.substr(0, association.find('.')) + " " + end);
+            if (!model.paths.count(end))
+                dangling.insert(association.substr(0, association.find('.')) + " " + end);
         }
     }
     return dangling;
@@ -133,7 +140,8 @@ protected:
     // pass after now: the first of them saw the change, and had ended.
     static void awaitTwoPasses(ModelServer const& server) {
         int const from = passes(server);
-        for (int i = 0; i < 600 && passes(server) < from + 2; ++i) std::this_thread::sleep_for(50ms);
+        for (int i = 0; i < 600 && passes(server) < from + 2; ++i)
+            std::this_thread::sleep_for(50ms);
         ASSERT_GE(passes(server), from + 2) << "the worker stopped passing";
     }
 };
@@ -161,10 +169,12 @@ TEST_F(ModelAfterChanges, CountsEqualAFreshStartAndEveryEndResolves) {
         {"pull disk", {"pull-disk NR8K1000"}},
         {"insert disk", {"insert-disk NR8K1000"}},
         {"fail disk", {"fail-disk NR8K1001"}},
-        {"activate spare", {"fail-disk NR8M3000", "activate-spare 600508B1001C7E110000000000000001"}},
+        {"activate spare",
+         {"fail-disk NR8M3000", "activate-spare 600508B1001C7E110000000000000001"}},
         {"delete volume", {"delete-volume 600508B1001C4D2A0000000000000005"}},
         {"create volume",
-         {"create-volume --controller 1 --serial 600508B1001C4D2A00000000000000AA --disks KS2T2010,KS2T2011 "
+         {"create-volume --controller 1 --serial 600508B1001C4D2A00000000000000AA --disks "
+          "KS2T2010,KS2T2011 "
           "--spares KS2T2012"}},
         {"add enclosure", {"add-enclosure --controller 2 --box 7 --serial VNEWBOX7"}},
         {"remove enclosure", {"remove-enclosure 1:2"}},
@@ -172,8 +182,9 @@ TEST_F(ModelAfterChanges, CountsEqualAFreshStartAndEveryEndResolves) {
     for (Change const& change : changes) {
         SCOPED_TRACE(change.what);
         for (std::string const& command : change.commands) {
-            CommandResult const r = runCommand(std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " +
-                                               live.scenario() + " " + command);
+            CommandResult const r =
+                runCommand(std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " +
+                           live.scenario() + " " + command);
             ASSERT_EQ(r.exitCode, 0) << command << "\n" << r.out;
             awaitTwoPasses(live);
         }
@@ -183,7 +194,8 @@ TEST_F(ModelAfterChanges, CountsEqualAFreshStartAndEveryEndResolves) {
 
         std::vector<std::string> dangling;
         for (std::string const& end : danglingEnds(worked)) {
-            if (!accepted.count(end)) dangling.push_back(end);
+            if (!accepted.count(end))
+                dangling.push_back(end);
         }
         EXPECT_EQ(dangling, std::vector<std::string>{});
     }

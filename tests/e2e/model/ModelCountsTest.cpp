@@ -20,25 +20,27 @@ protected:
     static inline std::unique_ptr<ModelServer> server;
 };
 
-std::set<std::string> paths(const std::vector<std::string>& lines) {
+std::set<std::string> paths(std::vector<std::string> const& lines) {
     std::set<std::string> out;
-    for (const auto& line : lines) out.insert(WbemcliClient::localPath(line));
+    for (auto const& line : lines)
+        out.insert(WbemcliClient::localPath(line));
     return out;
 }
 
-std::string systemKeys(const std::string& className, const std::string& systemName) {
+std::string systemKeys(std::string const& className, std::string const& systemName) {
     return className + ".CreationClassName=\"" + className + "\",Name=\"" + systemName + "\"";
 }
 
-}  // namespace
+} // namespace
 
 // Catches a graph step that is skipped, doubled or not registered: every
 // class, association or not, against what the scenario implies.
 TEST_F(ModelCounts, EveryClassHasWhatTheScenarioImplies) {
-    const auto& c = server->client();
+    auto const& c = server->client();
     std::set<std::string> served;
-    for (const auto& line : c.run("ecn", "")) served.insert(WbemcliClient::className(line));
-    for (const auto& [className, count] : server->expected().counts()) {
+    for (auto const& line : c.run("ecn", ""))
+        served.insert(WbemcliClient::className(line));
+    for (auto const& [className, count] : server->expected().counts()) {
         SCOPED_TRACE(className);
         EXPECT_TRUE(served.count(className)) << "class not served";
         EXPECT_EQ(static_cast<int>(c.run("ein", className).size()), count);
@@ -53,22 +55,24 @@ TEST_F(ModelCounts, EveryClassHasWhatTheScenarioImplies) {
 // Catches identity drift: systems, controllers, disks and enclosures keyed
 // exactly as the identity rules give them for the scenario's hardware.
 TEST_F(ModelCounts, KeysFollowTheIdentityRules) {
-    const auto& c = server->client();
+    auto const& c = server->client();
     std::set<std::string> systems, controllers, disks, enclosures, processors;
-    for (const auto& ctl : server->expected().controllers()) {
+    for (auto const& ctl : server->expected().controllers()) {
         ASSERT_FALSE(ctl.serial.empty()) << "the demo's controllers have serial numbers";
         systems.insert(systemKeys("QLN_VDArraySystem", Expect::systemName(ctl)));
         controllers.insert(systemKeys("QLN_VDArrayController", Expect::systemName(ctl)));
-        for (const auto& d : ctl.disks)
-            disks.insert("QLN_VDDiskDrive.SystemCreationClassName=\"QLN_VDArraySystem\",CreationClassName="
-                         "\"QLN_VDDiskDrive\",SystemName=\"" + Expect::systemName(ctl) + "\",DeviceID=\"" +
-                         Expect::diskDeviceId(ctl, d) + "\"");
-        for (const auto& e : ctl.enclosures) {
-            enclosures.insert("QLN_VDStorageEnclosure.CreationClassName=\"QLN_VDStorageEnclosure\",Tag=\"" +
-                              Expect::enclosureTag(ctl, e) + "\"");
-            processors.insert(
-                "QLN_VDStorageEnclosureProcessor.CreationClassName=\"QLN_VDStorageEnclosureProcessor\",Name=\"" +
+        for (auto const& d : ctl.disks)
+            disks.insert(
+                "QLN_VDDiskDrive.SystemCreationClassName=\"QLN_VDArraySystem\",CreationClassName="
+                "\"QLN_VDDiskDrive\",SystemName=\"" +
+                Expect::systemName(ctl) + "\",DeviceID=\"" + Expect::diskDeviceId(ctl, d) + "\"");
+        for (auto const& e : ctl.enclosures) {
+            enclosures.insert(
+                "QLN_VDStorageEnclosure.CreationClassName=\"QLN_VDStorageEnclosure\",Tag=\"" +
                 Expect::enclosureTag(ctl, e) + "\"");
+            processors.insert("QLN_VDStorageEnclosureProcessor.CreationClassName=\"QLN_"
+                              "VDStorageEnclosureProcessor\",Name=\"" +
+                              Expect::enclosureTag(ctl, e) + "\"");
         }
     }
     EXPECT_EQ(paths(c.run("ein", "QLN_VDArraySystem")), systems);
@@ -78,8 +82,9 @@ TEST_F(ModelCounts, KeysFollowTheIdentityRules) {
     EXPECT_EQ(paths(c.run("ein", "QLN_VDStorageEnclosureProcessor")), processors);
     // A serial-less disk must be among them, or the location-based rule went untested.
     bool locationKeyed = false;
-    for (const auto& ctl : server->expected().controllers())
-        for (const auto& d : ctl.disks) locationKeyed |= d.serial.empty();
+    for (auto const& ctl : server->expected().controllers())
+        for (auto const& d : ctl.disks)
+            locationKeyed |= d.serial.empty();
     EXPECT_TRUE(locationKeyed);
 }
 
@@ -89,32 +94,38 @@ TEST_F(ModelCounts, KeysFollowTheIdentityRules) {
 // system, the controller and every disk agree on that name.
 TEST(ModelKeysWithoutSerial, ControllersAreNamedByLocation) {
     YAML::Node scenario = YAML::LoadFile(demo);
-    for (auto c : scenario["controllers"]) c.remove("serialNumber");
+    for (auto c : scenario["controllers"])
+        c.remove("serialNumber");
     YAML::Emitter out;
     out << scenario;
     ModelServer server(demo, out.c_str());
-    const auto& c = server.client();
+    auto const& c = server.client();
 
-    auto keyValue = [](const std::string& line, const std::string& key) {
+    auto keyValue = [](std::string const& line, std::string const& key) {
         std::string path = WbemcliClient::localPath(line);
         size_t at = path.find("," + key + "=\"");
-        if (at == std::string::npos) at = path.find("." + key + "=\"");
-        if (at == std::string::npos) return std::string();
+        if (at == std::string::npos)
+            at = path.find("." + key + "=\"");
+        if (at == std::string::npos)
+            return std::string();
         at += key.size() + 3;
         return path.substr(at, path.find('"', at) - at);
     };
     std::set<std::string> names;
-    for (const auto& line : c.run("ein", "QLN_VDArraySystem")) names.insert(keyValue(line, "Name"));
+    for (auto const& line : c.run("ein", "QLN_VDArraySystem"))
+        names.insert(keyValue(line, "Name"));
     ASSERT_EQ(names.size(), 2u);
-    for (const char* prefix : {"PCISLOT-", "EMBEDDED-"}) {
-        auto found = std::find_if(names.begin(), names.end(), [&](const std::string& n) {
+    for (char const* prefix : {"PCISLOT-", "EMBEDDED-"}) {
+        auto found = std::find_if(names.begin(), names.end(), [&](std::string const& n) {
             return n.rfind(prefix, 0) == 0 && n.size() > std::string(prefix).size();
         });
         EXPECT_NE(found, names.end()) << prefix << " missing";
     }
     std::set<std::string> controllerNames, diskSystems;
-    for (const auto& line : c.run("ein", "QLN_VDArrayController")) controllerNames.insert(keyValue(line, "Name"));
-    for (const auto& line : c.run("ein", "QLN_VDDiskDrive")) diskSystems.insert(keyValue(line, "SystemName"));
+    for (auto const& line : c.run("ein", "QLN_VDArrayController"))
+        controllerNames.insert(keyValue(line, "Name"));
+    for (auto const& line : c.run("ein", "QLN_VDDiskDrive"))
+        diskSystems.insert(keyValue(line, "SystemName"));
     EXPECT_EQ(controllerNames, names);
     EXPECT_EQ(diskSystems, names);
 }
@@ -124,24 +135,29 @@ TEST(ModelKeysWithoutSerial, ControllersAreNamedByLocation) {
 // CIM_LogicalDevice or filters associations by CIM_Component and gets what
 // the concrete classes give together.
 TEST_F(ModelCounts, SchemaBaseClassesFindTheirSubclassesInstances) {
-    const auto& c = server->client();
+    auto const& c = server->client();
     std::set<std::string> devices;
-    for (const auto& line : c.run("ecn", "CIM_LogicalDevice")) devices.insert(WbemcliClient::className(line));
+    for (auto const& line : c.run("ecn", "CIM_LogicalDevice"))
+        devices.insert(WbemcliClient::className(line));
     ASSERT_TRUE(devices.count("QLN_VDDiskDrive"));
     ASSERT_TRUE(devices.count("QLN_VDStorageVolume"));
     ASSERT_FALSE(devices.count("QLN_VDArraySystem"));
     int expected = 0;
-    for (const auto& [className, count] : server->expected().counts())
-        if (devices.count(className)) expected += count;
-    const auto found = c.run("ein", "CIM_LogicalDevice");
+    for (auto const& [className, count] : server->expected().counts())
+        if (devices.count(className))
+            expected += count;
+    auto const found = c.run("ein", "CIM_LogicalDevice");
     EXPECT_EQ(static_cast<int>(found.size()), expected);
-    for (const auto& line : found) EXPECT_TRUE(devices.count(WbemcliClient::className(line))) << line;
+    for (auto const& line : found)
+        EXPECT_TRUE(devices.count(WbemcliClient::className(line))) << line;
 
-    const std::string system = systemKeys("QLN_VDArraySystem", Expect::systemName(server->expected().controllers().front()));
+    const std::string system = systemKeys(
+        "QLN_VDArraySystem", Expect::systemName(server->expected().controllers().front()));
     std::set<std::string> byEach;
-    for (const auto& line : c.run("ecn", "CIM_Component"))
-        for (const auto& end : c.run("ain", system, "-ac " + WbemcliClient::className(line))) byEach.insert(end);
-    const auto byBase = c.run("ain", system, "-ac CIM_Component");
+    for (auto const& line : c.run("ecn", "CIM_Component"))
+        for (auto const& end : c.run("ain", system, "-ac " + WbemcliClient::className(line)))
+            byEach.insert(end);
+    auto const byBase = c.run("ain", system, "-ac CIM_Component");
     EXPECT_EQ(std::set<std::string>(byBase.begin(), byBase.end()), byEach);
     EXPECT_EQ(byBase.size(), 72u) << "the figure SFCB with the DMTF schema gives for this system";
 }

@@ -13,14 +13,17 @@ using Expect = ScenarioExpectation;
 
 class ModelIdentify : public ::testing::Test {
 protected:
-    static void SetUpTestSuite() { server = std::make_unique<ModelServer>(VELDRA_DATA_DIR "/scenarios/demo.yaml"); }
+    static void SetUpTestSuite() {
+        server = std::make_unique<ModelServer>(VELDRA_DATA_DIR "/scenarios/demo.yaml");
+    }
     static void TearDownTestSuite() { server.reset(); }
     static inline std::unique_ptr<ModelServer> server;
 
     // Calls Identify and returns the locator requests it added.
-    static std::string identify(const std::string& path, int seconds) {
+    static std::string identify(std::string const& path, int seconds) {
         std::string before = server->locatorLog();
-        auto out = server->client().run("cm", path, "", "Identify.Duration=" + std::to_string(seconds));
+        auto out =
+            server->client().run("cm", path, "", "Identify.Duration=" + std::to_string(seconds));
         EXPECT_EQ(out.size(), 1u);
         if (!out.empty()) {
             EXPECT_NE(out.front().find("Identify: 0"), std::string::npos) << out.front();
@@ -28,26 +31,29 @@ protected:
         std::string after = server->locatorLog();
         return after.substr(std::min(before.size(), after.size()));
     }
-    static std::string devicePath(const std::string& className, const Expect::Controller& c, const std::string& id) {
-        return className + ".SystemCreationClassName=\"QLN_VDArraySystem\",CreationClassName=\"" + className +
-               "\",SystemName=\"" + Expect::systemName(c) + "\",DeviceID=\"" + id + "\"";
+    static std::string devicePath(std::string const& className, Expect::Controller const& c,
+                                  std::string const& id) {
+        return className + ".SystemCreationClassName=\"QLN_VDArraySystem\",CreationClassName=\"" +
+               className + "\",SystemName=\"" + Expect::systemName(c) + "\",DeviceID=\"" + id +
+               "\"";
     }
 };
 
 // Each added line: "<time> controller N <what> duration D".
-void expectRequest(const std::string& added, const std::string& what) {
+void expectRequest(std::string const& added, std::string const& what) {
     EXPECT_EQ(std::count(added.begin(), added.end(), '\n'), 1) << added;
-    EXPECT_NE(added.find(what + "\n"), std::string::npos) << "expected \"" << what << "\" in: " << added;
+    EXPECT_NE(added.find(what + "\n"), std::string::npos)
+        << "expected \"" << what << "\" in: " << added;
 }
 
-}  // namespace
+} // namespace
 
 // Catches Identify landing on the wrong controller or disks, or the
 // duration not scaled: an array system blinks all its disks, a volume its
 // members (spares included), a disk itself; on both controllers.
 TEST_F(ModelIdentify, ArraySystemVolumeAndDiskAreRecorded) {
     int seconds = 3;
-    for (const auto& c : server->expected().controllers()) {
+    for (auto const& c : server->expected().controllers()) {
         SCOPED_TRACE(Expect::systemName(c));
         const std::string n = std::to_string(c.index);
         expectRequest(identify("QLN_VDArraySystem.CreationClassName=\"QLN_VDArraySystem\",Name=\"" +
@@ -57,16 +63,19 @@ TEST_F(ModelIdentify, ArraySystemVolumeAndDiskAreRecorded) {
         ++seconds;
 
         ASSERT_FALSE(c.volumes.empty());
-        const Expect::Volume& v = c.volumes.front();
+        Expect::Volume const& v = c.volumes.front();
         std::string serials;
-        for (const Expect::Disk* d : Expect::members(c, v)) serials += (serials.empty() ? "" : ",") + d->serial;
+        for (Expect::Disk const* d : Expect::members(c, v))
+            serials += (serials.empty() ? "" : ",") + d->serial;
         expectRequest(identify(devicePath("QLN_VDStorageVolume", c, v.serial), seconds),
-                      "controller " + n + " disks " + serials + " duration " + std::to_string(seconds * 10));
+                      "controller " + n + " disks " + serials + " duration " +
+                          std::to_string(seconds * 10));
         ++seconds;
 
-        const Expect::Disk& d = c.disks.back().serial.empty() ? c.disks.front() : c.disks.back();
-        expectRequest(identify(devicePath("QLN_VDDiskDrive", c, Expect::diskDeviceId(c, d)), seconds),
-                      "controller " + n + " disks " + d.serial + " duration " + std::to_string(seconds * 10));
+        Expect::Disk const& d = c.disks.back().serial.empty() ? c.disks.front() : c.disks.back();
+        expectRequest(
+            identify(devicePath("QLN_VDDiskDrive", c, Expect::diskDeviceId(c, d)), seconds),
+            "controller " + n + " disks " + d.serial + " duration " + std::to_string(seconds * 10));
         ++seconds;
     }
     // The repository's own scenario folder is not written to.

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <sstream>
 
-ModelServer::ModelServer(const std::string& scenarioFile, const std::string& scenarioText) {
+ModelServer::ModelServer(std::string const& scenarioFile, std::string const& scenarioText) {
     static std::atomic<int> serial{0};
     _dir = std::filesystem::temp_directory_path() /
            ("veldra-model-e2e-" + std::to_string(getpid()) + "-" + std::to_string(serial++));
@@ -17,9 +17,10 @@ ModelServer::ModelServer(const std::string& scenarioFile, const std::string& sce
     else
         std::ofstream(_scenario) << scenarioText;
     _expected = std::make_unique<ScenarioExpectation>(_scenario.string());
-    _cimd = std::make_unique<CimdProcess>(std::vector<std::string>{
-        "--scenario", _scenario.string(), "--registration", VELDRA_DATA_DIR "/registration/veldra-cimd.yaml",
-        "--mof-dir", VELDRA_DATA_DIR "/mof", "--provider-dir", VELDRA_LIB_DIR});
+    _cimd = std::make_unique<CimdProcess>(
+        std::vector<std::string>{"--scenario", _scenario.string(), "--registration",
+                                 VELDRA_DATA_DIR "/registration/veldra-cimd.yaml", "--mof-dir",
+                                 VELDRA_DATA_DIR "/mof", "--provider-dir", VELDRA_LIB_DIR});
     _client = std::make_unique<WbemcliClient>(_cimd->port());
 }
 

@@ -14,11 +14,11 @@
 class ModelServer {
 public:
     // `scenarioText` empty: the file at `scenarioFile` as it is.
-    explicit ModelServer(const std::string& scenarioFile, const std::string& scenarioText = "");
+    explicit ModelServer(std::string const& scenarioFile, std::string const& scenarioText = "");
     ~ModelServer();
 
-    const WbemcliClient& client() const { return *_client; }
-    const ScenarioExpectation& expected() const { return *_expected; }
+    WbemcliClient const& client() const { return *_client; }
+    ScenarioExpectation const& expected() const { return *_expected; }
     std::string scenario() const { return _scenario.string(); }
     // The locator requests the simulated controllers recorded so far.
     std::string locatorLog() const;

@@ -21,8 +21,9 @@ const std::string demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
 // one model share a DeviceID, and one instance stands for them.
 std::size_t extentsOf(const YAML::Node& controller) {
     std::set<std::string> ids;
-    for (const auto& disk : controller["physicalDisks"]) {
-        std::string id = disk["model"].as<std::string>("") + "-" + disk["serialNumber"].as<std::string>("");
+    for (auto const& disk : controller["physicalDisks"]) {
+        std::string id =
+            disk["model"].as<std::string>("") + "-" + disk["serialNumber"].as<std::string>("");
         id.erase(std::remove(id.begin(), id.end(), ' '), id.end());
         ids.insert(id);
     }
@@ -36,14 +37,15 @@ protected:
         view = std::make_unique<WbemcliClient>(server->port(), "root/cimv2");
     }
 
-    void sim(const std::string& command) const {
-        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + server->scenario() + " " +
-                                 command + " > /dev/null";
+    void sim(std::string const& command) const {
+        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " +
+                                 server->scenario() + " " + command + " > /dev/null";
         ASSERT_EQ(std::system(line.c_str()), 0) << line;
     }
 
     void pass() const {
-        auto const out = server->client().run("cm", "QLN_AutoStartVeldra.ProviderName=\"QLNVeldra\"", "", "PerformWork");
+        auto const out = server->client().run(
+            "cm", "QLN_AutoStartVeldra.ProviderName=\"QLNVeldra\"", "", "PerformWork");
         ASSERT_EQ(out.size(), 1u);
         EXPECT_NE(out.front().find("PerformWork: 0"), std::string::npos) << out.front();
     }
@@ -51,10 +53,11 @@ protected:
     // Whole answer lines of the extents, by the controller named in them.
     std::map<int, std::set<std::string>> extentLines() const {
         std::map<int, std::set<std::string>> byController;
-        for (const auto& line : view->run("ei", "DRSV_VDStorageExtent")) {
+        for (auto const& line : view->run("ei", "DRSV_VDStorageExtent")) {
             for (int controller : {1, 2}) {
                 if (line.find("Caption=\"Disk ") != std::string::npos &&
-                    line.find(" on DRVD" + std::to_string(controller) + "\"") != std::string::npos) {
+                    line.find(" on DRVD" + std::to_string(controller) + "\"") !=
+                        std::string::npos) {
                     byController[controller].insert(line);
                 }
             }
@@ -66,7 +69,7 @@ protected:
     std::unique_ptr<WbemcliClient> view;
 };
 
-}  // namespace
+} // namespace
 
 // Catches a class routed to the wrong namespace or not at all, and a view
 // made for some controllers or disks only.
@@ -74,7 +77,7 @@ TEST_F(ModelView, CountsInRootCimv2FollowTheScenario) {
     YAML::Node const scenario = YAML::LoadFile(demo);
     std::size_t volumes = 0;
     std::size_t extents = 0;
-    for (const auto& controller : scenario["controllers"]) {
+    for (auto const& controller : scenario["controllers"]) {
         volumes += controller["logicalDisks"].size();
         extents += extentsOf(controller);
     }
@@ -85,20 +88,24 @@ TEST_F(ModelView, CountsInRootCimv2FollowTheScenario) {
                                                       {"DRSV_VDStorageVolume", volumes},
                                                       {"DRSV_VDStorageExtent", extents}};
     std::set<std::string> served;
-    for (const auto& line : view->run("ecn", "")) served.insert(WbemcliClient::className(line));
-    for (const auto& [className, count] : expected) {
+    for (auto const& line : view->run("ecn", ""))
+        served.insert(WbemcliClient::className(line));
+    for (auto const& [className, count] : expected) {
         SCOPED_TRACE(className);
         EXPECT_TRUE(served.count(className));
         EXPECT_EQ(view->run("ein", className).size(), count);
     }
     // The two namespaces keep their classes apart.
-    for (const auto& line : server->client().run("ecn", "")) {
+    for (auto const& line : server->client().run("ecn", "")) {
         EXPECT_EQ(WbemcliClient::className(line).rfind("DRSV_", 0), std::string::npos) << line;
     }
 
-    auto const one = view->run("gi", "DRSV_VDController.CreationClassName=\"DRSV_VDController\",Name=\"vmwControllerDRVD2\"");
+    auto const one = view->run(
+        "gi",
+        "DRSV_VDController.CreationClassName=\"DRSV_VDController\",Name=\"vmwControllerDRVD2\"");
     ASSERT_EQ(one.size(), 1u);
-    EXPECT_NE(one.front().find("ElementName=\"QLNVeldra 8i Controller : Embedded : DRVD2\""), std::string::npos)
+    EXPECT_NE(one.front().find("ElementName=\"QLNVeldra 8i Controller : Embedded : DRVD2\""),
+              std::string::npos)
         << one.front();
 }
 
@@ -117,7 +124,7 @@ TEST_F(ModelView, PulledDiskRebuildsThatControllersExtentsOnly) {
     ASSERT_EQ(after.size(), 2u);
     EXPECT_EQ(after.at(2), before.at(2));
     EXPECT_EQ(after.at(1).size(), before.at(1).size() - 1);
-    for (const auto& line : after.at(1)) {
+    for (auto const& line : after.at(1)) {
         EXPECT_EQ(line.find("NR8K1007"), std::string::npos) << line;
     }
 }
@@ -134,7 +141,8 @@ TEST_F(ModelView, EnumerationsBesidePassesAreWhole) {
             try {
                 auto const names = view->run("ein", "DRSV_VDStorageExtent");
                 std::set<std::string> const distinct(names.begin(), names.end());
-                if (distinct.size() != names.size() || (names.size() != full && names.size() != full - 1)) {
+                if (distinct.size() != names.size() ||
+                    (names.size() != full && names.size() != full - 1)) {
                     ++bad;
                 }
                 view->run("ei", "DRSV_VDStorageVolume");
@@ -145,13 +153,15 @@ TEST_F(ModelView, EnumerationsBesidePassesAreWhole) {
         }
     };
     std::vector<std::thread> clients;
-    for (int i = 0; i < 3; ++i) clients.emplace_back(client);
+    for (int i = 0; i < 3; ++i)
+        clients.emplace_back(client);
     for (int round = 0; round < 8; ++round) {
         sim(round % 2 == 0 ? "pull-disk NR8K1007" : "insert-disk NR8K1007");
         pass();
     }
     done = true;
-    for (auto& t : clients) t.join();
+    for (auto& t : clients)
+        t.join();
     EXPECT_GT(answers.load(), 0);
     EXPECT_EQ(bad.load(), 0);
 }

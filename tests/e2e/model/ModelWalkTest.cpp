@@ -26,17 +26,21 @@ public:
 
     // The <IRETURNVALUE> of an intrinsic call; fails the test on anything but
     // a timely 200 without ERROR, or with the one error code `allowed`.
-    pugi::xml_node call(const std::string& method, const std::string& params, pugi::xml_document& doc,
-                        const char* allowed = nullptr) {
-        std::string body =
-            "<?xml version=\"1.0\" encoding=\"utf-8\"?><CIM CIMVERSION=\"2.0\" DTDVERSION=\"2.0\"><MESSAGE ID=\"1\" "
-            "PROTOCOLVERSION=\"1.0\"><SIMPLEREQ><IMETHODCALL NAME=\"" + method +
-            "\"><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH>" + params +
-            "</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>";
-        httplib::Headers headers{{"CIMOperation", "MethodCall"}, {"CIMMethod", method}, {"CIMObject", "root%2Fmwq"}};
+    pugi::xml_node call(std::string const& method, std::string const& params,
+                        pugi::xml_document& doc, char const* allowed = nullptr) {
+        std::string body = "<?xml version=\"1.0\" encoding=\"utf-8\"?><CIM CIMVERSION=\"2.0\" "
+                           "DTDVERSION=\"2.0\"><MESSAGE ID=\"1\" "
+                           "PROTOCOLVERSION=\"1.0\"><SIMPLEREQ><IMETHODCALL NAME=\"" +
+                           method +
+                           "\"><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/><NAMESPACE "
+                           "NAME=\"mwq\"/></LOCALNAMESPACEPATH>" +
+                           params + "</IMETHODCALL></SIMPLEREQ></MESSAGE></CIM>";
+        httplib::Headers headers{
+            {"CIMOperation", "MethodCall"}, {"CIMMethod", method}, {"CIMObject", "root%2Fmwq"}};
         auto reply = _client.Post("/cimom", headers, body, "application/xml; charset=\"utf-8\"");
         if (!reply) {
-            ADD_FAILURE() << method << " got no answer within " << answerBoundSeconds << " s: " << params;
+            ADD_FAILURE() << method << " got no answer within " << answerBoundSeconds
+                          << " s: " << params;
             return {};
         }
         EXPECT_EQ(reply->status, 200) << method << " " << params;
@@ -47,7 +51,8 @@ public:
         auto response = doc.select_node("//IMETHODRESPONSE").node();
         if (auto error = response.child("ERROR")) {
             if (allowed == nullptr || std::string(error.attribute("CODE").value()) != allowed) {
-                ADD_FAILURE() << method << " " << params << " failed: " << error.attribute("CODE").value() << " "
+                ADD_FAILURE() << method << " " << params
+                              << " failed: " << error.attribute("CODE").value() << " "
                               << error.attribute("DESCRIPTION").value();
             }
             return {};
@@ -59,13 +64,13 @@ private:
     httplib::Client _client;
 };
 
-std::string xml(const pugi::xml_node& node) {
+std::string xml(pugi::xml_node const& node) {
     std::ostringstream out;
     node.print(out, "", pugi::format_raw);
     return out.str();
 }
 
-std::string param(const char* name, const std::string& value) {
+std::string param(char const* name, std::string const& value) {
     return std::string("<IPARAMVALUE NAME=\"") + name + "\">" + value + "</IPARAMVALUE>";
 }
 
@@ -75,7 +80,8 @@ std::string param(const char* name, const std::string& value) {
 void walkEverything(ModelServer& server) {
     RawCim cim(server.port());
     pugi::xml_document classes;
-    auto names = cim.call("EnumerateClassNames", param("DeepInheritance", "<VALUE>TRUE</VALUE>"), classes);
+    auto names =
+        cim.call("EnumerateClassNames", param("DeepInheritance", "<VALUE>TRUE</VALUE>"), classes);
     ASSERT_TRUE(names);
     std::set<std::string> listed, named;
     for (auto const& className : names.children("CLASSNAME")) {
@@ -88,15 +94,17 @@ void walkEverything(ModelServer& server) {
         }
     }
     ASSERT_GT(listed.size(), 100u);
-    for (auto const& target : listed) named.erase(target);
-    std::printf("walking %zu listed instance names and %zu ends named only by associations\n", listed.size(),
-                named.size());
+    for (auto const& target : listed)
+        named.erase(target);
+    std::printf("walking %zu listed instance names and %zu ends named only by associations\n",
+                listed.size(), named.size());
     for (auto const* group : {&listed, &named}) {
         for (auto const& target : *group) {
             SCOPED_TRACE(target);
             pugi::xml_document a, b, c, d, e;
             // An end named only by an association may be gone: not found is its answer.
-            auto got = cim.call("GetInstance", param("InstanceName", target), a, group == &named ? "6" : nullptr);
+            auto got = cim.call("GetInstance", param("InstanceName", target), a,
+                                group == &named ? "6" : nullptr);
             if (group == &listed) {
                 EXPECT_TRUE(got.child("INSTANCE"));
             }
@@ -104,26 +112,30 @@ void walkEverything(ModelServer& server) {
             cim.call("AssociatorNames", param("ObjectName", target), c);
             cim.call("References", param("ObjectName", target), d);
             cim.call("ReferenceNames", param("ObjectName", target), e);
-            if (::testing::Test::HasFailure()) return;
+            if (::testing::Test::HasFailure())
+                return;
         }
     }
 }
 
 // The demo scenario with getters failing on every controller and volume:
 // instances whose properties cannot all be read must still answer.
-std::string withFailingGetters(const std::string& scenarioFile) {
+std::string withFailingGetters(std::string const& scenarioFile) {
     YAML::Node scenario = YAML::LoadFile(scenarioFile);
     for (auto controller : scenario["controllers"]) {
-        controller["fail"] = std::vector<std::string>{"getPhysloc", "getModel", "getPCIInfo", "getEncryptionStatus"};
-        for (auto volume : controller["logicalDisks"]) volume["fail"] = std::vector<std::string>{"getEncryptionStatus"};
-        for (auto disk : controller["physicalDisks"]) disk["fail"] = std::vector<std::string>{"getEncryptionStatus"};
+        controller["fail"] =
+            std::vector<std::string>{"getPhysloc", "getModel", "getPCIInfo", "getEncryptionStatus"};
+        for (auto volume : controller["logicalDisks"])
+            volume["fail"] = std::vector<std::string>{"getEncryptionStatus"};
+        for (auto disk : controller["physicalDisks"])
+            disk["fail"] = std::vector<std::string>{"getEncryptionStatus"};
     }
     YAML::Emitter out;
     out << scenario;
     return out.c_str();
 }
 
-}  // namespace
+} // namespace
 
 TEST(ModelWalk, EveryPathOfTheDemoAnswersEveryOperation) {
     ModelServer server(VELDRA_DATA_DIR "/scenarios/demo.yaml");
@@ -144,14 +156,16 @@ TEST(ModelWalk, EveryPathKeysOnExactlyTheKeysOfItsClass) {
     ModelServer server(VELDRA_DATA_DIR "/scenarios/demo.yaml");
     RawCim cim(server.port());
     pugi::xml_document classes;
-    auto names = cim.call("EnumerateClassNames", param("DeepInheritance", "<VALUE>TRUE</VALUE>"), classes);
+    auto names =
+        cim.call("EnumerateClassNames", param("DeepInheritance", "<VALUE>TRUE</VALUE>"), classes);
     ASSERT_TRUE(names);
     std::size_t checked = 0;
     for (auto const& className : names.children("CLASSNAME")) {
         std::string const cls = className.attribute("NAME").value();
         pugi::xml_document classAnswer, instances;
         auto decl = cim.call("GetClass",
-                             param("ClassName", xml(className)) + param("LocalOnly", "<VALUE>FALSE</VALUE>"),
+                             param("ClassName", xml(className)) +
+                                 param("LocalOnly", "<VALUE>FALSE</VALUE>"),
                              classAnswer);
         std::set<std::string> declared;
         for (auto const& key : decl.select_nodes(".//*[QUALIFIER[@NAME='Key']]"))
@@ -159,22 +173,27 @@ TEST(ModelWalk, EveryPathKeysOnExactlyTheKeysOfItsClass) {
         auto found = cim.call("EnumerateInstances", param("ClassName", xml(className)), instances);
         for (auto const& named : found.children("VALUE.NAMEDINSTANCE")) {
             auto const instance = named.child("INSTANCE");
-            if (std::string(instance.attribute("CLASSNAME").value()) != cls) continue;  // a subclass's own turn
+            if (std::string(instance.attribute("CLASSNAME").value()) != cls)
+                continue; // a subclass's own turn
             SCOPED_TRACE(xml(named.child("INSTANCENAME")));
             std::set<std::string> bound;
             for (auto const& binding : named.child("INSTANCENAME").children("KEYBINDING")) {
                 std::string const key = binding.attribute("NAME").value();
                 bound.insert(key);
                 auto const value = binding.child("KEYVALUE");
-                if (!value) continue;  // a reference: its ends are walked above
+                if (!value)
+                    continue; // a reference: its ends are walked above
                 auto const property =
-                    instance.find_child_by_attribute("PROPERTY", "NAME", key.c_str()).child("VALUE");
-                EXPECT_EQ(std::string(property.text().get()), std::string(value.text().get())) << key;
+                    instance.find_child_by_attribute("PROPERTY", "NAME", key.c_str())
+                        .child("VALUE");
+                EXPECT_EQ(std::string(property.text().get()), std::string(value.text().get()))
+                    << key;
             }
             EXPECT_EQ(bound, declared) << cls;
             ++checked;
         }
-        if (::testing::Test::HasFailure()) return;
+        if (::testing::Test::HasFailure())
+            return;
     }
     EXPECT_GT(checked, 500u);
 }

@@ -9,59 +9,63 @@
 
 namespace {
 
-std::string text(const YAML::Node& node, const char* key) {
+std::string text(const YAML::Node& node, char const* key) {
     return node[key] ? node[key].as<std::string>() : std::string();
 }
 
-template <typename T>
-T number(const YAML::Node& node, const char* key, T fallback) {
+template <typename T> T number(const YAML::Node& node, char const* key, T fallback) {
     return node[key] ? node[key].as<T>() : fallback;
 }
 
 std::vector<unsigned> ids(const YAML::Node& node) {
     std::vector<unsigned> out;
     if (node)
-        for (const auto& id : node) out.push_back(id.as<unsigned>());
+        for (auto const& id : node)
+            out.push_back(id.as<unsigned>());
     return out;
 }
 
-std::string withoutWhitespace(const std::string& in) {
+std::string withoutWhitespace(std::string const& in) {
     std::string out;
-    std::copy_if(in.begin(), in.end(), std::back_inserter(out), [](unsigned char c) { return !std::isspace(c); });
+    std::copy_if(in.begin(), in.end(), std::back_inserter(out),
+                 [](unsigned char c) { return !std::isspace(c); });
     return out;
 }
 
 // The back end tells disks apart by serial number; only a disk without one
 // is known by its box and bay.
-bool sameDisk(const ScenarioExpectation::Disk& member, const ScenarioExpectation::Disk& entry) {
-    if (!entry.serial.empty()) return entry.serial == member.serial;
-    return member.serial.empty() && member.enclosureBox == entry.enclosureBox && member.bay == entry.bay;
+bool sameDisk(ScenarioExpectation::Disk const& member, ScenarioExpectation::Disk const& entry) {
+    if (!entry.serial.empty())
+        return entry.serial == member.serial;
+    return member.serial.empty() && member.enclosureBox == entry.enclosureBox &&
+           member.bay == entry.bay;
 }
 
-}  // namespace
+} // namespace
 
-ScenarioExpectation::ScenarioExpectation(const std::string& scenarioFile) {
+ScenarioExpectation::ScenarioExpectation(std::string const& scenarioFile) {
     _load(scenarioFile);
     _count();
 }
 
-void ScenarioExpectation::_load(const std::string& scenarioFile) {
+void ScenarioExpectation::_load(std::string const& scenarioFile) {
     YAML::Node root = YAML::LoadFile(scenarioFile);
     int index = 0;
-    for (const auto& c : root["controllers"]) {
+    for (auto const& c : root["controllers"]) {
         Controller controller;
         controller.index = ++index;
         controller.serial = text(c, "serialNumber");
         if (c["ports"])
-            for (const auto& p : c["ports"]) controller.ports.push_back(p.as<std::string>());
-        for (const auto& e : c["enclosures"]) {
+            for (auto const& p : c["ports"])
+                controller.ports.push_back(p.as<std::string>());
+        for (auto const& e : c["enclosures"]) {
             Enclosure enclosure;
             enclosure.enclosureBox = number(e, "enclosureBoxNumber", 0);
             enclosure.box = number(e, "boxNumber", 0);
             enclosure.fwVersion = text(e, "fwVersion");
             controller.enclosures.push_back(enclosure);
         }
-        for (const auto& d : c["physicalDisks"]) {
+        for (auto const& d : c["physicalDisks"]) {
             Disk disk;
             disk.id = number(d, "id", 0u);
             disk.serial = text(d, "serialNumber");
@@ -73,10 +77,11 @@ void ScenarioExpectation::_load(const std::string& scenarioFile) {
             disk.mnpData = number(d, "mnpData", false);
             disk.carrierAuthStatus = number(d, "carrierAuthStatus", 0u);
             if (d["paths"])
-                for (const auto& p : d["paths"]) disk.paths.push_back({text(p, "port")});
+                for (auto const& p : d["paths"])
+                    disk.paths.push_back({text(p, "port")});
             controller.disks.push_back(disk);
         }
-        for (const auto& v : c["logicalDisks"]) {
+        for (auto const& v : c["logicalDisks"]) {
             Volume volume;
             volume.number = number(v, "number", 0u);
             volume.serial = text(v, "serialNumber");
@@ -85,54 +90,70 @@ void ScenarioExpectation::_load(const std::string& scenarioFile) {
             volume.dataDisks = ids(v["dataDisks"]);
             volume.spareDisks = ids(v["spareDisks"]);
             if (v["replaced"])
-                for (const auto& r : v["replaced"]) volume.replaced[r.first.as<unsigned>()] = r.second.as<unsigned>();
+                for (auto const& r : v["replaced"])
+                    volume.replaced[r.first.as<unsigned>()] = r.second.as<unsigned>();
             controller.volumes.push_back(volume);
         }
         _controllers.push_back(controller);
     }
-    if (_controllers.empty()) throw std::runtime_error(scenarioFile + ": no controllers");
+    if (_controllers.empty())
+        throw std::runtime_error(scenarioFile + ": no controllers");
 }
 
-void ScenarioExpectation::_add(const std::string& className, int n) { _counts[className] += n; }
+void ScenarioExpectation::_add(std::string const& className, int n) {
+    _counts[className] += n;
+}
 
 // The graph builder carries its pool, cage, initiator, extent and cache
 // volume lists from one controller to the next; the counts follow it.
 void ScenarioExpectation::_count() {
     // Every class appears in the table, with 0 where the scenario gives none.
     auto zero = [this](auto& names) {
-        for (const char* name : names) _counts[name] += 0;
+        for (const char* name : names)
+            _counts[name] += 0;
     };
-    zero(perController), zero(perControllerHost), zero(perInitiatorPort), zero(perEnclosure), zero(perEnclosureFirmware), zero(perDisk);
-    zero(perDiskPath), zero(perDiskFirmware), zero(perCarrier), zero(perStatistics), zero(perVolume);
-    for (const char* name :
-         {"QLN_VDStorageCapabilities", "QLN_VDSCSIInitiatorTargetLogicalUnitPath", "QLN_VDStoragePoolStorageExtent",
-          "QLN_VDDriveCageDiskPhysicalPackage", "QLN_VDStoragePoolStorageVolume", "QLN_VDStorageExtentStorageVolume",
-          "QLN_VDStorageRedundancySet", "QLN_VDSpareExtentStorageRedundancySet", "QLN_VDSpareExtentStorageExtent",
-          "QLN_VDStorageRedundancySetStorageExtent", "QLN_VDCacheVolumeStorageVolume"})
+    zero(perController), zero(perControllerHost), zero(perInitiatorPort), zero(perEnclosure),
+        zero(perEnclosureFirmware), zero(perDisk);
+    zero(perDiskPath), zero(perDiskFirmware), zero(perCarrier), zero(perStatistics),
+        zero(perVolume);
+    for (char const* name :
+         {"QLN_VDStorageCapabilities", "QLN_VDSCSIInitiatorTargetLogicalUnitPath",
+          "QLN_VDStoragePoolStorageExtent", "QLN_VDDriveCageDiskPhysicalPackage",
+          "QLN_VDStoragePoolStorageVolume", "QLN_VDStorageExtentStorageVolume",
+          "QLN_VDStorageRedundancySet", "QLN_VDSpareExtentStorageRedundancySet",
+          "QLN_VDSpareExtentStorageExtent", "QLN_VDStorageRedundancySetStorageExtent",
+          "QLN_VDCacheVolumeStorageVolume"})
         _counts[name] += 0;
 
     int pools = 0;
     std::vector<int> cageBoxes;
     std::vector<Disk> spares, nonSpares;
     std::vector<Volume> cached, caches;
-    for (const Controller& c : _controllers) {
-        for (const char* name : perController) _add(name);
-        for (const char* name : perControllerHost) _add(name);
-        _add("QLN_VDStorageCapabilities", 2);  // the primordial pool's and the concrete pool's
+    for (Controller const& c : _controllers) {
+        for (char const* name : perController)
+            _add(name);
+        for (char const* name : perControllerHost)
+            _add(name);
+        _add("QLN_VDStorageCapabilities", 2); // the primordial pool's and the concrete pool's
         ++pools;
-        for (const char* name : perInitiatorPort) _add(name, static_cast<int>(c.ports.size()));
+        for (char const* name : perInitiatorPort)
+            _add(name, static_cast<int>(c.ports.size()));
 
-        for (const Enclosure& e : c.enclosures) {
-            for (const char* name : perEnclosure) _add(name);
+        for (Enclosure const& e : c.enclosures) {
+            for (char const* name : perEnclosure)
+                _add(name);
             if (!e.fwVersion.empty())
-                for (const char* name : perEnclosureFirmware) _add(name);
+                for (char const* name : perEnclosureFirmware)
+                    _add(name);
             cageBoxes.push_back(e.box);
         }
 
-        for (const Disk& d : c.disks) {
-            for (const char* name : perDisk) _add(name);
-            for (const Path& p : d.paths) {
-                for (const char* name : perDiskPath) _add(name);
+        for (Disk const& d : c.disks) {
+            for (char const* name : perDisk)
+                _add(name);
+            for (Path const& p : d.paths) {
+                for (char const* name : perDiskPath)
+                    _add(name);
                 _add("QLN_VDSCSIInitiatorTargetLogicalUnitPath",
                      static_cast<int>(std::count(c.ports.begin(), c.ports.end(), p.port)));
             }
@@ -143,35 +164,42 @@ void ScenarioExpectation::_count() {
                 spares.push_back(d);
             }
             if (!d.serial.empty()) {
-                for (const char* name : perDiskFirmware) _add(name);
+                for (char const* name : perDiskFirmware)
+                    _add(name);
                 if (d.carrierAuthStatus == 2)
-                    for (const char* name : perCarrier) _add(name);
+                    for (char const* name : perCarrier)
+                        _add(name);
             }
             _add("QLN_VDDriveCageDiskPhysicalPackage",
                  static_cast<int>(std::count(cageBoxes.begin(), cageBoxes.end(), d.box)));
             if (d.mnpData)
-                for (const char* name : perStatistics) _add(name);
+                for (char const* name : perStatistics)
+                    _add(name);
         }
 
-        for (const Volume& v : c.volumes) {
-            for (const char* name : perVolume) _add(name);
+        for (Volume const& v : c.volumes) {
+            for (char const* name : perVolume)
+                _add(name);
             _add("QLN_VDStoragePoolStorageVolume", pools);
-            std::vector<const Disk*> m = members(c, v);
+            std::vector<Disk const*> m = members(c, v);
             int extents = 0;
-            for (const Disk& e : nonSpares)
-                for (const Disk* d : m) extents += sameDisk(*d, e);
+            for (Disk const& e : nonSpares)
+                for (Disk const* d : m)
+                    extents += sameDisk(*d, e);
             _add("QLN_VDStorageExtentStorageVolume", extents);
             int spareLinks = 0;
-            for (const Disk& s : spares)
-                for (const Disk* d : m) {
-                    if (!sameDisk(*d, s)) continue;
+            for (Disk const& s : spares)
+                for (Disk const* d : m) {
+                    if (!sameDisk(*d, s))
+                        continue;
                     ++spareLinks;
                     auto replaced = v.replaced.find(d->id);
-                    if (replaced == v.replaced.end()) continue;
-                    for (const Disk* stoodFor : m)
+                    if (replaced == v.replaced.end())
+                        continue;
+                    for (Disk const* stoodFor : m)
                         if (stoodFor->id == replaced->second &&
                             std::any_of(nonSpares.begin(), nonSpares.end(),
-                                        [&](const Disk& n) { return sameDisk(*stoodFor, n); }))
+                                        [&](Disk const& n) { return sameDisk(*stoodFor, n); }))
                             _add("QLN_VDSpareExtentStorageExtent");
                 }
             if (spareLinks > 0) {
@@ -179,12 +207,15 @@ void ScenarioExpectation::_count() {
                 _add("QLN_VDSpareExtentStorageRedundancySet", spareLinks);
                 _add("QLN_VDStorageRedundancySetStorageExtent", extents);
             }
-            if (v.type == 2) cached.push_back(v);
-            if (v.type == 3) caches.push_back(v);
+            if (v.type == 2)
+                cached.push_back(v);
+            if (v.type == 3)
+                caches.push_back(v);
         }
-        for (const Volume& a : cached)
-            for (const Volume& b : caches)
-                if ((a.relatedLun & 0xffff) == b.number) _add("QLN_VDCacheVolumeStorageVolume");
+        for (Volume const& a : cached)
+            for (Volume const& b : caches)
+                if ((a.relatedLun & 0xffff) == b.number)
+                    _add("QLN_VDCacheVolumeStorageVolume");
     }
     _add("QLN_VDStorageSpecificCollection");
     _add("QLN_VDStorageGroupHostedCollection");
@@ -194,24 +225,29 @@ void ScenarioExpectation::_count() {
     _add("QLN_AutoStartVeldra");
 }
 
-std::string ScenarioExpectation::systemName(const Controller& c) { return c.serial; }
+std::string ScenarioExpectation::systemName(Controller const& c) {
+    return c.serial;
+}
 
-std::string ScenarioExpectation::diskDeviceId(const Controller& c, const Disk& d) {
+std::string ScenarioExpectation::diskDeviceId(Controller const& c, Disk const& d) {
     std::string serial = withoutWhitespace(d.serial);
     if (serial.empty())
-        return std::to_string(c.index) + "-" + std::to_string(d.enclosureBox) + ":" + std::to_string(d.bay);
+        return std::to_string(c.index) + "-" + std::to_string(d.enclosureBox) + ":" +
+               std::to_string(d.bay);
     return withoutWhitespace(d.model) + "-" + serial;
 }
 
-std::string ScenarioExpectation::enclosureTag(const Controller& c, const Enclosure& e) {
+std::string ScenarioExpectation::enclosureTag(Controller const& c, Enclosure const& e) {
     return std::to_string(c.index) + "-" + std::to_string(e.enclosureBox);
 }
 
-std::vector<const ScenarioExpectation::Disk*> ScenarioExpectation::members(const Controller& c, const Volume& v) {
-    std::vector<const Disk*> out;
-    for (const auto* list : {&v.dataDisks, &v.spareDisks})
+std::vector<ScenarioExpectation::Disk const*> ScenarioExpectation::members(Controller const& c,
+                                                                           Volume const& v) {
+    std::vector<Disk const*> out;
+    for (auto const* list : {&v.dataDisks, &v.spareDisks})
         for (unsigned id : *list)
-            for (const Disk& d : c.disks)
-                if (d.id == id) out.push_back(&d);
+            for (Disk const& d : c.disks)
+                if (d.id == id)
+                    out.push_back(&d);
     return out;
 }

@@ -19,7 +19,7 @@ public:
         int box = 0;
         int enclosureBox = 0;
         int bay = 0;
-        unsigned configuration = 1;  // unassigned unless the file says otherwise
+        unsigned configuration = 1; // unassigned unless the file says otherwise
         bool mnpData = false;
         unsigned carrierAuthStatus = 0;
         std::vector<Path> paths;
@@ -31,7 +31,7 @@ public:
         unsigned relatedLun = 0;
         std::vector<unsigned> dataDisks;
         std::vector<unsigned> spareDisks;
-        std::map<unsigned, unsigned> replaced;  // spare id -> id of the disk it stands in for
+        std::map<unsigned, unsigned> replaced; // spare id -> id of the disk it stands in for
     };
     struct Enclosure {
         int enclosureBox = 0;
@@ -39,7 +39,7 @@ public:
         std::string fwVersion;
     };
     struct Controller {
-        int index = 0;  // 1-based, the order of the file
+        int index = 0; // 1-based, the order of the file
         std::string serial;
         std::vector<std::string> ports;
         std::vector<Enclosure> enclosures;
@@ -48,23 +48,23 @@ public:
     };
 
     // Throws std::runtime_error when the file cannot be read.
-    explicit ScenarioExpectation(const std::string& scenarioFile);
+    explicit ScenarioExpectation(std::string const& scenarioFile);
 
-    const std::vector<Controller>& controllers() const { return _controllers; }
+    std::vector<Controller> const& controllers() const { return _controllers; }
     // Instances per CIM class in root/mwq, the host provider's classes included.
-    const std::map<std::string, int>& counts() const { return _counts; }
+    std::map<std::string, int> const& counts() const { return _counts; }
 
     // Identity texts as clients see them in keys.
-    static std::string systemName(const Controller& c);  // only for controllers with a serial number
-    static std::string diskDeviceId(const Controller& c, const Disk& d);
-    static std::string enclosureTag(const Controller& c, const Enclosure& e);
+    static std::string systemName(Controller const& c); // only for controllers with a serial number
+    static std::string diskDeviceId(Controller const& c, Disk const& d);
+    static std::string enclosureTag(Controller const& c, Enclosure const& e);
     // The disks a volume is built of, data members first, in the file's order.
-    static std::vector<const Disk*> members(const Controller& c, const Volume& v);
+    static std::vector<Disk const*> members(Controller const& c, Volume const& v);
 
 private:
-    void _load(const std::string& scenarioFile);
+    void _load(std::string const& scenarioFile);
     void _count();
-    void _add(const std::string& className, int n = 1);
+    void _add(std::string const& className, int n = 1);
 
     std::vector<Controller> _controllers;
     std::map<std::string, int> _counts;

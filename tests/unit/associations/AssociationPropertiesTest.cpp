@@ -46,8 +46,9 @@ class ScenarioFile {
 public:
     explicit ScenarioFile(char const* text) {
         static std::atomic<int> next{0};
-        _path = std::filesystem::temp_directory_path() /
-                ("veldra-assoc-" + std::to_string(::getpid()) + "-" + std::to_string(next++) + ".yaml");
+        _path =
+            std::filesystem::temp_directory_path() /
+            ("veldra-assoc-" + std::to_string(::getpid()) + "-" + std::to_string(next++) + ".yaml");
         std::ofstream(_path) << text;
     }
     ~ScenarioFile() { std::filesystem::remove(_path); }
@@ -88,7 +89,8 @@ TEST_F(AssociationProperties, FirmwarePairReportsCurrentInstalledAndNoUpgrade) {
 }
 
 TEST_F(AssociationProperties, VolumeMappingAndSettingCarryTheirValues) {
-    QLN::QLN_VDSCSIProtocolControllerStorageVolume mapping(logger, "root/mwq", &first, &second, 4097u);
+    QLN::QLN_VDSCSIProtocolControllerStorageVolume mapping(logger, "root/mwq", &first, &second,
+                                                           4097u);
     CmpiInstance const mapped = mapping.getInstance();
     EXPECT_EQ(mapped.getProperty("DeviceAccess").getType(), CMPI_uint16);
     EXPECT_EQ(mapped.getProperty("DeviceAccess").getUint16(), 2);
@@ -148,8 +150,8 @@ TEST_F(AssociationProperties, ThreeEndedPathWalksInRoleOrderAndReadsTargetState)
     End unit{"QLN_VDStorageExtent", "MD0001"};
     End stranger{"QLN_VDStorageExtent", "MD0009"};
     std::uint32_t state = 2;
-    QLN::QLN_VDSCSIInitiatorTargetLogicalUnitPath path(logger, "root/mwq", &initiator, &target, &unit, nullptr,
-                                                       [&state] { return state; });
+    QLN::QLN_VDSCSIInitiatorTargetLogicalUnitPath path(logger, "root/mwq", &initiator, &target,
+                                                       &unit, nullptr, [&state] { return state; });
 
     CmpiObjectPath const key = path.getPath();
     EXPECT_EQ(key.getClassName().str(), "QLN_VDSCSIInitiatorTargetLogicalUnitPath");

@@ -31,7 +31,9 @@ struct Paths : CmpiCpp::CmpiObjectPathResult {
     std::vector<CmpiObjectPath> rows;
 };
 struct Instances : CmpiCpp::CmpiInstanceResult {
-    void returnInstance(CmpiCpp::CmpiInstance const& instance) override { rows.push_back(instance); }
+    void returnInstance(CmpiCpp::CmpiInstance const& instance) override {
+        rows.push_back(instance);
+    }
     std::vector<CmpiCpp::CmpiInstance> rows;
 };
 
@@ -68,9 +70,11 @@ std::vector<std::string> propertyNames(CmpiCpp::CmpiInstance const& instance) {
 // A role written in the wrong order changes the path text that clients and
 // the object manager's caches key on.
 TEST_F(AssociationShape, WrittenFirstRoleLeadsInPathAndInstance) {
-    QLN::QLN_VDArraySystemArrayController firstLeads(logger, "root/mwq", &arraySystem, &arrayController);
+    QLN::QLN_VDArraySystemArrayController firstLeads(logger, "root/mwq", &arraySystem,
+                                                     &arrayController);
     QLN::QLN_VDPhysicalPackageArraySystem secondLeads(logger, "root/mwq", &package, &arraySystem);
-    QLN::QLN_VDArraySystemSCSIProtocolEndpoint antecedentLeads(logger, "root/mwq", &arraySystem, &endpoint);
+    QLN::QLN_VDArraySystemSCSIProtocolEndpoint antecedentLeads(logger, "root/mwq", &arraySystem,
+                                                               &endpoint);
 
     CmpiObjectPath path = firstLeads.getPath();
     EXPECT_EQ(path.getClassName().str(), "QLN_VDArraySystemArrayController");
@@ -79,22 +83,26 @@ TEST_F(AssociationShape, WrittenFirstRoleLeadsInPathAndInstance) {
     EXPECT_EQ(keyNames(path), (std::vector<std::string>{"GroupComponent", "PartComponent"}));
     EXPECT_EQ(path.getKey("GroupComponent").getObjectPath(), arraySystem.getPath());
     EXPECT_EQ(path.getKey("PartComponent").getObjectPath(), arrayController.getPath());
-    EXPECT_EQ(propertyNames(firstLeads.getInstance()), (std::vector<std::string>{"GroupComponent", "PartComponent"}));
+    EXPECT_EQ(propertyNames(firstLeads.getInstance()),
+              (std::vector<std::string>{"GroupComponent", "PartComponent"}));
     EXPECT_EQ(firstLeads.getInstance().getProperty("PartComponent").getType(), CMPI_ref);
 
     // The Dependent (second end) leads although the Antecedent is the first argument.
-    EXPECT_EQ(keyNames(secondLeads.getPath()), (std::vector<std::string>{"Dependent", "Antecedent"}));
-    EXPECT_EQ(propertyNames(secondLeads.getInstance()), (std::vector<std::string>{"Dependent", "Antecedent"}));
+    EXPECT_EQ(keyNames(secondLeads.getPath()),
+              (std::vector<std::string>{"Dependent", "Antecedent"}));
+    EXPECT_EQ(propertyNames(secondLeads.getInstance()),
+              (std::vector<std::string>{"Dependent", "Antecedent"}));
     EXPECT_EQ(secondLeads.getPath().getKey("Antecedent").getObjectPath(), package.getPath());
 
-    EXPECT_EQ(keyNames(antecedentLeads.getPath()), (std::vector<std::string>{"Antecedent", "Dependent"}));
+    EXPECT_EQ(keyNames(antecedentLeads.getPath()),
+              (std::vector<std::string>{"Antecedent", "Dependent"}));
     EXPECT_EQ(antecedentLeads.getClassName().str(), "QLN_VDArraySystemSCSIProtocolEndpoint");
 }
 
 TEST_F(AssociationShape, EndServedElsewhereIsKeptAsOwnCopyOfItsPath) {
     CmpiObjectPath host = QLN::QLNUtil::getComputerSystemPath();
-    auto association =
-        std::make_unique<QLN::QLN_VDComputerSystemArraySystem>(logger, "root/mwq", host, &arraySystem);
+    auto association = std::make_unique<QLN::QLN_VDComputerSystemArraySystem>(logger, "root/mwq",
+                                                                              host, &arraySystem);
     host.addKey("Name", "changed-after-construction");
 
     CmpiObjectPath const path = association->getPath();
@@ -104,17 +112,20 @@ TEST_F(AssociationShape, EndServedElsewhereIsKeptAsOwnCopyOfItsPath) {
 
     // The hosted collection is the one path-of class whose outside end leads.
     End group{"QLN_VDStorageSpecificCollection", "group"};
-    QLN::QLN_VDStorageGroupHostedCollection hosted(logger, "root/mwq", QLN::QLNUtil::getComputerSystemPath(), &group);
+    QLN::QLN_VDStorageGroupHostedCollection hosted(logger, "root/mwq",
+                                                   QLN::QLNUtil::getComputerSystemPath(), &group);
     EXPECT_EQ(keyNames(hosted.getPath()), (std::vector<std::string>{"Antecedent", "Dependent"}));
 
     End pci{"QLN_PCIDevice", "MWQ:QLN_PCIDevice:0000:1a:12.0"};
     End portController{"QLN_VDPortController", "PSER0001"};
     QLN::QLN_VDPortControllerPCIDevice identity(logger, "root/mwq", pci.getPath(), &portController);
-    EXPECT_EQ(keyNames(identity.getPath()), (std::vector<std::string>{"SystemElement", "SameElement"}));
+    EXPECT_EQ(keyNames(identity.getPath()),
+              (std::vector<std::string>{"SystemElement", "SameElement"}));
 }
 
 TEST_F(AssociationShape, OtherEndWalksBothWaysAndGivesEmptyPathToStranger) {
-    QLN::QLN_VDArraySystemArrayController association(logger, "root/mwq", &arraySystem, &arrayController);
+    QLN::QLN_VDArraySystemArrayController association(logger, "root/mwq", &arraySystem,
+                                                      &arrayController);
     EXPECT_EQ(association.otherEnd(arraySystem.getPath()), arrayController.getPath());
     EXPECT_EQ(association.otherEnd(arrayController.getPath()), arraySystem.getPath());
 
@@ -148,10 +159,12 @@ TEST_F(AssociationShape, CollectionAnswersReferencesAndAssociatorsThroughTheClas
     collection.createInstance(system);
     collection.createInstance(controller);
     collection.createInstance(physical);
-    collection.createInstance(new QLN::QLN_VDArraySystemArrayController(logger, "root/mwq", system, controller));
-    collection.createInstance(new QLN::QLN_VDPhysicalPackageArraySystem(logger, "root/mwq", physical, system));
     collection.createInstance(
-        new QLN::QLN_VDComputerSystemArraySystem(logger, "root/mwq", QLN::QLNUtil::getComputerSystemPath(), system));
+        new QLN::QLN_VDArraySystemArrayController(logger, "root/mwq", system, controller));
+    collection.createInstance(
+        new QLN::QLN_VDPhysicalPackageArraySystem(logger, "root/mwq", physical, system));
+    collection.createInstance(new QLN::QLN_VDComputerSystemArraySystem(
+        logger, "root/mwq", QLN::QLNUtil::getComputerSystemPath(), system));
 
     CmpiCpp::CmpiContext context;
     Instances references;
@@ -166,23 +179,27 @@ TEST_F(AssociationShape, CollectionAnswersReferencesAndAssociatorsThroughTheClas
     }
 
     Paths parts;
-    collection.associatorNames(parts, context, system->getPath(), {}, {}, "GroupComponent", "PartComponent");
+    collection.associatorNames(parts, context, system->getPath(), {}, {}, "GroupComponent",
+                               "PartComponent");
     ASSERT_EQ(parts.rows.size(), 1u);
     EXPECT_EQ(parts.rows[0], controller->getPath());
 
     Paths hosts;
-    collection.associatorNames(hosts, context, system->getPath(), "QLN_VDComputerSystemArraySystem", {}, {}, {});
+    collection.associatorNames(hosts, context, system->getPath(), "QLN_VDComputerSystemArraySystem",
+                               {}, {}, {});
     ASSERT_EQ(hosts.rows.size(), 1u);
     EXPECT_EQ(hosts.rows[0], QLN::QLNUtil::getComputerSystemPath());
 
     Paths packages;
-    collection.associatorNames(packages, context, system->getPath(), {}, {}, "Dependent", "Antecedent");
+    collection.associatorNames(packages, context, system->getPath(), {}, {}, "Dependent",
+                               "Antecedent");
     ASSERT_EQ(packages.rows.size(), 1u);
     EXPECT_EQ(packages.rows[0], physical->getPath());
 }
 
 TEST(AssociationLog, ConstructionAndDestructionAreLoggedUnderTheClassName) {
-    auto const file = std::filesystem::temp_directory_path() / ("veldra-assoc-" + std::to_string(::getpid()) + ".log");
+    auto const file = std::filesystem::temp_directory_path() /
+                      ("veldra-assoc-" + std::to_string(::getpid()) + ".log");
     ::setenv("VELDRA_LOG", file.c_str(), 1);
     ::setenv("VELDRA_LOG_LEVEL", "info", 1);
     QLN::FrameworkConfig::reload();

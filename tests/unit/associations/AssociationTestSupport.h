@@ -11,7 +11,8 @@ namespace assoctest {
 
 class End : public QLN::CmpiManagedInstance {
 public:
-    End(std::string className, std::string key) : _className(std::move(className)), _key(std::move(key)) {}
+    End(std::string className, std::string key)
+        : _className(std::move(className)), _key(std::move(key)) {}
     CmpiCpp::CmpiObjectPath getPath() const override {
         CmpiCpp::CmpiObjectPath path("root/mwq", _className);
         path.setHost("assoc-host");

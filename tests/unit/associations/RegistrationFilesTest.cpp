@@ -54,7 +54,8 @@ std::set<std::string> mofAssociations() {
             // The schema's CIM_ classes are there for the hierarchy only; no
             // provider serves them.
             for (auto const& name : matches(readText(file.path().string()), declared))
-                if (name.rfind("CIM_", 0) != 0) names.insert(name);
+                if (name.rfind("CIM_", 0) != 0)
+                    names.insert(name);
         }
     }
     return names;

@@ -15,12 +15,12 @@ namespace {
 class BrokerObjectsTest : public ::testing::Test {
 protected:
     Broker _broker;
-    const CMPIBroker* mb = _broker.cmpi();
+    CMPIBroker const* mb = _broker.cmpi();
     CMPIStatus rc{CMPI_RC_ERR_FAILED, nullptr};
 
     std::string str(CMPIString* s) { return s ? s->ft->getCharPtr(s, nullptr) : "(null)"; }
 
-    CMPIObjectPath* path(const char* cls) {
+    CMPIObjectPath* path(char const* cls) {
         return mb->eft->newObjectPath(mb, "root/test", cls, &rc);
     }
 };
@@ -30,7 +30,7 @@ protected:
 TEST_F(BrokerObjectsTest, InstancePropertiesKeepOrderAndReplaceInPlace) {
     ObjectRegistry::Scope request(_broker.registry());
     CMPIObjectPath* op = path("Test_Disk");
-    op->ft->addKey(op, "Name", reinterpret_cast<const CMPIValue*>("d1"), CMPI_chars);
+    op->ft->addKey(op, "Name", reinterpret_cast<CMPIValue const*>("d1"), CMPI_chars);
     CMPIInstance* inst = mb->eft->newInstance(mb, op, &rc);
     ASSERT_EQ(rc.rc, CMPI_RC_OK);
     CMPIValue v;
@@ -43,7 +43,7 @@ TEST_F(BrokerObjectsTest, InstancePropertiesKeepOrderAndReplaceInPlace) {
 
     ASSERT_EQ(inst->ft->getPropertyCount(inst, &rc), 3u);
     CMPIString* name = nullptr;
-    const char* order[] = {"Name", "Slot", "Size"};
+    char const* order[] = {"Name", "Slot", "Size"};
     for (CMPICount i = 0; i < 3; ++i) {
         inst->ft->getPropertyAt(inst, i, &name, &rc);
         EXPECT_EQ(str(name), order[i]);
@@ -58,7 +58,7 @@ TEST_F(BrokerObjectsTest, InstancePropertiesKeepOrderAndReplaceInPlace) {
     EXPECT_TRUE(d.state & CMPI_notFound);
 
     // A key property set later moves the instance's path with it.
-    inst->ft->setProperty(inst, "Name", reinterpret_cast<const CMPIValue*>("d9"), CMPI_chars);
+    inst->ft->setProperty(inst, "Name", reinterpret_cast<CMPIValue const*>("d9"), CMPI_chars);
     CMPIObjectPath* got = inst->ft->getObjectPath(inst, &rc);
     d = got->ft->getKey(got, "name", &rc);
     EXPECT_EQ(d.type, CMPI_string);
@@ -66,7 +66,7 @@ TEST_F(BrokerObjectsTest, InstancePropertiesKeepOrderAndReplaceInPlace) {
     EXPECT_EQ(str(d.value.string), "d9");
 
     // A filter drops what is not listed, keys excepted.
-    const char* only[] = {"Size", nullptr};
+    char const* only[] = {"Size", nullptr};
     inst->ft->setPropertyFilter(inst, only, nullptr);
     v.boolean = 1;
     inst->ft->setProperty(inst, "Healthy", &v, CMPI_boolean);
@@ -120,7 +120,7 @@ TEST_F(BrokerObjectsTest, ArraysCheckTypesBoundsAndNulls) {
     EXPECT_EQ(d.value.uint16, 7);
 
     CMPIArray* s = mb->eft->newArray(mb, 1, CMPI_string, &rc);
-    EXPECT_EQ(s->ft->setElementAt(s, 0, reinterpret_cast<const CMPIValue*>("x"), CMPI_chars).rc,
+    EXPECT_EQ(s->ft->setElementAt(s, 0, reinterpret_cast<CMPIValue const*>("x"), CMPI_chars).rc,
               CMPI_RC_OK);
     CMPIInstance* inst = mb->eft->newInstance(mb, path("Test_Disk"), &rc);
     v.array = s;
@@ -184,7 +184,7 @@ TEST_F(BrokerObjectsTest, ForeignHandlesAndUnsupportedServicesAnswerWithCodes) {
 TEST_F(BrokerObjectsTest, TypeQueriesClassHierarchyAndMessages) {
     ObjectRegistry::Scope request(_broker.registry());
     CMPIObjectPath* op = path("Test_Disk");
-    op->ft->addKey(op, "Name", reinterpret_cast<const CMPIValue*>("d\"1"), CMPI_chars);
+    op->ft->addKey(op, "Name", reinterpret_cast<CMPIValue const*>("d\"1"), CMPI_chars);
     EXPECT_EQ(str(mb->eft->getType(mb, op, &rc)), "CMPIObjectPath");
     EXPECT_TRUE(mb->eft->isOfType(mb, op, "CMPIObjectPath", &rc));
     EXPECT_FALSE(mb->eft->isOfType(mb, op, "CMPIInstance", &rc));
@@ -192,7 +192,7 @@ TEST_F(BrokerObjectsTest, TypeQueriesClassHierarchyAndMessages) {
 
     EXPECT_TRUE(mb->eft->classPathIsA(mb, op, "test_disk", &rc));
     EXPECT_FALSE(mb->eft->classPathIsA(mb, op, "CIM_ManagedElement", &rc));
-    _broker.setClassIsA([](const std::string& ns, const std::string& cls, const std::string& anc) {
+    _broker.setClassIsA([](std::string const& ns, std::string const& cls, std::string const& anc) {
         return ns == "root/test" && cls == "Test_Disk" && anc == "CIM_ManagedElement";
     });
     EXPECT_TRUE(mb->eft->classPathIsA(mb, op, "CIM_ManagedElement", &rc));
@@ -212,7 +212,7 @@ TEST(BrokerVersions, AnOlderObjectManagerCanBeStoodInFor) {
     Broker old;
     Broker current;
     old.reportVersions(0, 1); // what SFCB 1.3 reports
-    const CMPIBroker* mb = old.cmpi();
+    CMPIBroker const* mb = old.cmpi();
     EXPECT_EQ(mb->bft->brokerVersion, 0u);
     EXPECT_EQ(mb->eft->ftVersion, 1);
     EXPECT_EQ(current.cmpi()->bft->brokerVersion, static_cast<unsigned>(CMPICurrentVersion));

@@ -10,10 +10,10 @@
 #include "CimValue.h"
 
 namespace {
-CMPIrc codeOf(const std::function<void()>& f) {
+CMPIrc codeOf(std::function<void()> const& f) {
     try {
         f();
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         return e.code();
     }
     return CMPI_RC_OK;
@@ -23,8 +23,8 @@ CMPIrc codeOf(const std::function<void()>& f) {
 TEST(CimValue, TextFormsRoundTripPerType) {
     const struct {
         CMPIType type;
-        const char* in;
-        const char* out;
+        char const* in;
+        char const* out;
     } cases[] = {
         {CMPI_boolean, "true", "TRUE"},
         {CMPI_boolean, "FALSE", "FALSE"},
@@ -42,7 +42,7 @@ TEST(CimValue, TextFormsRoundTripPerType) {
         {CMPI_dateTime, "20261123004312.000000+000", "20261123004312.000000+000"},
         {CMPI_dateTime, "00000001020304.000005:000", "00000001020304.000005:000"},
     };
-    for (const auto& c : cases) {
+    for (auto const& c : cases) {
         const CimValue v = CimValue::fromText(c.type, c.in);
         EXPECT_EQ(v.type(), c.type) << c.in;
         EXPECT_EQ(v.toText(), c.out) << c.in;
@@ -53,7 +53,7 @@ TEST(CimValue, TextFormsRoundTripPerType) {
 TEST(CimValue, BadTextAndOutOfRangeAreInvalidParameter) {
     const struct {
         CMPIType type;
-        const char* in;
+        char const* in;
     } cases[] = {
         {CMPI_uint8, "256"},
         {CMPI_uint32, "-1"},
@@ -67,7 +67,7 @@ TEST(CimValue, BadTextAndOutOfRangeAreInvalidParameter) {
         {CMPI_dateTime, "2026"},
         {CMPI_dateTime, "20261123004312.000000:001"},
     };
-    for (const auto& c : cases) {
+    for (auto const& c : cases) {
         EXPECT_EQ(codeOf([&] { CimValue::fromText(c.type, c.in); }), CMPI_RC_ERR_INVALID_PARAMETER)
             << c.in;
     }
@@ -148,7 +148,7 @@ TEST(CimObjectPath, TextRoundTripAndMalformedText) {
     EXPECT_EQ(q.nameSpace(), "root/test");
     EXPECT_EQ(q.host(), "h1");
 
-    for (const char* bad :
+    for (char const* bad :
          {"", "root/test:", "Cls.=1", "Cls.K=\"open", "Cls.K=1;", "Cls.K=abc", "//h"}) {
         EXPECT_EQ(codeOf([&] { CimObjectPath::parse(bad); }), CMPI_RC_ERR_INVALID_PARAMETER) << bad;
     }

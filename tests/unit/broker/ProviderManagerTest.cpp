@@ -20,14 +20,14 @@ const std::string registrationFile =
     std::string(VELDRA_SOURCE_DIR) +
     "/tests/unit/broker/testprovider/TestProvider.registration.yaml";
 
-std::string readFile(const std::string& path) {
+std::string readFile(std::string const& path) {
     std::ifstream in(path);
     std::stringstream s;
     s << in.rdbuf();
     return s.str();
 }
 
-CimObjectPath diskPath(const std::string& name) {
+CimObjectPath diskPath(std::string const& name) {
     CimObjectPath p("root/test", "Test_Disk");
     p.addKey("Name", CimValue::string(name));
     return p;
@@ -51,7 +51,7 @@ protected:
         ProviderManager::Options opts;
         opts.libraryDirs = {VELDRA_LIB_DIR};
         opts.indicationSink = _sink;
-        opts.log = [](int, const std::string&) {};
+        opts.log = [](int, std::string const&) {};
         _pm = std::make_unique<ProviderManager>(opts);
         _pm->loadRegistrationFile(registrationFile);
     }
@@ -66,10 +66,10 @@ protected:
     std::unique_ptr<ProviderManager> _pm;
 };
 
-CMPIrc codeOf(const std::function<void()>& f, std::string* message = nullptr) {
+CMPIrc codeOf(std::function<void()> const& f, std::string* message = nullptr) {
     try {
         f();
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         if (message) {
             *message = e.description();
         }
@@ -88,7 +88,7 @@ TEST_F(ProviderManagerTest, LoadsThroughTheGenericEntryPoints) {
     EXPECT_TRUE(_pm->hasAssociationProvider("root/test", ""));
     EXPECT_FALSE(_pm->hasInstanceProvider("root/other", "Test_Disk"));
     const std::string t = trace();
-    for (const char* line :
+    for (char const* line :
          {"create instance as TestProvider", "create association as TestProvider",
           "create method as TestProvider", "create indication as TestProvider"}) {
         EXPECT_NE(t.find(line), std::string::npos) << line;
@@ -96,21 +96,21 @@ TEST_F(ProviderManagerTest, LoadsThroughTheGenericEntryPoints) {
 }
 
 TEST_F(ProviderManagerTest, EnumeratesAndGetsInstancesWithTypesAndOrder) {
-    const auto names = _pm->enumerateInstanceNames(CimObjectPath("root/test", "Test_Disk"));
+    auto const names = _pm->enumerateInstanceNames(CimObjectPath("root/test", "Test_Disk"));
     ASSERT_EQ(names.size(), 3u);
     EXPECT_EQ(names[0], diskPath("d1"));
     EXPECT_EQ(names[2].nameSpace(), "root/test");
 
     const CimInstance d2 = _pm->getInstance(diskPath("d2"), nullptr);
     ASSERT_EQ(d2.properties().size(), 6u);
-    const char* order[] = {"Name", "Size", "Slot", "Tags", "Created", "Healthy"};
+    char const* order[] = {"Name", "Size", "Slot", "Tags", "Created", "Healthy"};
     for (std::size_t i = 0; i < 6; ++i) {
         EXPECT_EQ(d2.properties()[i].name, order[i]);
     }
     EXPECT_EQ(d2.property("Size")->type(), CMPI_uint64);
     EXPECT_EQ(d2.property("Size")->asUnsigned(), 2000u);
     EXPECT_EQ(d2.property("Slot")->type(), CMPI_uint16);
-    const CimValue& tags = *d2.property("Tags");
+    CimValue const& tags = *d2.property("Tags");
     ASSERT_EQ(tags.type(), CMPI_stringA);
     ASSERT_EQ(tags.elements().size(), 2u);
     EXPECT_EQ(tags.elements()[1].asString(), "d2");
@@ -119,7 +119,7 @@ TEST_F(ProviderManagerTest, EnumeratesAndGetsInstancesWithTypesAndOrder) {
     EXPECT_EQ(d2.path(), diskPath("d2"));
 
     const std::vector<std::string> list{"size"};
-    const auto filtered = _pm->enumerateInstances(CimObjectPath("root/test", "Test_Disk"), &list);
+    auto const filtered = _pm->enumerateInstances(CimObjectPath("root/test", "Test_Disk"), &list);
     ASSERT_EQ(filtered.size(), 3u);
     ASSERT_EQ(filtered[0].properties().size(), 1u);
     EXPECT_EQ(filtered[0].properties()[0].name, "Size");
@@ -143,7 +143,7 @@ TEST_F(ProviderManagerTest, ProviderErrorsArriveWithCodeAndMessage) {
 }
 
 TEST_F(ProviderManagerTest, AssociationsHonourClassRoleAndResultFilters) {
-    const auto pools = _pm->associators(diskPath("d1"), "", "", "", "", nullptr);
+    auto const pools = _pm->associators(diskPath("d1"), "", "", "", "", nullptr);
     ASSERT_EQ(pools.size(), 1u);
     EXPECT_EQ(pools[0].path(), poolPath());
     EXPECT_EQ(pools[0].property("ElementName")->asString(), "Pool One");
@@ -156,7 +156,7 @@ TEST_F(ProviderManagerTest, AssociationsHonourClassRoleAndResultFilters) {
     EXPECT_TRUE(_pm->associatorNames(diskPath("d1"), "", "Test_Disk", "", "").empty());
     EXPECT_TRUE(_pm->associatorNames(diskPath("d1"), "Test_Other", "", "", "").empty());
 
-    const auto refs = _pm->references(diskPath("d3"), "Test_PoolDisk", "Dependent", nullptr);
+    auto const refs = _pm->references(diskPath("d3"), "Test_PoolDisk", "Dependent", nullptr);
     ASSERT_EQ(refs.size(), 1u);
     EXPECT_EQ(refs[0].path().key("Dependent")->asReference(), diskPath("d3"));
     EXPECT_EQ(refs[0].path().key("Antecedent")->asReference(), poolPath());
@@ -191,7 +191,7 @@ TEST_F(ProviderManagerTest, IndicationsFromAProviderThreadReachTheSink) {
     const MethodResult r =
         _pm->invokeMethod(diskPath("d1"), "FireIndication", {{"Count", CimValue::uint32(3)}});
     EXPECT_EQ(r.returnValue, CimValue::uint32(0));
-    const auto got = _sink->delivered();
+    auto const got = _sink->delivered();
     ASSERT_EQ(got.size(), 3u);
     EXPECT_EQ(got[0].nameSpace, "root/test");
     EXPECT_EQ(got[0].indication.className(), "Test_Alert");
@@ -211,11 +211,11 @@ TEST_F(ProviderManagerTest, IndicationsFromAProviderThreadReachTheSink) {
 TEST_F(ProviderManagerTest, ShutdownCleansUpEveryMiThenUnloads) {
     _pm->shutdown();
     const std::string t = trace();
-    const auto unloaded = t.find("unloaded");
+    auto const unloaded = t.find("unloaded");
     ASSERT_NE(unloaded, std::string::npos);
-    for (const char* kind : {"cleanup instance\n", "cleanup association\n", "cleanup method\n",
+    for (char const* kind : {"cleanup instance\n", "cleanup association\n", "cleanup method\n",
                              "cleanup indication\n"}) {
-        const auto at = t.find(kind);
+        auto const at = t.find(kind);
         ASSERT_NE(at, std::string::npos) << kind;
         EXPECT_LT(at, unloaded) << kind;
     }
@@ -286,9 +286,9 @@ TEST_F(ProviderManagerTest, ShutdownDuringRequestsRefusesNewOnesAndWaitsForOther
 
 namespace {
 
-std::string loadError(const std::string& yaml,
-                      const std::vector<std::string>& dirs = {VELDRA_LIB_DIR}) {
-    const auto file = std::filesystem::temp_directory_path() /
+std::string loadError(std::string const& yaml,
+                      std::vector<std::string> const& dirs = {VELDRA_LIB_DIR}) {
+    auto const file = std::filesystem::temp_directory_path() /
                       ("veldra-reg-" + std::to_string(::getpid()) + ".yaml");
     {
         std::ofstream out(file);
@@ -296,12 +296,12 @@ std::string loadError(const std::string& yaml,
     }
     ProviderManager::Options opts;
     opts.libraryDirs = dirs;
-    opts.log = [](int, const std::string&) {};
+    opts.log = [](int, std::string const&) {};
     ProviderManager pm(opts);
     std::string error;
     try {
         pm.loadRegistrationFile(file.string());
-    } catch (const CimError& e) {
+    } catch (CimError const& e) {
         EXPECT_EQ(e.code(), CMPI_RC_ERR_FAILED);
         error = e.description();
     }
@@ -310,8 +310,8 @@ std::string loadError(const std::string& yaml,
     return error;
 }
 
-std::string provider(const std::string& name, const std::string& library,
-                     const std::string& kinds = "[instance, method]") {
+std::string provider(std::string const& name, std::string const& library,
+                     std::string const& kinds = "[instance, method]") {
     return "providers:\n  - name: " + name + "\n    library: " + library +
            "\n    namespaces: [root/test]\n    classes: [Test_Disk]\n    kinds: " + kinds + "\n";
 }
@@ -339,7 +339,7 @@ TEST(ProviderLoading, BadLibrariesAndProvidersAreRefusedClearly) {
 TEST(ProviderLoading, MalformedRegistrationFilesNameTheProblem) {
     const struct {
         std::string yaml;
-        const char* expected;
+        char const* expected;
     } cases[] = {
         {"providers: [", "is not valid YAML"},
         {"- just a list", "must be a mapping"},
@@ -350,17 +350,17 @@ TEST(ProviderLoading, MalformedRegistrationFilesNameTheProblem) {
         {provider("X", "a") + provider("x", "b").substr(std::string("providers:\n").size()),
          "registered twice"},
     };
-    for (const auto& c : cases) {
+    for (auto const& c : cases) {
         std::string error;
         try {
             RegistrationFile::parse(c.yaml, "test.yaml", "/tmp");
-        } catch (const CimError& e) {
+        } catch (CimError const& e) {
             error = e.description();
         }
         EXPECT_NE(error.find(c.expected), std::string::npos) << c.yaml << " -> " << error;
         EXPECT_NE(error.find("test.yaml"), std::string::npos) << error;
     }
-    const auto contents = RegistrationFile::parse(
+    auto const contents = RegistrationFile::parse(
         "libraryPath: [lib, /abs]\n" + provider("X", "y").substr(0), "t.yaml", "/base");
     EXPECT_EQ(contents.libraryDirs, (std::vector<std::string>{"/base/lib", "/abs"}));
     ASSERT_EQ(contents.providers.size(), 1u);

@@ -19,7 +19,7 @@ VeldraLayoutFacts veldraLayoutFactsFromC(void) {
 
 static int cleanups = 0;
 
-static CMPIStatus cCleanup(CMPIInstanceMI* mi, const CMPIContext* ctx, CMPIBoolean terminating) {
+static CMPIStatus cCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     CMPIStatus st = {CMPI_RC_OK, NULL};
     (void)mi;
     (void)ctx;
@@ -29,8 +29,8 @@ static CMPIStatus cCleanup(CMPIInstanceMI* mi, const CMPIContext* ctx, CMPIBoole
     return st;
 }
 
-static CMPIStatus cGetInstance(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                               const CMPIObjectPath* op, const char** properties) {
+static CMPIStatus cGetInstance(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                               CMPIObjectPath const* op, char const** properties) {
     CMPIStatus st = {CMPI_RC_ERR_NOT_FOUND, (CMPIString*)mi->hdl};
     (void)ctx;
     (void)rslt;
@@ -59,7 +59,7 @@ int veldraCCleanupCount(void) {
     return cleanups;
 }
 
-static CMPIData cGetElementAt(const CMPIArray* ar, CMPICount index, CMPIStatus* rc) {
+static CMPIData cGetElementAt(CMPIArray const* ar, CMPICount index, CMPIStatus* rc) {
     CMPIData d;
     (void)ar;
     d.type = CMPI_uint32;

@@ -27,7 +27,8 @@
 #define FT_SLOT(T, m, i) SLOT(T, m, FT_BASE, i)
 #define HDR_SLOT(T, m, i) SLOT(T, m, HDR_BASE, i)
 #define FT_SIZE(T, n) LAYOUT_ASSERT(sizeof(T) == FT_BASE + (n)*PTR, #T " has a wrong member count")
-#define HDR_SIZE(T, n) LAYOUT_ASSERT(sizeof(T) == HDR_BASE + (n)*PTR, #T " has a wrong member count")
+#define HDR_SIZE(T, n)                                                                             \
+    LAYOUT_ASSERT(sizeof(T) == HDR_BASE + (n)*PTR, #T " has a wrong member count")
 
 /* ---- Codes ------------------------------------------------------------- */
 LAYOUT_ASSERT(CMPI_VERSION == 200 && CMPICurrentVersion == 200, "CMPI version");
@@ -82,7 +83,7 @@ LAYOUT_ASSERT(sizeof(CMPIValue) == 8 && offsetof(CMPIData, value) == 4 && sizeof
 
 /* ---- Objects: handle, then table ----------------------------------------- */
 #define OBJ(T)                                                                                     \
-    LAYOUT_ASSERT(offsetof(T, hdl) == 0 && offsetof(T, ft) == PTR && sizeof(T) == 2 * PTR,        \
+    LAYOUT_ASSERT(offsetof(T, hdl) == 0 && offsetof(T, ft) == PTR && sizeof(T) == 2 * PTR,         \
                   #T " is not {hdl, ft}")
 OBJ(CMPIContext);
 OBJ(CMPIResult);
@@ -283,8 +284,7 @@ FT_SLOT(CMPIErrorFT, setMessageArguments, 25);
 FT_SIZE(CMPIErrorFT, 26);
 
 /* ---- Provider tables ------------------------------------------------------------ */
-LAYOUT_ASSERT(offsetof(CMPIInstanceMIFT, miVersion) == 4 &&
-                  offsetof(CMPIInstanceMIFT, miName) == 8,
+LAYOUT_ASSERT(offsetof(CMPIInstanceMIFT, miVersion) == 4 && offsetof(CMPIInstanceMIFT, miName) == 8,
               "MI table head");
 HDR_SLOT(CMPIInstanceMIFT, cleanup, 0);
 HDR_SLOT(CMPIInstanceMIFT, enumerateInstanceNames, 1);

@@ -32,7 +32,7 @@ TEST(CmpiLayout, CxxCallsTablesBuiltInC) {
     EXPECT_EQ(st.rc, CMPI_RC_ERR_NOT_FOUND);
     EXPECT_EQ(reinterpret_cast<void*>(st.msg), mi->hdl);
 
-    const int before = veldraCCleanupCount();
+    int const before = veldraCCleanupCount();
     st = mi->ft->cleanup(mi, nullptr, 1);
     EXPECT_EQ(st.rc, CMPI_RC_OK);
     EXPECT_EQ(veldraCCleanupCount(), before + 1);

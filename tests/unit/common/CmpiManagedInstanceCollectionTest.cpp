@@ -273,24 +273,32 @@ TEST_F(Associations, ReferenceFilters) {
 // the object manager cannot answer.
 TEST_F(Associations, ClassFiltersTakeSubclassesThroughTheTest) {
     CmpiObjectPath s = system->getPath();
-    EXPECT_THAT(associatorNames(s, {}, "CIM_LogicalDevice", {}, {}), IsEmpty()) << "no test, no hierarchy";
+    EXPECT_THAT(associatorNames(s, {}, "CIM_LogicalDevice", {}, {}), IsEmpty())
+        << "no test, no hierarchy";
 
     int asked = 0;
-    collection.setClassTest([&](std::string const& nameSpace, CmpiName const& className, CmpiName const& filter) {
-        ++asked;
-        EXPECT_EQ(nameSpace, "root/mwq");
-        if (className == CmpiName("QLN_ComputerSystem")) throw std::runtime_error("repository gone");
-        std::string const& c = className.str();
-        if (filter == CmpiName("CIM_LogicalDevice")) return c == "QLN_Disk" || c == "QLN_Volume";
-        if (filter == CmpiName("CIM_Component")) return c.rfind("QLN_System", 0) == 0;
-        return false;
-    });
-    EXPECT_THAT(associatorNames(s, {}, "cim_logicaldevice", {}, {}), UnorderedElementsAre("d1", "d2", "v"));
+    collection.setClassTest(
+        [&](std::string const& nameSpace, CmpiName const& className, CmpiName const& filter) {
+            ++asked;
+            EXPECT_EQ(nameSpace, "root/mwq");
+            if (className == CmpiName("QLN_ComputerSystem"))
+                throw std::runtime_error("repository gone");
+            std::string const& c = className.str();
+            if (filter == CmpiName("CIM_LogicalDevice"))
+                return c == "QLN_Disk" || c == "QLN_Volume";
+            if (filter == CmpiName("CIM_Component"))
+                return c.rfind("QLN_System", 0) == 0;
+            return false;
+        });
+    EXPECT_THAT(associatorNames(s, {}, "cim_logicaldevice", {}, {}),
+                UnorderedElementsAre("d1", "d2", "v"));
     EXPECT_EQ(asked, 3) << "disk, volume and the host's class, each once";
-    EXPECT_THAT(associatorNames(s, "CIM_Component", {}, {}, {}), UnorderedElementsAre("d1", "d2", "v"));
+    EXPECT_THAT(associatorNames(s, "CIM_Component", {}, {}, {}),
+                UnorderedElementsAre("d1", "d2", "v"));
     EXPECT_THAT(referenceClasses(s, "CIM_Component", {}),
                 UnorderedElementsAre("QLN_SystemDisk", "QLN_SystemDisk", "QLN_SystemVolume"));
-    EXPECT_THAT(associatorNames(s, {}, "QLN_Volume", {}, {}), ElementsAre("v")) << "the own class needs no test";
+    EXPECT_THAT(associatorNames(s, {}, "QLN_Volume", {}, {}), ElementsAre("v"))
+        << "the own class needs no test";
 }
 
 // Faults: deleting an association leaves it in the end index (use after
@@ -312,7 +320,8 @@ TEST_F(Associations, DeletionUpdatesEndIndex) {
 TEST_F(Associations, SharedEndsOutliveEachAssociation) {
     auto* self = new TestAssociation("QLN_DiskPeer", "First", disk1, "Second", disk1);
     collection.createInstance(self);
-    EXPECT_THAT(associatorNames(disk1->getPath(), "QLN_DiskPeer", {}, "First", {}), ElementsAre("d1"));
+    EXPECT_THAT(associatorNames(disk1->getPath(), "QLN_DiskPeer", {}, "First", {}),
+                ElementsAre("d1"));
     EXPECT_TRUE(collection.deleteInstance(self->getPath()));
     EXPECT_THAT(associatorNames(disk1->getPath(), {}, {}, {}, {}), UnorderedElementsAre("s", "v"));
 
@@ -320,7 +329,8 @@ TEST_F(Associations, SharedEndsOutliveEachAssociation) {
     EXPECT_FALSE(collection.createInstance(
         new TestAssociation("QLN_VolumeDisk", "Dependent", volume, "Antecedent", disk1)));
     EXPECT_THAT(associatorNames(disk1->getPath(), "QLN_VolumeDisk", {}, {}, {}), ElementsAre("v"));
-    EXPECT_THAT(associatorNames(volume->getPath(), {}, {}, {}, {}), UnorderedElementsAre("s", "d1"));
+    EXPECT_THAT(associatorNames(volume->getPath(), {}, {}, {}, {}),
+                UnorderedElementsAre("s", "d1"));
 }
 
 // Faults: a three-ended association gives one far end only, or the result

@@ -38,7 +38,8 @@ std::vector<CimClassDecl const*> associationClasses() {
     std::vector<CimClassDecl const*> found;
     for (auto const* cls : shippedClasses().subclasses(ns, "", true)) {
         // The schema's CIM_ classes are there for the hierarchy only.
-        if (cls->hasQualifier("Association") && cls->name.rfind("CIM_", 0) != 0) found.push_back(cls);
+        if (cls->hasQualifier("Association") && cls->name.rfind("CIM_", 0) != 0)
+            found.push_back(cls);
     }
     return found;
 }
@@ -47,7 +48,8 @@ std::vector<CimClassDecl const*> associationClasses() {
 std::set<std::string> referencesOf(CimClassDecl const& cls) {
     std::set<std::string> names;
     for (auto const& property : cls.properties) {
-        if (property.type == "reference") names.insert(property.name);
+        if (property.type == "reference")
+            names.insert(property.name);
     }
     return names;
 }
@@ -57,9 +59,11 @@ std::set<std::string> referencesOf(CimClassDecl const& cls) {
 std::string demoWithCarriers() {
     YAML::Node scenario = YAML::LoadFile(std::string(VELDRA_DATA_DIR) + "/scenarios/demo.yaml");
     for (auto controller : scenario["controllers"]) {
-        for (auto disk : controller["physicalDisks"]) disk["carrierAuthStatus"] = 2;
+        for (auto disk : controller["physicalDisks"])
+            disk["carrierAuthStatus"] = 2;
     }
-    auto const path = std::filesystem::temp_directory_path() / ("veldra-roles-" + std::to_string(::getpid()) + ".yaml");
+    auto const path = std::filesystem::temp_directory_path() /
+                      ("veldra-roles-" + std::to_string(::getpid()) + ".yaml");
     std::ofstream(path) << YAML::Dump(scenario);
     return path.string();
 }
@@ -79,9 +83,11 @@ TEST(AssociationRoles, EveryEndOfEveryAssociationMatchesItsMof) {
     std::set<std::string> empty;
     for (auto const* cls : associations) {
         Instances found;
-        provider->enumInstances(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), ns, cls->name), nullptr,
-                               found);
-        if (found.rows.empty()) empty.insert(cls->name);
+        provider->enumInstances(CmpiContext(),
+                                CmpiCpp::makeCmpiObjectPath(CmpiBroker(), ns, cls->name), nullptr,
+                                found);
+        if (found.rows.empty())
+            empty.insert(cls->name);
         auto const declared = referencesOf(*cls);
         for (auto const& instance : found.rows) {
             std::set<std::string> carried;
@@ -92,12 +98,13 @@ TEST(AssociationRoles, EveryEndOfEveryAssociationMatchesItsMof) {
             }
             EXPECT_EQ(carried, declared) << cls->name << " " << instance.getPath().str();
             for (auto const& role : declared) {
-                if (!instance.hasProperty(role) || instance.getProperty(role).getType() != CMPI_ref) continue;
+                if (!instance.hasProperty(role) || instance.getProperty(role).getType() != CMPI_ref)
+                    continue;
                 auto const& end = instance.getProperty(role).getObjectPath();
                 std::string const want = cls->findProperty(role)->refClass;
                 EXPECT_TRUE(shippedClasses().isA(ns, end.getClassName().str(), want))
-                    << cls->name << "." << role << " points at " << end.getClassName().str() << ", declared "
-                    << want;
+                    << cls->name << "." << role << " points at " << end.getClassName().str()
+                    << ", declared " << want;
             }
         }
     }

@@ -4,8 +4,8 @@
 #include "ProviderTestSupport.h"
 #include "QLNVeldraProvider.h"
 
-#include <gtest/gtest.h>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <map>
 #include <memory>
 
@@ -17,7 +17,8 @@ namespace {
 
 // One controller with one enclosure (box 1) and whatever disks and volumes a
 // test puts behind it.
-std::string scenario(std::string const& enclosureExtra, std::string const& disks, std::string const& volumes) {
+std::string scenario(std::string const& enclosureExtra, std::string const& disks,
+                     std::string const& volumes) {
     return "name: graph-test\n"
            "controllers:\n"
            "  - serialNumber: PGRAPH01\n"
@@ -36,7 +37,8 @@ std::string scenario(std::string const& enclosureExtra, std::string const& disks
 class DeviceGraph : public ::testing::Test {
 protected:
     void build(std::string const& text) {
-        _file = std::filesystem::temp_directory_path() / ("veldra-graph-" + std::to_string(::getpid()) + ".yaml");
+        _file = std::filesystem::temp_directory_path() /
+                ("veldra-graph-" + std::to_string(::getpid()) + ".yaml");
         std::ofstream(_file) << text;
         ::setenv("VELDRA_SCENARIO", _file.c_str(), 1);
         Logger logger("QLNVeldra");
@@ -48,8 +50,8 @@ protected:
     }
     std::size_t count(char const* className) {
         Paths paths;
-        _provider->enumInstanceNames(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", className),
-                                     paths);
+        _provider->enumInstanceNames(
+            CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", className), paths);
         return paths.rows.size();
     }
 
@@ -57,8 +59,9 @@ protected:
     std::unique_ptr<QLN::QLNVeldraProvider> _provider;
 };
 
-std::string const oneDataDisk = "      - {id: 0, serialNumber: GD0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1,\n"
-                                "         port: 1I, paths: [{port: 1I, box: 1}], configuration: 2}\n";
+std::string const oneDataDisk =
+    "      - {id: 0, serialNumber: GD0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1,\n"
+    "         port: 1I, paths: [{port: 1I, box: 1}], configuration: 2}\n";
 
 } // namespace
 
@@ -68,7 +71,8 @@ TEST_F(DeviceGraph, EnclosureFirmwareOnlyWhenItReportsAVersion) {
     EXPECT_EQ(count("QLN_VDEnclosureFirmware"), 0u);
     EXPECT_EQ(count("QLN_VDStorageEnclosureProcessorEnclosureFirmware"), 0u);
     EXPECT_EQ(count("QLN_VDDriveCage"), 1u) << "the cage stands whatever the firmware";
-    EXPECT_EQ(count("QLN_VDDriveCageDiskPhysicalPackage"), 1u) << "the disk in box 1 sits in the cage";
+    EXPECT_EQ(count("QLN_VDDriveCageDiskPhysicalPackage"), 1u)
+        << "the disk in box 1 sits in the cage";
     TearDown();
 
     build(scenario(", fwVersion: \"2.04\"", oneDataDisk, "      []\n"));
@@ -77,10 +81,11 @@ TEST_F(DeviceGraph, EnclosureFirmwareOnlyWhenItReportsAVersion) {
 }
 
 TEST_F(DeviceGraph, EveryPathOfADiskGetsItsPortEndpointAndInitiatorPath) {
-    build(scenario("",
-                   "      - {id: 0, serialNumber: GD0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1,\n"
-                   "         port: 1I, paths: [{port: 1I, box: 1}, {port: 2I, box: 1}], configuration: 2}\n",
-                   "      []\n"));
+    build(scenario(
+        "",
+        "      - {id: 0, serialNumber: GD0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1,\n"
+        "         port: 1I, paths: [{port: 1I, box: 1}, {port: 2I, box: 1}], configuration: 2}\n",
+        "      []\n"));
     EXPECT_EQ(count("QLN_VDTSASPort"), 2u);
     EXPECT_EQ(count("QLN_VDTSASSCSIProtocolEndpoint"), 2u);
     EXPECT_EQ(count("QLN_VDDiskDriveTSASSCSIProtocolEndpoint"), 2u);
@@ -90,16 +95,18 @@ TEST_F(DeviceGraph, EveryPathOfADiskGetsItsPortEndpointAndInitiatorPath) {
 }
 
 TEST_F(DeviceGraph, DiskWithoutSerialNumberHasNoFirmwareButEverythingElse) {
-    build(scenario("",
-                   "      - {id: 0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1, port: 1I,\n"
-                   "         paths: [{port: 1I, box: 1}], configuration: 1, carrierAuthStatus: 2}\n",
-                   "      []\n"));
+    build(
+        scenario("",
+                 "      - {id: 0, model: NR4000, box: 1, bay: 1, enclosureBoxNumber: 1, port: 1I,\n"
+                 "         paths: [{port: 1I, box: 1}], configuration: 1, carrierAuthStatus: 2}\n",
+                 "      []\n"));
     EXPECT_EQ(count("QLN_VDDiskDrive"), 1u);
     EXPECT_EQ(count("QLN_VDStorageExtent"), 1u);
     EXPECT_EQ(count("QLN_VDDiskPhysicalPackage"), 1u);
     EXPECT_EQ(count("QLN_VDDiskDriveLocation"), 1u);
     EXPECT_EQ(count("QLN_VDDiskDriveFirmware"), 0u);
-    EXPECT_EQ(count("QLN_VDLumenDriveCarrierAppFirmware"), 0u) << "not even with an authenticated carrier";
+    EXPECT_EQ(count("QLN_VDLumenDriveCarrierAppFirmware"), 0u)
+        << "not even with an authenticated carrier";
     EXPECT_EQ(count("QLN_VDStoragePoolStorageExtent"), 0u) << "an unassigned disk joins no pool";
 }
 
@@ -110,18 +117,20 @@ TEST_F(DeviceGraph, SparesBringTheRedundancySetAndTheStandInLink) {
         "         port: 1I, paths: [{port: 1I, box: 1}], configuration: 2}\n"
         "      - {id: 2, serialNumber: GD2, model: NR4000, box: 1, bay: 3, enclosureBoxNumber: 1,\n"
         "         port: 1I, paths: [{port: 1I, box: 1}], configuration: 3}\n";
-    build(scenario("", disks,
-                   "      - {number: 0, serialNumber: 600508B1001CGRAPH0000000000000001, tolerance: 2,\n"
-                   "         dataDisks: [0, 1]}\n"));
+    build(scenario(
+        "", disks,
+        "      - {number: 0, serialNumber: 600508B1001CGRAPH0000000000000001, tolerance: 2,\n"
+        "         dataDisks: [0, 1]}\n"));
     EXPECT_EQ(count("QLN_VDStorageVolume"), 1u);
     EXPECT_EQ(count("QLN_VDStorageExtentStorageVolume"), 2u);
     EXPECT_EQ(count("QLN_VDStorageRedundancySet"), 0u) << "no spare among the members, no set";
     EXPECT_EQ(count("QLN_VDSpareExtentStorageRedundancySet"), 0u);
     TearDown();
 
-    build(scenario("", disks,
-                   "      - {number: 0, serialNumber: 600508B1001CGRAPH0000000000000001, tolerance: 2,\n"
-                   "         dataDisks: [0, 1], spareDisks: [2], replaced: {2: 1}}\n"));
+    build(scenario(
+        "", disks,
+        "      - {number: 0, serialNumber: 600508B1001CGRAPH0000000000000001, tolerance: 2,\n"
+        "         dataDisks: [0, 1], spareDisks: [2], replaced: {2: 1}}\n"));
     EXPECT_EQ(count("QLN_VDStorageRedundancySet"), 1u);
     EXPECT_EQ(count("QLN_VDSpareExtentStorageRedundancySet"), 1u);
     EXPECT_EQ(count("QLN_VDStorageRedundancySetStorageExtent"), 2u);

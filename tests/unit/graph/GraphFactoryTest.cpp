@@ -28,8 +28,8 @@ std::unique_ptr<QLN::QLNVeldraProvider> providerOn(char const* scenario) {
 
 std::vector<CmpiObjectPath> namesOf(QLN::QLNVeldraProvider& provider, char const* className) {
     Paths paths;
-    provider.enumInstanceNames(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", className),
-                               paths);
+    provider.enumInstanceNames(
+        CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", className), paths);
     return paths.rows;
 }
 
@@ -52,8 +52,9 @@ TEST(GraphFactory, TwoControllersShareOneStorageGroup) {
     // The demo's controllers list three and two initiator ports.
     EXPECT_EQ(countOf(*provider, "QLN_VDISASPort"), 5u);
     for (char const* className :
-         {"QLN_VDArraySystemISASPort", "QLN_VDISASSCSIProtocolEndpoint", "QLN_VDArraySystemISASSCSIProtocolEndpoint",
-          "QLN_VDISASPortISASSCSIProtocolEndpoint", "QLN_VDPortControllerISASPort"}) {
+         {"QLN_VDArraySystemISASPort", "QLN_VDISASSCSIProtocolEndpoint",
+          "QLN_VDArraySystemISASSCSIProtocolEndpoint", "QLN_VDISASPortISASSCSIProtocolEndpoint",
+          "QLN_VDPortControllerISASPort"}) {
         EXPECT_EQ(countOf(*provider, className), 5u) << className;
     }
 }
@@ -84,8 +85,10 @@ TEST(GraphFactory, NoControllerMeansAnEmptyGraphAndOneErrorLine) {
     LogCapture log;
     auto provider = providerOn("none.yaml");
     EXPECT_EQ(provider->instanceCount(), 0u);
-    EXPECT_EQ(log.count("ERROR QLNVeldra: failed to _internalVDControllerMRA::getFirstData()"), 1) << log.text();
-    EXPECT_EQ(countOf(*provider, "QLN_VDStorageSpecificCollection"), 0u) << "no array system, no storage group";
+    EXPECT_EQ(log.count("ERROR QLNVeldra: failed to _internalVDControllerMRA::getFirstData()"), 1)
+        << log.text();
+    EXPECT_EQ(countOf(*provider, "QLN_VDStorageSpecificCollection"), 0u)
+        << "no array system, no storage group";
 }
 
 TEST(GraphFactory, ArraySystemIdentifyReachesTheControllerThroughTheProvider) {

@@ -76,7 +76,8 @@ TEST(DriveCageRemoval, BothClassesThrow100WithTheirOwnTexts) {
     QLN::QLN_VDDriveCageLocation location(rig.logger, "root/mwq", 1, rig.stored(3),
                                           rig.controller());
     rig.replace(cage(4, "boxNumber: 7"));
-    EXPECT_EQ(thrownBy(driveCage), "100 getInstance, findEnclosureInVector could not find enclosure");
+    EXPECT_EQ(thrownBy(driveCage),
+              "100 getInstance, findEnclosureInVector could not find enclosure");
     EXPECT_EQ(thrownBy(location),
               "100 getInstance, findEnclosureInVector could not find drive based on serial #");
     EXPECT_EQ(driveCage.getPath().getKey("Tag").getString(), "QLN_VDDriveCage-1-3");

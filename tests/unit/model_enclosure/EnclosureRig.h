@@ -20,8 +20,8 @@ public:
     }
 
     static std::string yaml(std::string const& enclosures, std::string const& physloc = "[5, 3]") {
-        return "  - serialNumber: PENC0001\n    physloc: " + physloc +
-               "\n    enclosures: [" + enclosures + "]\n";
+        return "  - serialNumber: PENC0001\n    physloc: " + physloc + "\n    enclosures: [" +
+               enclosures + "]\n";
     }
 
     void replace(std::string const& enclosures) {
@@ -48,7 +48,8 @@ private:
 };
 
 // The elements of an array property.
-inline std::vector<unsigned short> uint16s(CmpiCpp::CmpiInstance const& instance, char const* name) {
+inline std::vector<unsigned short> uint16s(CmpiCpp::CmpiInstance const& instance,
+                                           char const* name) {
     std::vector<unsigned short> values;
     CmpiCpp::CmpiArray const& array = instance.getProperty(name).getArray();
     for (unsigned int i = 0; i < array.size(); ++i)
@@ -66,8 +67,7 @@ inline std::vector<std::string> strings(CmpiCpp::CmpiInstance const& instance, c
 
 // Calls getInstance and returns the status it threw (code and text), or a
 // note that it threw nothing.
-template <typename Instance>
-std::string thrownBy(Instance const& instance) {
+template <typename Instance> std::string thrownBy(Instance const& instance) {
     try {
         instance.getInstance();
     } catch (CmpiCpp::CmpiStatus const& status) {

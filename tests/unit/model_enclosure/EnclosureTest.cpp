@@ -66,10 +66,10 @@ class EnclosureProcessorStatus : public ::testing::TestWithParam<ProcessorRow> {
 
 TEST_P(EnclosureProcessorStatus, OverallStatusLeadsAndSubsystemsFollowUntranslated) {
     ProcessorRow const& row = GetParam();
-    EnclosureRig rig("{enclosureBoxNumber: 1, boxNumber: 5, overallStatus: " +
-                     std::to_string(row.overall) +
-                     ", fanStatus: 0x8002, powerSupplyStatus: 0x8005, tempSensorStatus: 0x800B, "
-                     "paths: [{port: 1E, box: 5}]}");
+    EnclosureRig rig(
+        "{enclosureBoxNumber: 1, boxNumber: 5, overallStatus: " + std::to_string(row.overall) +
+        ", fanStatus: 0x8002, powerSupplyStatus: 0x8005, tempSensorStatus: 0x800B, "
+        "paths: [{port: 1E, box: 5}]}");
     QLN::QLN_VDStorageEnclosureProcessor processor(rig.logger, "root/mwq", 1, rig.stored(1),
                                                    rig.controller());
     CmpiCpp::CmpiInstance const instance = processor.getInstance();
@@ -113,8 +113,7 @@ TEST(EnclosureLocation, PositionTagAndLocationPartsBehindThePciSlot) {
     EXPECT_EQ(instance.getProperty("ElementName").getString(), "Port 1I Box 7, Port 2E Box 7");
     EXPECT_EQ(instance.getProperty("ElementLocationTag").getString(), "Internal");
     EXPECT_EQ(instance.getProperty("ElementLocationTagDesc").getUint16(), 19);
-    EXPECT_EQ(strings(instance, "LocationInfoDesc"),
-              (std::vector<std::string>{"PCI Slot", "Box"}));
+    EXPECT_EQ(strings(instance, "LocationInfoDesc"), (std::vector<std::string>{"PCI Slot", "Box"}));
     EXPECT_EQ(uint16s(instance, "LocationInformation"), (std::vector<unsigned short>{3, 7}));
     EXPECT_EQ(other.getInstance().getProperty("ElementLocationTag").getString(), "Unknown");
 }
@@ -133,7 +132,8 @@ TEST(EnclosureFirmware, SoftwareIdentityOfTheProcessor) {
     EnclosureRig rig(described + ", {enclosureBoxNumber: 5, fwVersion: 'rev B'}");
     QLN::QLN_VDEnclosureFirmware firmware(rig.logger, "root/mwq", 2, rig.stored(3),
                                           rig.controller());
-    EXPECT_EQ(firmware.getPath().getKey("InstanceID").getString(), "MWQ:QLN_VDEnclosureFirmware-2-3");
+    EXPECT_EQ(firmware.getPath().getKey("InstanceID").getString(),
+              "MWQ:QLN_VDEnclosureFirmware-2-3");
     CmpiCpp::CmpiInstance const instance = firmware.getInstance();
     EXPECT_EQ(instance.getProperty("Name").getString(), "Storage Enclosure Processor Firmware");
     EXPECT_EQ(instance.getProperty("Manufacturer").getString(), "Morvane");

@@ -21,7 +21,8 @@ std::string scenario(std::string const& volumes, std::string const& extra = "") 
            "                    {id: 1, serialNumber: DB, bay: 2, configuration: 2},\n"
            "                    {id: 2, serialNumber: DC, bay: 3, configuration: 3},\n"
            "                    {id: 3, serialNumber: DD, bay: 4, configuration: 2}]\n"
-           "    logicalDisks: [" + volumes + "]\n";
+           "    logicalDisks: [" +
+           volumes + "]\n";
 }
 
 std::string volumeRecord(std::string const& fields) {
@@ -81,21 +82,20 @@ TEST_P(VolumeStatusTable, StatusMapsToOperationalHealthAndDescriptions) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, VolumeStatusTable,
-    ::testing::Values(
-        StatusRow{4, {6, 4}, 25, "Logical Disk has failed.", true},
-        StatusRow{0x800E, {6, 0x800E}, 25, "Logical Disk has failed.", true},
-        // Also an "encryption" state, yet the failed row wins.
-        StatusRow{0x8010, {6, 0x8010}, 25, "Logical Disk has failed.", true},
-        StatusRow{0x8000, {3, 0x8000}, 10, "Logical Disk is degraded", true},
-        StatusRow{0x8012, {3, 0x8012}, 10, "Logical Disk is degraded", true},
-        StatusRow{0x8018, {3, 0x8018}, 10, "Logical Disk is degraded", true},
-        StatusRow{2, {2}, 5, "Logical Disk is operating properly", false},
-        StatusRow{0x8014, {2}, 5, "Logical Disk is operating properly", false},
-        StatusRow{3, {6}, 25, "Logical Disk has failed.", false},
-        // Gaps in the degraded ranges and values past them are unknown.
-        StatusRow{0x800F, {0}, 0, "Logical Disk Unknown", false},
-        StatusRow{0x8019, {0}, 0, "Logical Disk Unknown", false},
-        StatusRow{0, {0}, 0, "Logical Disk Unknown", false}));
+    ::testing::Values(StatusRow{4, {6, 4}, 25, "Logical Disk has failed.", true},
+                      StatusRow{0x800E, {6, 0x800E}, 25, "Logical Disk has failed.", true},
+                      // Also an "encryption" state, yet the failed row wins.
+                      StatusRow{0x8010, {6, 0x8010}, 25, "Logical Disk has failed.", true},
+                      StatusRow{0x8000, {3, 0x8000}, 10, "Logical Disk is degraded", true},
+                      StatusRow{0x8012, {3, 0x8012}, 10, "Logical Disk is degraded", true},
+                      StatusRow{0x8018, {3, 0x8018}, 10, "Logical Disk is degraded", true},
+                      StatusRow{2, {2}, 5, "Logical Disk is operating properly", false},
+                      StatusRow{0x8014, {2}, 5, "Logical Disk is operating properly", false},
+                      StatusRow{3, {6}, 25, "Logical Disk has failed.", false},
+                      // Gaps in the degraded ranges and values past them are unknown.
+                      StatusRow{0x800F, {0}, 0, "Logical Disk Unknown", false},
+                      StatusRow{0x8019, {0}, 0, "Logical Disk Unknown", false},
+                      StatusRow{0, {0}, 0, "Logical Disk Unknown", false}));
 
 TEST(VolumeTolerance, RedundancyPropertiesFollowTheToleranceSets) {
     struct Row {
@@ -128,8 +128,8 @@ TEST(VolumeTolerance, RedundancyPropertiesFollowTheToleranceSets) {
 
 TEST(VolumeInstance, PathKeysNamesAndOrderOfAPlainVolume) {
     ArrayTestRig rig(scenario(volumeRecord("number: 0, tolerance: 1, status: 2, blockSize: 512, "
-                                     "totalBlocks: 1000, stripeSize: 0x100000000, "
-                                     "rapidParityPercentComplete: 0, percentComplete: 0")));
+                                           "totalBlocks: 1000, stripeSize: 0x100000000, "
+                                           "rapidParityPercentComplete: 0, percentComplete: 0")));
     VeldraLogicalDisk const logical = stored(rig.controller());
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, logical, rig.controller());
     CmpiCpp::CmpiObjectPath const path = volume.getPath();
@@ -157,8 +157,8 @@ TEST(VolumeInstance, PathKeysNamesAndOrderOfAPlainVolume) {
 
 TEST(VolumeInstance, ConditionalPropertiesAppearWhenTheyHaveSomethingToSay) {
     ArrayTestRig rig(scenario(volumeRecord("number: 4, status: 0x8004, osName: /dev/sdb, "
-                                     "percentComplete: 40, volumeType: 2, relatedLUN: 7, "
-                                     "cacheVolumeCacheState: 3")));
+                                           "percentComplete: 40, volumeType: 2, relatedLUN: 7, "
+                                           "cacheVolumeCacheState: 3")));
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                     rig.controller());
     CmpiCpp::CmpiInstance const instance = volume.getInstance();

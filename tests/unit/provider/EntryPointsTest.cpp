@@ -17,7 +17,8 @@ using namespace provider_test;
 
 namespace {
 
-template <typename MI> using Factory = MI* (*)(CMPIBroker const*, CMPIContext const*, char const*, CMPIStatus*);
+template <typename MI>
+using Factory = MI* (*)(CMPIBroker const*, CMPIContext const*, char const*, CMPIStatus*);
 
 struct Tables {
     CMPIInstanceMI* instance = nullptr;
@@ -97,7 +98,8 @@ TEST_F(EntryPoints, FailedConstructionIsLoggedAndTheNextCallBuildsAnew) {
                         "storage access could not be started"),
               1)
         << log.text();
-    EXPECT_EQ(log.count("_Generic_Create_MethodMI: QLNVeldra constructor threw std::exception: "), 1);
+    EXPECT_EQ(log.count("_Generic_Create_MethodMI: QLNVeldra constructor threw std::exception: "),
+              1);
 
     useScenario("demo.yaml");
     int const builtBefore = log.count("QLNVeldra: cxtor()");
@@ -106,13 +108,15 @@ TEST_F(EntryPoints, FailedConstructionIsLoggedAndTheNextCallBuildsAnew) {
     ASSERT_NE(t.association, nullptr);
     ASSERT_NE(t.method, nullptr);
     ASSERT_NE(t.indication, nullptr);
-    EXPECT_EQ(log.count("QLNVeldra: cxtor()"), builtBefore + 1) << "four entry points, one provider";
+    EXPECT_EQ(log.count("QLNVeldra: cxtor()"), builtBefore + 1)
+        << "four entry points, one provider";
 
     {
         ObjectRegistry::Scope scope(_broker.registry());
         BrokerResult* result = _broker.registry().make<BrokerResult>();
-        CMPIStatus const status = t.instance->ft->getInstance(
-            t.instance, _broker.newContext("root/mwq", 0)->cmpi(), result->cmpi(), path("QLN_VDDiskDrive"), nullptr);
+        CMPIStatus const status =
+            t.instance->ft->getInstance(t.instance, _broker.newContext("root/mwq", 0)->cmpi(),
+                                        result->cmpi(), path("QLN_VDDiskDrive"), nullptr);
         EXPECT_EQ(status.rc, CMPI_RC_ERR_NOT_FOUND);
     }
     {
@@ -120,9 +124,9 @@ TEST_F(EntryPoints, FailedConstructionIsLoggedAndTheNextCallBuildsAnew) {
         BrokerResult* result = _broker.registry().make<BrokerResult>();
         CMPIArgs* in = _broker.cmpi()->eft->newArgs(_broker.cmpi(), nullptr);
         CMPIArgs* out = _broker.cmpi()->eft->newArgs(_broker.cmpi(), nullptr);
-        CMPIStatus const status =
-            t.method->ft->invokeMethod(t.method, _broker.newContext("root/mwq", 0)->cmpi(), result->cmpi(),
-                                       path("QLN_VDStorageEnclosure"), "Identify", in, out);
+        CMPIStatus const status = t.method->ft->invokeMethod(
+            t.method, _broker.newContext("root/mwq", 0)->cmpi(), result->cmpi(),
+            path("QLN_VDStorageEnclosure"), "Identify", in, out);
         EXPECT_EQ(status.rc, CMPI_RC_OK) << "an unknown method is a return value, not an error";
         std::vector<CimValue> const data = result->takeData();
         ASSERT_EQ(data.size(), 1u);
@@ -146,11 +150,14 @@ TEST_F(EntryPoints, TerminatingCleanupUnloadsWhateverReferencesRemain) {
     std::vector<CMPIInstanceMI*> instances;
     std::vector<CMPIAssociationMI*> associations;
     std::vector<CMPIMethodMI*> methods;
-    for (int i = 0; i < 105; ++i) instances.push_back(create<CMPIInstanceMI>("_Generic_Create_InstanceMI", "QLNVeldra"));
+    for (int i = 0; i < 105; ++i)
+        instances.push_back(create<CMPIInstanceMI>("_Generic_Create_InstanceMI", "QLNVeldra"));
     for (int i = 0; i < 66; ++i) {
-        associations.push_back(create<CMPIAssociationMI>("_Generic_Create_AssociationMI", "QLNVeldra"));
+        associations.push_back(
+            create<CMPIAssociationMI>("_Generic_Create_AssociationMI", "QLNVeldra"));
     }
-    for (int i = 0; i < 4; ++i) methods.push_back(create<CMPIMethodMI>("_Generic_Create_MethodMI", "QLNVeldra"));
+    for (int i = 0; i < 4; ++i)
+        methods.push_back(create<CMPIMethodMI>("_Generic_Create_MethodMI", "QLNVeldra"));
     EXPECT_EQ(log.count("QLNVeldra: cxtor()"), 1);
 
     ObjectRegistry::Scope scope(_broker.registry());
@@ -160,8 +167,12 @@ TEST_F(EntryPoints, TerminatingCleanupUnloadsWhateverReferencesRemain) {
     EXPECT_EQ(associations[0]->ft->cleanup(associations[0], context, true).rc, CMPI_RC_OK);
     EXPECT_EQ(methods[0]->ft->cleanup(methods[0], context, true).rc, CMPI_RC_OK);
     BrokerResult* result = _broker.registry().make<BrokerResult>();
-    EXPECT_EQ(instances[1]->ft->getInstance(instances[1], context, result->cmpi(), path("QLN_VDDiskDrive"), nullptr).rc,
-              CMPI_RC_ERR_INVALID_HANDLE);
+    EXPECT_EQ(
+        instances[1]
+            ->ft
+            ->getInstance(instances[1], context, result->cmpi(), path("QLN_VDDiskDrive"), nullptr)
+            .rc,
+        CMPI_RC_ERR_INVALID_HANDLE);
     EXPECT_EQ(log.count("dxtor() unloading provider"), 1);
 
     Tables const again = createAll("QLNVeldra");

@@ -18,7 +18,9 @@
 namespace provider_test {
 
 struct Instances : CmpiCpp::CmpiInstanceResult {
-    void returnInstance(CmpiCpp::CmpiInstance const& instance) override { rows.push_back(instance); }
+    void returnInstance(CmpiCpp::CmpiInstance const& instance) override {
+        rows.push_back(instance);
+    }
     std::vector<CmpiCpp::CmpiInstance> rows;
 };
 
@@ -32,7 +34,8 @@ class LogCapture {
 public:
     LogCapture() {
         _path = std::filesystem::temp_directory_path() /
-                ("veldra-provider-test-" + std::to_string(::getpid()) + "-" + std::to_string(_next++) + ".log");
+                ("veldra-provider-test-" + std::to_string(::getpid()) + "-" +
+                 std::to_string(_next++) + ".log");
         std::filesystem::remove(_path);
         ::setenv("VELDRA_LOG", _path.c_str(), 1);
         QLN::FrameworkConfig::reload();

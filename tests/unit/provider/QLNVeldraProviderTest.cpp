@@ -1,19 +1,19 @@
 // The provider object on its own: forwarding under the mutex, the one status
 // it throws, method dispatch and the indication switch.
+#include "QLNVeldraProvider.h"
 #include "Broker.h"
 #include "BrokerContext.h"
 #include "CapturedMethodResult.h"
 #include "CmpiArgs.h"
 #include "CmpiStatus.h"
-#include "ProviderTestSupport.h"
-#include "QLNUtil.h"
-#include "QLNVeldraProvider.h"
 #include "MemoryIndicationSink.h"
 #include "ObjectRegistry.h"
+#include "ProviderTestSupport.h"
+#include "QLNUtil.h"
 #include "QLN_AutoStartVeldra.h"
 
-#include <gtest/gtest.h>
 #include <future>
+#include <gtest/gtest.h>
 #include <memory>
 
 using namespace provider_test;
@@ -36,7 +36,8 @@ std::unique_ptr<QLN::QLNVeldraProvider> makeProvider() {
     return std::make_unique<QLN::QLNVeldraProvider>(CmpiBroker(), logger);
 }
 
-std::uint32_t call(QLN::QLNVeldraProvider& provider, CmpiObjectPath const& path, char const* method) {
+std::uint32_t call(QLN::QLNVeldraProvider& provider, CmpiObjectPath const& path,
+                   char const* method) {
     QLN::CapturedMethodResult result;
     provider.invokeMethod(CmpiContext(), path, CmpiName(method), CmpiCpp::CmpiArgs(), result);
     EXPECT_TRUE(result.returnValue().has_value());
@@ -67,7 +68,8 @@ TEST(QLNVeldraProvider, UnknownPathIsNotFoundAndLeavesTheMutexFree) {
 TEST(QLNVeldraProvider, MethodsAnswerWithValuesNotExceptions) {
     auto provider = makeProvider();
     EXPECT_EQ(call(*provider, pathOf("QLN_VDStorageEnclosure"), "Identify"), 17u);
-    EXPECT_EQ(call(*provider, pathOf("QLN_VDDiskDrive"), "Identify"), 17u) << "no such disk: 17, not a throw";
+    EXPECT_EQ(call(*provider, pathOf("QLN_VDDiskDrive"), "Identify"), 17u)
+        << "no such disk: 17, not a throw";
     EXPECT_EQ(call(*provider, pathOf("QLN_VDArraySystem"), "NoSuchMethod"), 17u);
     // The worker's name is matched as a CIM name, without regard to case, whatever the path.
     EXPECT_EQ(call(*provider, pathOf("QLN_VDStorageEnclosure"), "performwork"), 0u);
@@ -110,13 +112,15 @@ TEST(QLN_AutoStartVeldra, CarriesTheWorkerScheduleAndTheStartingHost) {
     CmpiCpp::CmpiInstance const instance = autostart.getInstance();
     ::unsetenv("VELDRA_HOSTNAME");
 
-    EXPECT_EQ(instance.getPath().getHost().str(), "renamed-host") << "the path shows the host of the moment";
+    EXPECT_EQ(instance.getPath().getHost().str(), "renamed-host")
+        << "the path shows the host of the moment";
     std::vector<std::string> names;
     for (unsigned int i = 0; i < instance.getPropertyCount(); ++i) {
         names.push_back(instance.getPropertyNameAt(i).str());
     }
-    EXPECT_EQ(names, (std::vector<std::string>{"ProviderName", "WorkerMethodNameSpace", "WorkerPollInterval",
-                                               "WorkerPollIntervalStagger", "ProviderStartedHostname"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"ProviderName", "WorkerMethodNameSpace",
+                                               "WorkerPollInterval", "WorkerPollIntervalStagger",
+                                               "ProviderStartedHostname"}));
     EXPECT_EQ(instance.getProperty("WorkerPollInterval").getType(), CMPI_uint16);
     EXPECT_EQ(instance.getProperty("WorkerPollInterval").getUint16(), 30);
     EXPECT_EQ(instance.getProperty("WorkerPollIntervalStagger").getUint16(), 18);
@@ -135,8 +139,8 @@ TEST(QLNVeldraProvider, HeartbeatGoesOutWhenIndicationsAndTheSwitchAreOn) {
     CmpiContext const context(broker.newContext("root/mwq", 0)->cmpi());
     auto const pass = [&](QLN::QLNVeldraProvider& provider) {
         QLN::CapturedMethodResult result;
-        provider.invokeMethod(context, pathOf("QLN_AutoStartVeldra"), CmpiName("PerformWork"), CmpiCpp::CmpiArgs(),
-                              result);
+        provider.invokeMethod(context, pathOf("QLN_AutoStartVeldra"), CmpiName("PerformWork"),
+                              CmpiCpp::CmpiArgs(), result);
     };
 
     ::setenv("VELDRA_HEARTBEAT", "true", 1);
@@ -152,7 +156,9 @@ TEST(QLNVeldraProvider, HeartbeatGoesOutWhenIndicationsAndTheSwitchAreOn) {
     auto const beats = sink->delivered();
     EXPECT_EQ(beats[0].nameSpace, "root/mwq");
     EXPECT_EQ(beats[0].indication.className(), "QLN_VeldraIndication");
-    EXPECT_EQ(beats[0].indication.property("Summary")->asString().rfind("Veldra provider heartbeat ", 0), 0u);
+    EXPECT_EQ(
+        beats[0].indication.property("Summary")->asString().rfind("Veldra provider heartbeat ", 0),
+        0u);
     EXPECT_NE(beats[0].indication.property("IndicationIdentifier")->asString(),
               beats[1].indication.property("IndicationIdentifier")->asString());
 

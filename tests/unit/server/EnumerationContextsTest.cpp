@@ -1,5 +1,5 @@
-#include "CimOperationError.h"
 #include "EnumerationContexts.h"
+#include "CimOperationError.h"
 
 #include <gtest/gtest.h>
 
@@ -23,14 +23,15 @@ EnumerationContexts::Results objects(int count, Kind kind = Kind::instances) {
 
 std::string range(int from, int to) {
     std::string text;
-    for (int i = from; i < to; ++i) text += "<A" + std::to_string(i) + "/>";
+    for (int i = from; i < to; ++i)
+        text += "<A" + std::to_string(i) + "/>";
     return text;
 }
 
-int errorOf(const std::function<void()>& call) {
+int errorOf(std::function<void()> const& call) {
     try {
         call();
-    } catch (const CimOperationError& e) {
+    } catch (CimOperationError const& e) {
         return e.code();
     }
     return 0;
@@ -44,7 +45,7 @@ protected:
     const std::chrono::seconds minute{60};
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(Contexts, BatchesComeInOrderAndTheEndClosesTheContext) {
     auto first = table.open(alice, objects(1000), minute, 3);
@@ -79,7 +80,8 @@ TEST_F(Contexts, OnlyItsOwnerInItsNamespaceWithItsKindReachesAContext) {
     for (auto* owner : {&bob, &aliceElsewhere})
         EXPECT_EQ(errorOf([&] { table.pull(*owner, opened.context, Kind::paths, 1); }),
                   CimOperationError::invalidEnumerationContext);
-    EXPECT_EQ(errorOf([&] { table.close(bob, opened.context); }), CimOperationError::invalidEnumerationContext);
+    EXPECT_EQ(errorOf([&] { table.close(bob, opened.context); }),
+              CimOperationError::invalidEnumerationContext);
     EXPECT_EQ(errorOf([&] { table.pull(alice, opened.context, Kind::instances, 1); }),
               CimOperationError::invalidEnumerationContext);
     // None of that disturbed it.
@@ -90,7 +92,8 @@ TEST_F(Contexts, EachClientHasItsShare) {
     const EnumerationContexts::Owner bob{"10.0.0.2", "root/mwq"};
     auto a1 = table.open(alice, objects(5), minute, 1);
     table.open(alice, objects(5), minute, 1);
-    EXPECT_EQ(errorOf([&] { table.open(alice, objects(5), minute, 1); }), CimOperationError::serverLimitsExceeded);
+    EXPECT_EQ(errorOf([&] { table.open(alice, objects(5), minute, 1); }),
+              CimOperationError::serverLimitsExceeded);
     EXPECT_FALSE(table.open(bob, objects(5), minute, 1).endOfSequence());
     table.close(alice, a1.context);
     EXPECT_EQ(errorOf([&] { table.open(alice, objects(5), minute, 1); }), 0);
@@ -106,7 +109,7 @@ TEST_F(Contexts, UseKeepsAContextAliveAndIdlenessExpiresIt) {
     try {
         table.pull(alice, opened.context, Kind::instances, 1);
         FAIL() << "an expired context answered";
-    } catch (const CimOperationError& e) {
+    } catch (CimOperationError const& e) {
         EXPECT_EQ(e.code(), CimOperationError::invalidEnumerationContext);
         EXPECT_NE(std::string(e.what()).find("expired"), std::string::npos) << e.what();
     }

@@ -1,12 +1,12 @@
-#include "ClassRepository.h"
-#include "CimOperationError.h"
 #include "InstanceXml.h"
+#include "CimOperationError.h"
+#include "ClassRepository.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-const char* mof = R"MOF(
+char const* mof = R"MOF(
 #pragma namespace("root/mwq")
 class QLN_Disk : CIM_DiskDrive {
     [Key] string DeviceID;
@@ -18,12 +18,12 @@ class QLN_Disk : CIM_DiskDrive {
 [Association] class QLN_DiskLink { [Key] QLN_Disk REF Antecedent; [Key] QLN_Disk REF Dependent; };
 )MOF";
 
-std::string body(const CimXmlWriter& w) {
-    const std::string& s = w.str();
+std::string body(CimXmlWriter const& w) {
+    std::string const& s = w.str();
     return s.substr(s.find('\n') + 1);
 }
 
-pugi::xml_node parse(pugi::xml_document& doc, const std::string& text) {
+pugi::xml_node parse(pugi::xml_document& doc, std::string const& text) {
     EXPECT_TRUE(doc.load_string(text.c_str())) << text;
     return doc.first_child();
 }
@@ -37,16 +37,18 @@ protected:
     ClassRepository repo;
 };
 
-}  // namespace
+} // namespace
 
 // Catches key values handed to providers with the wrong CMPI type: keys take
 // the MOF's type, whatever VALUETYPE the client chose.
 TEST_F(InstanceXmlTest, InstanceNameKeysAreTypedFromTheMof) {
     pugi::xml_document doc;
-    auto node = parse(doc, "<INSTANCENAME CLASSNAME=\"qln_disk\">"
-                           "<KEYBINDING NAME=\"DeviceID\"><KEYVALUE VALUETYPE=\"string\">d &amp; 1</KEYVALUE></KEYBINDING>"
-                           "<KEYBINDING NAME=\"bay\"><KEYVALUE VALUETYPE=\"numeric\">7</KEYVALUE></KEYBINDING>"
-                           "</INSTANCENAME>");
+    auto node = parse(
+        doc, "<INSTANCENAME CLASSNAME=\"qln_disk\">"
+             "<KEYBINDING NAME=\"DeviceID\"><KEYVALUE VALUETYPE=\"string\">d &amp; "
+             "1</KEYVALUE></KEYBINDING>"
+             "<KEYBINDING NAME=\"bay\"><KEYVALUE VALUETYPE=\"numeric\">7</KEYVALUE></KEYBINDING>"
+             "</INSTANCENAME>");
     CimObjectPath path = InstanceXml::readInstanceName(node, "root/mwq", &repo);
     EXPECT_EQ(path.nameSpace(), "root/mwq");
     ASSERT_NE(path.key("DeviceID"), nullptr);
@@ -56,9 +58,11 @@ TEST_F(InstanceXmlTest, InstanceNameKeysAreTypedFromTheMof) {
     EXPECT_EQ(path.key("Bay")->asUnsigned(), 7u);
 
     // A class we do not hold still works, typed from VALUETYPE.
-    auto other = parse(doc, "<INSTANCENAME CLASSNAME=\"X\"><KEYBINDING NAME=\"N\"><KEYVALUE VALUETYPE=\"numeric\">-3"
-                            "</KEYVALUE></KEYBINDING><KEYBINDING NAME=\"B\"><KEYVALUE VALUETYPE=\"boolean\">TRUE"
-                            "</KEYVALUE></KEYBINDING></INSTANCENAME>");
+    auto other = parse(
+        doc,
+        "<INSTANCENAME CLASSNAME=\"X\"><KEYBINDING NAME=\"N\"><KEYVALUE VALUETYPE=\"numeric\">-3"
+        "</KEYVALUE></KEYBINDING><KEYBINDING NAME=\"B\"><KEYVALUE VALUETYPE=\"boolean\">TRUE"
+        "</KEYVALUE></KEYBINDING></INSTANCENAME>");
     CimObjectPath x = InstanceXml::readInstanceName(other, "root/mwq", &repo);
     EXPECT_EQ(x.key("N")->asSigned(), -3);
     EXPECT_TRUE(x.key("B")->asBoolean());
@@ -70,32 +74,39 @@ TEST_F(InstanceXmlTest, BadInstanceNamesAreInvalidParameters) {
     auto manyKeys = [](int n) {
         std::string text = "<INSTANCENAME CLASSNAME=\"X\">";
         for (int i = 0; i < n; ++i)
-            text += "<KEYBINDING NAME=\"k" + std::to_string(i) + "\"><KEYVALUE>v</KEYVALUE></KEYBINDING>";
+            text += "<KEYBINDING NAME=\"k" + std::to_string(i) +
+                    "\"><KEYVALUE>v</KEYVALUE></KEYBINDING>";
         return text + "</INSTANCENAME>";
     };
     pugi::xml_document most;
-    EXPECT_EQ(InstanceXml::readInstanceName(parse(most, manyKeys(64)), "root/mwq", &repo).keys().size(), 64u);
+    EXPECT_EQ(
+        InstanceXml::readInstanceName(parse(most, manyKeys(64)), "root/mwq", &repo).keys().size(),
+        64u);
 
     const std::string bad[] = {
         "<INSTANCENAME><KEYBINDING NAME=\"A\"><KEYVALUE>1</KEYVALUE></KEYBINDING></INSTANCENAME>",
-        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"Bay\"><KEYVALUE VALUETYPE=\"numeric\">seven"
+        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"Bay\"><KEYVALUE "
+        "VALUETYPE=\"numeric\">seven"
         "</KEYVALUE></KEYBINDING></INSTANCENAME>",
-        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"Bay\"><KEYVALUE>70000</KEYVALUE></KEYBINDING>"
+        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING "
+        "NAME=\"Bay\"><KEYVALUE>70000</KEYVALUE></KEYBINDING>"
         "</INSTANCENAME>",
-        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING><KEYVALUE>1</KEYVALUE></KEYBINDING></INSTANCENAME>",
+        "<INSTANCENAME "
+        "CLASSNAME=\"QLN_Disk\"><KEYBINDING><KEYVALUE>1</KEYVALUE></KEYBINDING></INSTANCENAME>",
         "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"A\"></KEYBINDING></INSTANCENAME>",
-        "<INSTANCENAME CLASSNAME=\"X\"><KEYBINDING NAME=\"A\"><KEYVALUE VALUETYPE=\"odd\">1</KEYVALUE></KEYBINDING>"
+        "<INSTANCENAME CLASSNAME=\"X\"><KEYBINDING NAME=\"A\"><KEYVALUE "
+        "VALUETYPE=\"odd\">1</KEYVALUE></KEYBINDING>"
         "</INSTANCENAME>",
         "<CLASSNAME NAME=\"QLN_Disk\"/>",
         manyKeys(65),
     };
-    for (const std::string& text : bad) {
+    for (std::string const& text : bad) {
         pugi::xml_document doc;
         auto node = parse(doc, text);
         try {
             InstanceXml::readInstanceName(node, "root/mwq", &repo);
             ADD_FAILURE() << "accepted " << text;
-        } catch (const CimOperationError& e) {
+        } catch (CimOperationError const& e) {
             EXPECT_EQ(e.code(), CimOperationError::invalidParameter) << text;
         }
     }
@@ -111,8 +122,9 @@ TEST_F(InstanceXmlTest, ParamValuesTakeTheDeclaredType) {
     EXPECT_EQ(v.asUnsigned(), 30u);
 
     pugi::xml_document doc2;
-    auto tags = parse(doc2, "<PARAMVALUE NAME=\"Tags\"><VALUE.ARRAY><VALUE>a</VALUE><VALUE.NULL></VALUE.NULL>"
-                            "</VALUE.ARRAY></PARAMVALUE>");
+    auto tags = parse(
+        doc2, "<PARAMVALUE NAME=\"Tags\"><VALUE.ARRAY><VALUE>a</VALUE><VALUE.NULL></VALUE.NULL>"
+              "</VALUE.ARRAY></PARAMVALUE>");
     CimValue t = InstanceXml::readParamValue(tags, CMPI_stringA, "root/mwq", &repo);
     ASSERT_TRUE(t.isArray());
     ASSERT_EQ(t.elements().size(), 2u);
@@ -120,17 +132,20 @@ TEST_F(InstanceXmlTest, ParamValuesTakeTheDeclaredType) {
 
     pugi::xml_document doc3;
     auto untyped = parse(doc3, "<PARAMVALUE NAME=\"Extra\"><VALUE>x</VALUE></PARAMVALUE>");
-    EXPECT_EQ(InstanceXml::readParamValue(untyped, CMPI_null, "root/mwq", &repo).type(), CMPI_string);
+    EXPECT_EQ(InstanceXml::readParamValue(untyped, CMPI_null, "root/mwq", &repo).type(),
+              CMPI_string);
 
     pugi::xml_document doc4;
     auto negative = parse(doc4, "<PARAMVALUE NAME=\"Duration\"><VALUE>-1</VALUE></PARAMVALUE>");
-    EXPECT_THROW(InstanceXml::readParamValue(negative, CMPI_uint32, "root/mwq", &repo), CimOperationError);
+    EXPECT_THROW(InstanceXml::readParamValue(negative, CMPI_uint32, "root/mwq", &repo),
+                 CimOperationError);
 
     pugi::xml_document doc5;
-    auto ref = parse(doc5, "<PARAMVALUE NAME=\"R\"><VALUE.REFERENCE><LOCALINSTANCEPATH><LOCALNAMESPACEPATH>"
-                           "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"cimv2\"/></LOCALNAMESPACEPATH>"
-                           "<INSTANCENAME CLASSNAME=\"Y\"></INSTANCENAME></LOCALINSTANCEPATH></VALUE.REFERENCE>"
-                           "</PARAMVALUE>");
+    auto ref = parse(
+        doc5, "<PARAMVALUE NAME=\"R\"><VALUE.REFERENCE><LOCALINSTANCEPATH><LOCALNAMESPACEPATH>"
+              "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"cimv2\"/></LOCALNAMESPACEPATH>"
+              "<INSTANCENAME CLASSNAME=\"Y\"></INSTANCENAME></LOCALINSTANCEPATH></VALUE.REFERENCE>"
+              "</PARAMVALUE>");
     CimValue r = InstanceXml::readParamValue(ref, CMPI_null, "root/mwq", &repo);
     EXPECT_EQ(r.asReference().nameSpace(), "root/cimv2");
 }
@@ -147,43 +162,51 @@ TEST_F(InstanceXmlTest, WritesInstancesInTheClientsShape) {
     CimInstance instance(disk);
     instance.setProperty("DeviceID", CimValue::string("d<1>"));
     instance.setProperty("Capacity", CimValue::null(CMPI_uint64));
-    instance.setProperty("Status", CimValue::array(CMPI_uint16, {CimValue::uint16(2), CimValue::uint16(3)}));
+    instance.setProperty("Status",
+                         CimValue::array(CMPI_uint16, {CimValue::uint16(2), CimValue::uint16(3)}));
     instance.setProperty("Unknown", CimValue::null(CMPI_null));
 
     CimXmlWriter w;
     InstanceXml::InstanceOptions options;
     options.cls = repo.find("root/mwq", "QLN_Disk");
     InstanceXml::writeInstance(w, instance, options);
-    EXPECT_EQ(body(w), "<INSTANCE CLASSNAME=\"QLN_Disk\">"
-                       "<PROPERTY NAME=\"DeviceID\" TYPE=\"string\"><VALUE>d&lt;1&gt;</VALUE></PROPERTY>"
-                       "<PROPERTY NAME=\"Capacity\" TYPE=\"uint64\"></PROPERTY>"
-                       "<PROPERTY.ARRAY NAME=\"Status\" TYPE=\"uint16\"><VALUE.ARRAY><VALUE>2</VALUE><VALUE>3</VALUE>"
-                       "</VALUE.ARRAY></PROPERTY.ARRAY>"
-                       "<PROPERTY NAME=\"Unknown\" TYPE=\"string\"></PROPERTY>"
-                       "</INSTANCE>");
+    EXPECT_EQ(body(w),
+              "<INSTANCE CLASSNAME=\"QLN_Disk\">"
+              "<PROPERTY NAME=\"DeviceID\" TYPE=\"string\"><VALUE>d&lt;1&gt;</VALUE></PROPERTY>"
+              "<PROPERTY NAME=\"Capacity\" TYPE=\"uint64\"></PROPERTY>"
+              "<PROPERTY.ARRAY NAME=\"Status\" "
+              "TYPE=\"uint16\"><VALUE.ARRAY><VALUE>2</VALUE><VALUE>3</VALUE>"
+              "</VALUE.ARRAY></PROPERTY.ARRAY>"
+              "<PROPERTY NAME=\"Unknown\" TYPE=\"string\"></PROPERTY>"
+              "</INSTANCE>");
 
     CimXmlWriter filtered;
     options.propertyList = std::set<std::string>{"capacity"};
     options.includeClassOrigin = true;
     InstanceXml::writeInstance(filtered, instance, options);
-    EXPECT_EQ(body(filtered), "<INSTANCE CLASSNAME=\"QLN_Disk\"><PROPERTY NAME=\"Capacity\" TYPE=\"uint64\" "
-                              "CLASSORIGIN=\"QLN_Disk\"></PROPERTY></INSTANCE>");
+    EXPECT_EQ(body(filtered),
+              "<INSTANCE CLASSNAME=\"QLN_Disk\"><PROPERTY NAME=\"Capacity\" TYPE=\"uint64\" "
+              "CLASSORIGIN=\"QLN_Disk\"></PROPERTY></INSTANCE>");
 
     CimXmlWriter path;
     InstanceXml::writeInstancePath(path, link, "localhost:5988");
-    EXPECT_EQ(body(path), "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH>"
-                          "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
-                          "<INSTANCENAME CLASSNAME=\"QLN_DiskLink\"><KEYBINDING NAME=\"Antecedent\"><VALUE.REFERENCE>"
-                          "<LOCALINSTANCEPATH><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
-                          "<NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH>"
-                          "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"DeviceID\">"
-                          "<KEYVALUE VALUETYPE=\"string\">d&lt;1&gt;</KEYVALUE></KEYBINDING>"
-                          "<KEYBINDING NAME=\"Bay\"><KEYVALUE VALUETYPE=\"numeric\">3</KEYVALUE></KEYBINDING>"
-                          "</INSTANCENAME></LOCALINSTANCEPATH></VALUE.REFERENCE></KEYBINDING></INSTANCENAME></INSTANCEPATH>");
+    EXPECT_EQ(
+        body(path),
+        "<INSTANCEPATH><NAMESPACEPATH><HOST>localhost:5988</HOST><LOCALNAMESPACEPATH>"
+        "<NAMESPACE NAME=\"root\"/><NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH></NAMESPACEPATH>"
+        "<INSTANCENAME CLASSNAME=\"QLN_DiskLink\"><KEYBINDING NAME=\"Antecedent\"><VALUE.REFERENCE>"
+        "<LOCALINSTANCEPATH><LOCALNAMESPACEPATH><NAMESPACE NAME=\"root\"/>"
+        "<NAMESPACE NAME=\"mwq\"/></LOCALNAMESPACEPATH>"
+        "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"DeviceID\">"
+        "<KEYVALUE VALUETYPE=\"string\">d&lt;1&gt;</KEYVALUE></KEYBINDING>"
+        "<KEYBINDING NAME=\"Bay\"><KEYVALUE VALUETYPE=\"numeric\">3</KEYVALUE></KEYBINDING>"
+        "</INSTANCENAME></LOCALINSTANCEPATH></VALUE.REFERENCE></KEYBINDING></INSTANCENAME></"
+        "INSTANCEPATH>");
 
     // What we write, we read back: the reference key survives a round trip.
     pugi::xml_document doc;
     auto node = parse(doc, body(path));
-    CimObjectPath back = InstanceXml::readInstanceName(node.child("INSTANCENAME"), "root/mwq", &repo);
+    CimObjectPath back =
+        InstanceXml::readInstanceName(node.child("INSTANCENAME"), "root/mwq", &repo);
     EXPECT_EQ(back, link);
 }

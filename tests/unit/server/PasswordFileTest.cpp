@@ -11,11 +11,12 @@
 namespace {
 
 struct TempFile {
-    std::string path = (std::filesystem::temp_directory_path() / ("users-" + std::to_string(getpid()))).string();
+    std::string path =
+        (std::filesystem::temp_directory_path() / ("users-" + std::to_string(getpid()))).string();
     ~TempFile() { std::filesystem::remove(path); }
 };
 
-}  // namespace
+} // namespace
 
 // Catches hashes that verify the wrong password, lose their salt, or a
 // replaced user whose old password still works.
@@ -34,7 +35,7 @@ TEST(PasswordFile, SetVerifyAndReplace) {
     EXPECT_FALSE(users.verify("carol", "bobs secret"));
     EXPECT_FALSE(users.verify("", ""));
 
-    struct stat st{};
+    struct stat st {};
     ASSERT_EQ(stat(file.path.c_str(), &st), 0);
     EXPECT_EQ(st.st_mode & 0777, 0600u) << "the hash file must not be readable by others";
 
@@ -57,7 +58,7 @@ TEST(PasswordFile, BadFilesAreRefusedWithTheLine) {
     try {
         PasswordFile::load(file.path);
         FAIL() << "accepted";
-    } catch (const std::runtime_error& e) {
+    } catch (std::runtime_error const& e) {
         EXPECT_NE(std::string(e.what()).find(":4:"), std::string::npos) << e.what();
     }
     EXPECT_THROW(PasswordFile::load(file.path + ".missing"), std::runtime_error);

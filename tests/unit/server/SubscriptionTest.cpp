@@ -19,42 +19,45 @@ namespace {
 
 using namespace std::chrono_literals;
 
-CimInstance alert(const std::string& cls, int severity, const std::string& text = "disk failed") {
+CimInstance alert(std::string const& cls, int severity, std::string const& text = "disk failed") {
     CimInstance instance(CimObjectPath("root/mwq", cls));
-    instance.setProperty("PerceivedSeverity", CimValue::uint16(static_cast<std::uint16_t>(severity)));
+    instance.setProperty("PerceivedSeverity",
+                         CimValue::uint16(static_cast<std::uint16_t>(severity)));
     instance.setProperty("Description", CimValue::string(text));
     instance.setProperty("Urgent", CimValue::boolean(severity > 4));
     return instance;
 }
 
 struct Folder {
-    std::filesystem::path path = std::filesystem::temp_directory_path() / ("subs-" + std::to_string(getpid()) + "-" +
-                                                                          std::to_string(serial++));
+    std::filesystem::path path =
+        std::filesystem::temp_directory_path() /
+        ("subs-" + std::to_string(getpid()) + "-" + std::to_string(serial++));
     Folder() { std::filesystem::create_directories(path); }
     ~Folder() { std::filesystem::remove_all(path); }
-    std::string file(const char* name) const { return (path / name).string(); }
+    std::string file(char const* name) const { return (path / name).string(); }
     static inline std::atomic<int> serial{0};
 };
 
 // Waits for a condition the queue's thread brings about.
-template <class Test>
-bool eventually(Test test) {
+template <class Test> bool eventually(Test test) {
     for (int i = 0; i < 400; ++i) {
-        if (test()) return true;
+        if (test())
+            return true;
         std::this_thread::sleep_for(5ms);
     }
     return test();
 }
 
-SubscriptionStore::Filter filter(const std::string& name, const std::string& query, const std::string& ns = "") {
+SubscriptionStore::Filter filter(std::string const& name, std::string const& query,
+                                 std::string const& ns = "") {
     return {name, "", query, "WQL", ns, WqlFilter::parse(query)};
 }
 
-}  // namespace
+} // namespace
 
 TEST(WqlFilter, TheSubsetSubscribersUse) {
     struct Row {
-        const char* query;
+        char const* query;
         int severity;
         bool matches;
     };
@@ -70,14 +73,18 @@ TEST(WqlFilter, TheSubsetSubscribersUse) {
         {"SELECT * FROM X WHERE Missing = 1", 6, false},
         {"SELECT * FROM X WHERE Missing <> 1", 6, false},
     };
-    for (const Row& row : rows) {
+    for (Row const& row : rows) {
         SCOPED_TRACE(row.query);
         EXPECT_EQ(WqlFilter::parse(row.query).matches(alert("X", row.severity)), row.matches);
     }
-    EXPECT_EQ(WqlFilter::parse("SELECT * FROM QLN_VeldraIndication").className(), "QLN_VeldraIndication");
-    EXPECT_EQ(WqlFilter::parse("SELECT * FROM X WHERE Description = 'it''s'").matches(alert("X", 2, "it's")), true);
-    for (const char* bad : {"", "SELECT Name FROM X", "SELECT * FROM", "SELECT * FROM X WHERE A > 3",
-                            "SELECT * FROM X WHERE A = 1 AND B = 2", "DELETE FROM X"})
+    EXPECT_EQ(WqlFilter::parse("SELECT * FROM QLN_VeldraIndication").className(),
+              "QLN_VeldraIndication");
+    EXPECT_EQ(WqlFilter::parse("SELECT * FROM X WHERE Description = 'it''s'")
+                  .matches(alert("X", 2, "it's")),
+              true);
+    for (char const* bad :
+         {"", "SELECT Name FROM X", "SELECT * FROM", "SELECT * FROM X WHERE A > 3",
+          "SELECT * FROM X WHERE A = 1 AND B = 2", "DELETE FROM X"})
         EXPECT_THROW(WqlFilter::parse(bad), std::invalid_argument) << bad;
 }
 
@@ -89,10 +96,11 @@ TEST(SubscriptionStore, KeepsItsStateAcrossRestartsAndRefusesDanglingOrDuplicate
         store.addFilter(filter("f", "SELECT * FROM CIM_AlertIndication", "root/mwq"));
         store.addDestination({"d", "", "http://127.0.0.1:1/"});
         store.addSubscription({"f", "d"});
-        EXPECT_THROW(store.addFilter(filter("F", "SELECT * FROM X")), std::invalid_argument);  // names ignore case
+        EXPECT_THROW(store.addFilter(filter("F", "SELECT * FROM X")),
+                     std::invalid_argument); // names ignore case
         EXPECT_THROW(store.addSubscription({"f", "nowhere"}), std::invalid_argument);
         EXPECT_THROW(store.addSubscription({"f", "d"}), std::invalid_argument);
-        EXPECT_THROW(store.removeFilter("f"), std::invalid_argument);  // still subscribed
+        EXPECT_THROW(store.removeFilter("f"), std::invalid_argument); // still subscribed
         EXPECT_FALSE(store.removeDestination("nowhere"));
     }
     SubscriptionStore again(state);
@@ -129,22 +137,28 @@ TEST(ListenerQueue, RetriesInOrderGivesUpAfterItsAttemptsAndNeverBlocksTheCaller
     ListenerQueue::Settings settings;
     settings.attempts = 4;
     settings.firstPause = 1ms;
-    ListenerQueue queue("http://listener/", settings, [&](const std::string&, const std::string& body) -> std::string {
-        while (hold) std::this_thread::sleep_for(1ms);
-        if (failuresLeft-- > 0) return "refused";
-        std::lock_guard lock(mutex);
-        sent.push_back(body);
-        return "";
-    });
+    ListenerQueue queue("http://listener/", settings,
+                        [&](std::string const&, std::string const& body) -> std::string {
+                            while (hold)
+                                std::this_thread::sleep_for(1ms);
+                            if (failuresLeft-- > 0)
+                                return "refused";
+                            std::lock_guard lock(mutex);
+                            sent.push_back(body);
+                            return "";
+                        });
     auto start = std::chrono::steady_clock::now();
-    for (int i = 1; i <= 3; ++i) queue.push(alert("A" + std::to_string(i), 2));
+    for (int i = 1; i <= 3; ++i)
+        queue.push(alert("A" + std::to_string(i), 2));
     EXPECT_LT(std::chrono::steady_clock::now() - start, 100ms) << "push waited for the listener";
     hold = false;
     ASSERT_TRUE(eventually([&] { return queue.pending() == 0; }));
     ASSERT_EQ(sent.size(), 3u);
     for (int i = 0; i < 3; ++i)
-        EXPECT_NE(sent[i].find("CLASSNAME=\"A" + std::to_string(i + 1) + "\""), std::string::npos) << sent[i];
-    EXPECT_NE(sent[0].find("<EXPMETHODCALL NAME=\"ExportIndication\"><EXPPARAMVALUE NAME=\"NewIndication\"><INSTANCE"),
+        EXPECT_NE(sent[i].find("CLASSNAME=\"A" + std::to_string(i + 1) + "\""), std::string::npos)
+            << sent[i];
+    EXPECT_NE(sent[0].find("<EXPMETHODCALL NAME=\"ExportIndication\"><EXPPARAMVALUE "
+                           "NAME=\"NewIndication\"><INSTANCE"),
               std::string::npos);
 
     // A listener that never answers costs the indication after four attempts, not the queue.
@@ -165,16 +179,19 @@ TEST(ListenerQueue, AFullQueueDropsTheOldest) {
     std::mutex mutex;
     ListenerQueue::Settings settings;
     settings.capacity = 2;
-    ListenerQueue queue("http://listener/", settings, [&](const std::string&, const std::string& body) -> std::string {
-        taken = true;
-        while (hold) std::this_thread::sleep_for(1ms);
-        std::lock_guard lock(mutex);
-        sent.push_back(body);
-        return "";
-    });
+    ListenerQueue queue("http://listener/", settings,
+                        [&](std::string const&, std::string const& body) -> std::string {
+                            taken = true;
+                            while (hold)
+                                std::this_thread::sleep_for(1ms);
+                            std::lock_guard lock(mutex);
+                            sent.push_back(body);
+                            return "";
+                        });
     queue.push(alert("First", 2));
-    ASSERT_TRUE(eventually([&] { return taken.load(); }));  // First is with the held sender
-    for (const char* name : {"B", "C", "D"}) queue.push(alert(name, 2));
+    ASSERT_TRUE(eventually([&] { return taken.load(); })); // First is with the held sender
+    for (char const* name : {"B", "C", "D"})
+        queue.push(alert(name, 2));
     EXPECT_EQ(queue.pending(), 3u);
     hold = false;
     ASSERT_TRUE(eventually([&] { return queue.pending() == 0; }));
@@ -189,24 +206,27 @@ TEST(IndicationDispatcher, SendsEachIndicationToTheDestinationsWhoseFiltersTakeI
     Folder folder;
     SubscriptionStore store("");
     store.addFilter(filter("all", "SELECT * FROM CIM_AlertIndication"));
-    store.addFilter(filter("severe", "SELECT * FROM CIM_AlertIndication WHERE PerceivedSeverity = 6"));
+    store.addFilter(
+        filter("severe", "SELECT * FROM CIM_AlertIndication WHERE PerceivedSeverity = 6"));
     store.addFilter(filter("cimv2", "SELECT * FROM CIM_AlertIndication", "root/cimv2"));
     store.addFilter(filter("also-all", "SELECT * FROM QLN_VeldraIndication"));
     store.addDestination({"a", "", "http://a/"});
     store.addDestination({"b", "", "http://b/"});
     store.addDestination({"c", "", "http://c/"});
     store.addSubscription({"all", "a"});
-    store.addSubscription({"also-all", "a"});  // a second way to the same listener
+    store.addSubscription({"also-all", "a"}); // a second way to the same listener
     store.addSubscription({"severe", "b"});
     store.addSubscription({"cimv2", "c"});
     std::mutex mutex;
     std::multiset<std::string> got;
     ListenerQueue::Settings settings;
     IndicationDispatcher dispatcher(
-        store, [](const std::string&, const std::string& cls, const std::string& base) {
+        store,
+        [](std::string const&, std::string const& cls, std::string const& base) {
             return base == "CIM_AlertIndication" && cls.rfind("QLN_", 0) == 0;
         },
-        settings, [&](const std::string& url, const std::string&) -> std::string {
+        settings,
+        [&](std::string const& url, std::string const&) -> std::string {
             std::lock_guard lock(mutex);
             got.insert(url);
             return "";

@@ -12,7 +12,8 @@
 
 namespace {
 
-std::shared_ptr<VeldraPhysicalDiskInfo> diskInfo(u32 id, std::string serial, int enclosure, int bay) {
+std::shared_ptr<VeldraPhysicalDiskInfo> diskInfo(u32 id, std::string serial, int enclosure,
+                                                 int bay) {
     auto info = std::make_shared<VeldraPhysicalDiskInfo>();
     info->id = id;
     info->serialNumber = serial;
@@ -44,7 +45,8 @@ TEST(PhysicalDiskCompare, EachFactSetsItsOwnBitAndFindsTheCounterpart) {
         {"unread fact", [](auto& d) { d.totalPowerOnHours = 5; }, 0},
     };
     auto base = diskInfo(7, "SER7", 1, 3);
-    std::vector<VeldraPhysicalDisk> previous = {VeldraPhysicalDisk(diskInfo(1, "SER1", 1, 1)), VeldraPhysicalDisk(base)};
+    std::vector<VeldraPhysicalDisk> previous = {VeldraPhysicalDisk(diskInfo(1, "SER1", 1, 1)),
+                                                VeldraPhysicalDisk(base)};
     for (auto const& c : cases) {
         auto changed = std::make_shared<VeldraPhysicalDiskInfo>(*base);
         c.edit(*changed);
@@ -58,7 +60,8 @@ TEST(PhysicalDiskCompare, PathBitComparesTheStoredRoutesNotTheCurrentOnes) {
     auto info = diskInfo(1, "SER1", 1, 1);
     VeldraPhysicalDisk old(info), now(info);
     std::vector<VeldraPhysicalPath> one = {VeldraPhysicalPath("1I", 1, 1)};
-    std::vector<VeldraPhysicalPath> two = {VeldraPhysicalPath("1I", 1, 1), VeldraPhysicalPath("2I", 1, 1)};
+    std::vector<VeldraPhysicalPath> two = {VeldraPhysicalPath("1I", 1, 1),
+                                           VeldraPhysicalPath("2I", 1, 1)};
     old.setLastAllPhysicalPaths(one);
     now.setLastAllPhysicalPaths(two);
     std::vector<VeldraPhysicalDisk> previous = {old};
@@ -93,8 +96,10 @@ TEST(EnclosureCompare, EachFactSetsItsOwnBit) {
     // A subsystem change also moves the derived overall status (0x2).
     std::vector<Case> const cases = {
         {"fan", [](auto& e) { e.fanStatus = ENCLOSURE_FAN_FAILED; }, 0x004 | 0x002},
-        {"power supply", [](auto& e) { e.powerSupplyStatus = ENCLOSURE_PS_DEGRADED; }, 0x008 | 0x002},
-        {"temperature", [](auto& e) { e.tempSensorStatus = ENCLOSURE_TEMP_WARNING; }, 0x010 | 0x002},
+        {"power supply", [](auto& e) { e.powerSupplyStatus = ENCLOSURE_PS_DEGRADED; },
+         0x008 | 0x002},
+        {"temperature", [](auto& e) { e.tempSensorStatus = ENCLOSURE_TEMP_WARNING; },
+         0x010 | 0x002},
         {"box number", [](auto& e) { e.boxNumber = 5; }, 0x020},
         {"enclosure box number", [](auto& e) { e.enclosureBoxNumber = 5; }, 0x080},
         {"model", [](auto& e) { e.model = "other"; }, 0},
@@ -145,8 +150,17 @@ TEST(LogicalDiskCompare, EachFactSetsItsOwnBit) {
         {"label", [](auto& l) { l.driveLabel = "x"; }, 0x04},
         {"tolerance", [](auto& l) { l.tolerance = LD_TOLERANCE_MIRROR; }, 0x08},
         {"status", [](auto& l) { l.status = LD_STATUS_FAILED; }, 0x10},
-        {"status and label", [](auto& l) { l.status = 4; l.driveLabel = "y"; }, 0x14},
-        {"members", [](auto& l) { l.dataDisks = {1, 2}; }, 0},
+        {"status and label",
+         [](auto& l) {
+             l.status = 4;
+             l.driveLabel = "y";
+         },
+         0x14},
+        {"members",
+         [](auto& l) {
+             l.dataDisks = {1, 2};
+         },
+         0},
     };
     auto base = std::make_shared<VeldraLogicalDiskInfo>();
     base->serialNumber = "LD-A";
@@ -195,11 +209,17 @@ TEST(ControllerDataCompare, EachNamedFactSetsItsBitAndTheRestIsUnexpected) {
         {"serial number", [](auto& c) { c.serialNumber = "new"; }, 0x00000001},
         {"battery read fails", [](auto& c) { c.fail.insert("getBatteryStatus"); }, 0x00000400},
         {"slot read fails", [](auto& c) { c.fail.insert("getPCISlotNumber"); }, 0x00000001},
-        {"battery and temperature", [](auto& c) { c.batteryStatus = 2; c.controllerTemperature = 1; }, 0x00000401},
+        {"battery and temperature",
+         [](auto& c) {
+             c.batteryStatus = 2;
+             c.controllerTemperature = 1;
+         },
+         0x00000401},
     };
     auto base = std::make_shared<VeldraControllerInfo>();
     VeldraControllerData previous(base);
-    EXPECT_EQ(VeldraControllerData(std::make_shared<VeldraControllerInfo>(*base)).compare(previous), 0u);
+    EXPECT_EQ(VeldraControllerData(std::make_shared<VeldraControllerInfo>(*base)).compare(previous),
+              0u);
     for (auto const& c : cases) {
         auto changed = std::make_shared<VeldraControllerInfo>(*base);
         c.edit(*changed);
@@ -230,7 +250,8 @@ TEST(EnumTexts, UnnamedValuesStillGiveAText) {
     VeldraPhysicalDisk disk;
     VeldraLogicalDisk volume;
     VeldraControllerData data;
-    EXPECT_STREQ(disk.diskStatusToStr(static_cast<VeldraPhysicalDiskStatusEnum>(0x9999)), "Unknown value");
+    EXPECT_STREQ(disk.diskStatusToStr(static_cast<VeldraPhysicalDiskStatusEnum>(0x9999)),
+                 "Unknown value");
     EXPECT_STREQ(disk.diskStatusToStr(PD_STATUS_REBUILDING), "Rebuilding");
     EXPECT_STREQ(volume.toleranceToStr(LD_TOLERANCE_PARITY_SINGLE), "RAID 4");
     auto battery = static_cast<batteryStatusEnum>(77);

@@ -6,12 +6,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <filesystem>
-#include <future>
 #include "ScenarioParser.h"
 #include "SimulatedControllerMRA.h"
 #include "StorageTestSupport.h"
+#include <chrono>
+#include <filesystem>
+#include <future>
 
 #include <gtest/gtest.h>
 
@@ -64,13 +64,16 @@ TEST(ShippedScenarios, DemoHasTheHardwareItPromises) {
     EXPECT_EQ(pairs, 1);
 
     int fanProblems = 0;
-    for (auto const& e : c1.enclosures) fanProblems += e->fanStatus != ENCLOSURE_FAN_OK;
+    for (auto const& e : c1.enclosures)
+        fanProblems += e->fanStatus != ENCLOSURE_FAN_OK;
     EXPECT_EQ(fanProblems, 1);
 }
 
 TEST(ShippedScenarios, SmallOnesLoad) {
     EXPECT_EQ(ScenarioParser::parseFile(scenarioPath("minimal.yaml")).controllers.size(), 1u);
-    EXPECT_TRUE(ScenarioParser::parseFile(scenarioPath("empty.yaml")).controllers.at(0).physicalDisks.empty());
+    EXPECT_TRUE(ScenarioParser::parseFile(scenarioPath("empty.yaml"))
+                    .controllers.at(0)
+                    .physicalDisks.empty());
     EXPECT_TRUE(ScenarioParser::parseFile(scenarioPath("none.yaml")).controllers.empty());
 }
 
@@ -80,24 +83,30 @@ TEST(BadScenarios, AreRefusedNamingTheFieldAndTheLine) {
         std::vector<char const*> expected;
     };
     std::vector<Case> const cases = {
-        {"controllers:\n  - serialNumber: A\n    colour: red\n", {"t.yaml:3:", "controllers[0]", "'colour'", "unknown field"}},
+        {"controllers:\n  - serialNumber: A\n    colour: red\n",
+         {"t.yaml:3:", "controllers[0]", "'colour'", "unknown field"}},
         {"controllers:\n  - physicalDisks:\n      - id: 1\n        status: broken\n",
          {"t.yaml:4:", "physicalDisks[0]", "'status'", "'broken'"}},
         {"controllers:\n  - pciSlotNumber: 99999999999\n", {":2:", "'pciSlotNumber'", "integer"}},
         {"controllers:\n  - numberOfSASPorts: -1\n", {":2:", "'numberOfSASPorts'"}},
-        {"controllers:\n  - physicalDisks:\n      - {id: 1}\n      - {id: 1}\n", {":4:", "'id'", "used twice"}},
+        {"controllers:\n  - physicalDisks:\n      - {id: 1}\n      - {id: 1}\n",
+         {":4:", "'id'", "used twice"}},
         {"controllers:\n  - logicalDisks:\n      - {serialNumber: V, dataDisks: [7]}\n",
          {":3:", "'dataDisks'", "no physical disk has id 7"}},
         {"controllers:\n  - fail: [getPhysloc, getColour]\n", {":2:", "'fail'", "getColour"}},
-        {"controllers:\n  - logicalDisks:\n      - {number: 1}\n", {"'serialNumber'", "needs a serial"}},
+        {"controllers:\n  - logicalDisks:\n      - {number: 1}\n",
+         {"'serialNumber'", "needs a serial"}},
         {"name: x\n", {"'controllers'", "missing"}},
         {"controllers: [\n", {"t.yaml:", "not valid YAML"}},
-        {"controllers:\n  - enclosures:\n      - {enclosureBoxNumber: 1, paths: [{box: 1}]}\n", {"'port'"}},
+        {"controllers:\n  - enclosures:\n      - {enclosureBoxNumber: 1, paths: [{box: 1}]}\n",
+         {"'port'"}},
         {"", {"empty"}},
         // Before: accepted, and one of the two array systems disappeared.
-        {"controllers:\n  - serialNumber: A\n  - serialNumber: A\n", {"t.yaml:3:", "controllers[1]", "used twice"}},
+        {"controllers:\n  - serialNumber: A\n  - serialNumber: A\n",
+         {"t.yaml:3:", "controllers[1]", "used twice"}},
         // An alias would let a few lines multiply into thousands of disks.
-        {"controllers:\n  - physicalDisks: &d [{id: 1}]\n  - physicalDisks: *d\n", {"t.yaml:3:", "aliases"}},
+        {"controllers:\n  - physicalDisks: &d [{id: 1}]\n  - physicalDisks: *d\n",
+         {"t.yaml:3:", "aliases"}},
     };
     for (auto const& c : cases) {
         try {
@@ -106,17 +115,19 @@ TEST(BadScenarios, AreRefusedNamingTheFieldAndTheLine) {
         } catch (ScenarioError const& e) {
             std::string message = e.what();
             for (char const* part : c.expected)
-                EXPECT_NE(message.find(part), std::string::npos) << "'" << part << "' missing in: " << message;
+                EXPECT_NE(message.find(part), std::string::npos)
+                    << "'" << part << "' missing in: " << message;
         }
     }
 }
 
 TEST(GetterFailures, FailListMakesExactlyThoseGettersFail) {
-    VeldraScenario s = ScenarioParser::parseText(
-        "controllers:\n"
-        "  - {serialNumber: A, pciSlotNumber: 4, fail: [getPhysloc, getPCISlotNumber, getEncryptionStatus]}\n"
-        "  - {serialNumber: B, pciSlotNumber: 5}\n",
-        "t.yaml");
+    VeldraScenario s =
+        ScenarioParser::parseText("controllers:\n"
+                                  "  - {serialNumber: A, pciSlotNumber: 4, fail: [getPhysloc, "
+                                  "getPCISlotNumber, getEncryptionStatus]}\n"
+                                  "  - {serialNumber: B, pciSlotNumber: 5}\n",
+                                  "t.yaml");
     VeldraControllerData failing(s.controllers[0].data), fine(s.controllers[1].data);
     int slot = -7;
     physloc_t location{};
@@ -135,7 +146,8 @@ TEST(GetterFailures, FailListMakesExactlyThoseGettersFail) {
 
     VeldraScenario disks = ScenarioParser::parseText(
         "controllers:\n"
-        "  - physicalDisks: [{id: 1, serialNumber: D1, fail: [getEncryptionStatus]}, {id: 2, serialNumber: D2, encryptionStatus: 2}]\n"
+        "  - physicalDisks: [{id: 1, serialNumber: D1, fail: [getEncryptionStatus]}, {id: 2, "
+        "serialNumber: D2, encryptionStatus: 2}]\n"
         "    logicalDisks: [{serialNumber: V, fail: [getEncryptionStatus]}]\n",
         "t.yaml");
     EncryptionPDStatusEnum pd = PD_ENCRYPTION_NONE;
@@ -147,24 +159,27 @@ TEST(GetterFailures, FailListMakesExactlyThoseGettersFail) {
 }
 
 TEST(GetterFailures, ThrowListMakesThoseGettersThrowAndIsCheckedLikeFail) {
-    VeldraScenario s = ScenarioParser::parseText(
-        "controllers:\n"
-        "  - {serialNumber: A, model: M, throw: [getModel]}\n",
-        "t.yaml");
+    VeldraScenario s =
+        ScenarioParser::parseText("controllers:\n"
+                                  "  - {serialNumber: A, model: M, throw: [getModel]}\n",
+                                  "t.yaml");
     VeldraControllerData raising(s.controllers[0].data);
     std::string text;
     EXPECT_THROW(raising.getModel(text), std::runtime_error);
     EXPECT_EQ(raising.getControllerSerialNumber(text), 0);
-    EXPECT_THROW(ScenarioParser::parseText("controllers:\n  - {serialNumber: A, throw: [getNothing]}\n", "t.yaml"),
+    EXPECT_THROW(ScenarioParser::parseText(
+                     "controllers:\n  - {serialNumber: A, throw: [getNothing]}\n", "t.yaml"),
                  ScenarioError);
 }
 
 TEST(Locators, RequestsAreRecordedBesideTheScenarioOrFailWhenTold) {
     TempDir dir;
     std::string path = dir.file("s.yaml");
-    replaceText(path, "controllers:\n"
-                      "  - physicalDisks: [{id: 1, serialNumber: D1}, {id: 2, enclosureBoxNumber: 3, bay: 4}]\n"
-                      "  - fail: [identifyAllPhysicalDisks, identifyPhysicalDisks]\n");
+    replaceText(
+        path,
+        "controllers:\n"
+        "  - physicalDisks: [{id: 1, serialNumber: D1}, {id: 2, enclosureBoxNumber: 3, bay: 4}]\n"
+        "  - fail: [identifyAllPhysicalDisks, identifyPhysicalDisks]\n");
     std::string before = readText(path);
     Logger logger("test");
     SimulatedControllerMRA root(path, logger);
@@ -181,7 +196,8 @@ TEST(Locators, RequestsAreRecordedBesideTheScenarioOrFailWhenTold) {
     auto lines = LocatorLog::read(path);
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_NE(lines[0].find("controller 1 all disks duration 30"), std::string::npos) << lines[0];
-    EXPECT_NE(lines[1].find("controller 1 disks D1,box3:bay4 duration 15"), std::string::npos) << lines[1];
+    EXPECT_NE(lines[1].find("controller 1 disks D1,box3:bay4 duration 15"), std::string::npos)
+        << lines[1];
     EXPECT_EQ(readText(path), before) << "the scenario itself is not touched";
 }
 
@@ -193,7 +209,8 @@ TEST(Locators, TheLogIsRotatedAtItsCap) {
     for (std::size_t written = 0; written < 3 * LocatorLog::maxBytes; written += line.size() + 1)
         ASSERT_TRUE(LocatorLog::append(path, line));
     EXPECT_LE(std::filesystem::file_size(LocatorLog::sidecarPath(path)), LocatorLog::maxBytes);
-    EXPECT_LE(std::filesystem::file_size(LocatorLog::sidecarPath(path) + ".1"), LocatorLog::maxBytes + line.size() + 1);
+    EXPECT_LE(std::filesystem::file_size(LocatorLog::sidecarPath(path) + ".1"),
+              LocatorLog::maxBytes + line.size() + 1);
     EXPECT_FALSE(LocatorLog::read(path).empty());
 }
 

@@ -23,7 +23,8 @@ struct Counts {
 std::string replaceOnce(std::string text, std::string const& from, std::string const& to) {
     auto at = text.find(from);
     EXPECT_NE(at, std::string::npos) << from;
-    if (at != std::string::npos) text.replace(at, from.size(), to);
+    if (at != std::string::npos)
+        text.replace(at, from.size(), to);
     return text;
 }
 
@@ -50,9 +51,12 @@ protected:
     // Which counters moved between two readings.
     static std::string moved(Counts a, Counts b) {
         std::string out;
-        if (a.data != b.data) out += "data ";
-        if (a.disks != b.disks) out += "disks ";
-        if (a.significant != b.significant) out += "significant ";
+        if (a.data != b.data)
+            out += "data ";
+        if (a.disks != b.disks)
+            out += "disks ";
+        if (a.significant != b.significant)
+            out += "significant ";
         return out;
     }
     std::string movedAfter(std::string const& text) {
@@ -63,7 +67,8 @@ protected:
     size_t logLinesContaining(std::string const& part) {
         std::string log = readText(_log);
         size_t n = 0;
-        for (size_t at = log.find(part); at != std::string::npos; at = log.find(part, at + 1)) ++n;
+        for (size_t at = log.find(part); at != std::string::npos; at = log.find(part, at + 1))
+            ++n;
         return n;
     }
 
@@ -85,7 +90,8 @@ TEST_F(ReloadTest, EachChangeMovesOnlyItsCounters) {
         {"controller firmware", "fwVersion: \"4.12\"", "fwVersion: \"4.20\"", "data "},
         {"enclosure only", "driveBays: 4", "driveBays: 4\n        fanStatus: 0x8003", "disks "},
         {"disk status", "configuration: 1,", "configuration: 1, status: 3,", "disks significant "},
-        {"volume status", "tolerance: 2", "tolerance: 2\n        status: 0x8000", "disks significant "},
+        {"volume status", "tolerance: 2", "tolerance: 2\n        status: 0x8000",
+         "disks significant "},
         {"comment only", "name: minimal", "name: minimal  # edited", ""},
     };
     for (auto const& c : cases) {
@@ -105,7 +111,8 @@ TEST_F(ReloadTest, NoChangeNoMove) {
 TEST_F(ReloadTest, BadFileIsLoggedOnceAndTheLastGoodStateStays) {
     Counts before = counts();
     replaceText(_path, replaceOnce(_original, "configuration: 1,", "configuration: one,"));
-    for (int i = 0; i < 3; ++i) EXPECT_EQ(counts(), before);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(counts(), before);
     EXPECT_EQ(logLinesContaining("keeping the last good state"), 1u);
     EXPECT_EQ(logLinesContaining("'configuration'"), 1u) << readText(_log);
     EXPECT_EQ(_controller->getAllPhysicalDisks().size(), 4u);
@@ -132,7 +139,8 @@ TEST_F(ReloadTest, RecordsKeepTheirIdentityAcrossReloads) {
     _controller->setLastAllPhysicalDisks(last);
     _controller->setConsumedDiskVectorCount(_controller->getDiskVectorCount());
 
-    replaceText(_path, replaceOnce(_original, "MD0001, model: NR4000 SAS,", "MD0001, model: NR4000 SAS, status: 3,"));
+    replaceText(_path, replaceOnce(_original, "MD0001, model: NR4000 SAS,",
+                                   "MD0001, model: NR4000 SAS, status: 3,"));
     ASSERT_NE(_controller->getDiskVectorCount(), _controller->getConsumedDiskVectorCount());
     std::vector<VeldraPhysicalDisk> previous = _controller->getLastAllPhysicalDisks();
     std::vector<VeldraPhysicalDisk> current = _controller->getAllPhysicalDisks();
@@ -144,8 +152,10 @@ TEST_F(ReloadTest, RecordsKeepTheirIdentityAcrossReloads) {
     u32 index = 0;
     EXPECT_EQ(current[1].compare(previous, index), 0x10u);
     EXPECT_EQ(index, 1u);
-    EXPECT_EQ(current[3].compare(previous, index), 0u) << "the serial-less disk is found by its place";
-    EXPECT_EQ(_controller->getLastAllPhysicalDisks()[1].getStatus(), PD_STATUS_OK) << "the snapshot does not move";
+    EXPECT_EQ(current[3].compare(previous, index), 0u)
+        << "the serial-less disk is found by its place";
+    EXPECT_EQ(_controller->getLastAllPhysicalDisks()[1].getStatus(), PD_STATUS_OK)
+        << "the snapshot does not move";
 }
 
 TEST(Factory, ChoosesBackEndAndScenarioFromTheConfiguration) {
@@ -171,7 +181,8 @@ TEST(Factory, ChoosesBackEndAndScenarioFromTheConfiguration) {
     ::unsetenv("VELDRA_SCENARIO");
     QLN::FrameworkConfig::reload();
     EXPECT_EQ(InternalVeldraControllerMRA::defaultScenarioPath(), scenarioPath("demo.yaml"));
-    std::unique_ptr<InternalVeldraControllerMRA> fallback(internalVeldraControllerMRAFactory(logger));
+    std::unique_ptr<InternalVeldraControllerMRA> fallback(
+        internalVeldraControllerMRAFactory(logger));
     EXPECT_NE(fallback, nullptr);
 }
 
@@ -190,9 +201,11 @@ TEST_F(ReloadTest, StoredDiskLookupAgreesWithTheScan) {
     std::vector<VeldraPhysicalDisk> disks = _controller->getAllPhysicalDisks();
     _controller->setLastAllPhysicalDisks(disks);
     for (VeldraPhysicalDisk const& d : disks) {
-        auto found = _controller->findLastPhysicalDisk(d.getSerialNumber(), d.getEnclosureBoxNumber(), d.getBay());
+        auto found = _controller->findLastPhysicalDisk(d.getSerialNumber(),
+                                                       d.getEnclosureBoxNumber(), d.getBay());
         ASSERT_TRUE(found.has_value()) << d.getSerialNumber();
-        int at = findPhysicalDiskInVector(d.getSerialNumber(), d.getEnclosureBoxNumber(), d.getBay(), disks);
+        int at = findPhysicalDiskInVector(d.getSerialNumber(), d.getEnclosureBoxNumber(),
+                                          d.getBay(), disks);
         EXPECT_EQ(found->getId(), disks[static_cast<size_t>(at)].getId());
     }
     EXPECT_FALSE(_controller->findLastPhysicalDisk("no such serial", 0, 0).has_value());
@@ -208,7 +221,8 @@ TEST_F(ReloadTest, StoredDiskLookupAgreesWithTheScan) {
     std::vector<VeldraPhysicalDisk> fewer(disks.begin() + 2, disks.end());
     _controller->setLastAllPhysicalDisks(fewer);
     EXPECT_FALSE(_controller->findLastPhysicalDisk(disks[0].getSerialNumber(), 0, 0).has_value());
-    EXPECT_TRUE(_controller->findLastPhysicalDisk(disks[3].getSerialNumber(), disks[3].getEnclosureBoxNumber(),
-                                                  disks[3].getBay())
+    EXPECT_TRUE(_controller
+                    ->findLastPhysicalDisk(disks[3].getSerialNumber(),
+                                           disks[3].getEnclosureBoxNumber(), disks[3].getBay())
                     .has_value());
 }

@@ -30,7 +30,8 @@ TEST(StorageConcurrency, ReadersWritersAndReloadsTogether) {
         while (!stop) {
             controller->getDiskVectorCount();
             controller->getControllerDataCount();
-            if (controller->getAllPhysicalDisks().size() != 4) ++wrongSizes;
+            if (controller->getAllPhysicalDisks().size() != 4)
+                ++wrongSizes;
             std::vector<VeldraLogicalDisk> last;
             controller->getLastLogicalDisks(last);
             controller->getLastAllPhysicalDisks();
@@ -48,7 +49,8 @@ TEST(StorageConcurrency, ReadersWritersAndReloadsTogether) {
     std::thread r1(reader), r2(reader), s(snapshotter);
     std::string edited = original;
     edited.replace(edited.find("configuration: 1,"), 17, "configuration: 3,");
-    for (int i = 0; i < 40; ++i) replaceText(path, i % 2 ? original : edited);
+    for (int i = 0; i < 40; ++i)
+        replaceText(path, i % 2 ? original : edited);
     replaceText(path, edited);
     stop = true;
     r1.join();

@@ -13,9 +13,11 @@ namespace storagetest {
 class TempDir {
 public:
     TempDir() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "veldra-storage-XXXXXX").string();
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "veldra-storage-XXXXXX").string();
         char* made = ::mkdtemp(pattern.data());
-        if (made) _path = made;
+        if (made)
+            _path = made;
     }
     ~TempDir() {
         std::error_code ignored;
@@ -41,6 +43,8 @@ inline void replaceText(std::string const& path, std::string const& text) {
     std::filesystem::rename(temp, path);
 }
 
-inline std::string scenarioPath(char const* name) { return std::string(VELDRA_DATA_DIR) + "/scenarios/" + name; }
+inline std::string scenarioPath(char const* name) {
+    return std::string(VELDRA_DATA_DIR) + "/scenarios/" + name;
+}
 
 } // namespace storagetest

@@ -11,7 +11,8 @@ using namespace view_test;
 
 namespace {
 
-std::vector<std::string> column(std::vector<CmpiCpp::CmpiInstance> const& rows, char const* property) {
+std::vector<std::string> column(std::vector<CmpiCpp::CmpiInstance> const& rows,
+                                char const* property) {
     std::vector<std::string> values;
     for (auto const& row : rows) {
         values.push_back(text(row, property));
@@ -25,7 +26,8 @@ TEST(ViewClasses, DemoControllersAreNamedByIndexAndSlot) {
     ViewScenario scenario("demo.yaml");
     auto provider = startProvider();
     auto const controllers = enumerate(*provider, "DRSV_VDController");
-    EXPECT_EQ(column(controllers, "Name"), (std::vector<std::string>{"vmwControllerDRVD1", "vmwControllerDRVD2"}));
+    EXPECT_EQ(column(controllers, "Name"),
+              (std::vector<std::string>{"vmwControllerDRVD1", "vmwControllerDRVD2"}));
     EXPECT_EQ(column(controllers, "ElementName"),
               (std::vector<std::string>{"QLNVeldra 8e Controller : Slot 3 : DRVD1",
                                         "QLNVeldra 8i Controller : Embedded : DRVD2"}));
@@ -79,12 +81,14 @@ TEST(ViewClasses, VolumeAndExtentTextsFollowTheDisks) {
     EXPECT_EQ(text(extents[0], "Name"), "MD0000");
     EXPECT_TRUE(extents[0].getProperty("Primordial").getBool());
     EXPECT_EQ(extents[0].getProperty("NumberOfBlocks").getUint64(), 3907029168u);
-    EXPECT_NE(text(extents[0], "ElementName").find("Disk 1 on DRVD1 : Port 1I Box 1 Bay 1 : 1863GB : Data Disk : "),
+    EXPECT_NE(text(extents[0], "ElementName")
+                  .find("Disk 1 on DRVD1 : Port 1I Box 1 Bay 1 : 1863GB : Data Disk : "),
               std::string::npos)
         << text(extents[0], "ElementName");
     EXPECT_NE(text(extents[2], "ElementName").find(" : Spare Disk : "), std::string::npos);
     // Configuration 4 has no role part; a disk without serial has an empty Name.
-    EXPECT_EQ(text(extents[3], "ElementName").find(" Disk : "), std::string::npos) << text(extents[3], "ElementName");
+    EXPECT_EQ(text(extents[3], "ElementName").find(" Disk : "), std::string::npos)
+        << text(extents[3], "ElementName");
     EXPECT_EQ(text(extents[3], "Name"), "");
 }
 
@@ -95,8 +99,8 @@ TEST(ViewClasses, BatteryOnlyWhenTheCacheReportsOne) {
         bool readFails;
         std::size_t batteries;
     };
-    for (Case const& c : {Case{"present", 1, false, 1}, Case{"absent", 0, false, 0}, Case{"other value", 2, false, 0},
-                          Case{"read fails", 1, true, 0}}) {
+    for (Case const& c : {Case{"present", 1, false, 1}, Case{"absent", 0, false, 0},
+                          Case{"other value", 2, false, 0}, Case{"read fails", 1, true, 0}}) {
         ViewScenario scenario("minimal.yaml");
         YAML::Node controller = scenario.controller(1);
         controller["cacheHasBattery"] = c.hasBattery;

@@ -28,12 +28,14 @@ TEST(ViewConcurrency, ReadersNeverSeeAHalfRebuiltView) {
                 ids.insert(text(row, "DeviceID"));
             }
             // The disk list has one of two sizes; anything else is a view caught between.
-            bool const whole = ids.size() == extents.size() && (extents.size() == disks || extents.size() == disks - 1);
+            bool const whole = ids.size() == extents.size() &&
+                               (extents.size() == disks || extents.size() == disks - 1);
             if (!whole) {
                 ++wrong;
             }
             provider_test::Paths names;
-            provider->enumInstanceNames(CmpiCpp::CmpiContext(), viewPath("DRSV_VDStorageVolume"), names);
+            provider->enumInstanceNames(CmpiCpp::CmpiContext(), viewPath("DRSV_VDStorageVolume"),
+                                        names);
             if (names.rows.size() != 1) {
                 ++wrong;
             }

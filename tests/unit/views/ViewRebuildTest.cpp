@@ -18,7 +18,8 @@ int linesOf(LogCapture const& log, std::string const& className, std::string con
     std::istringstream lines(log.text());
     int n = 0;
     for (std::string line; std::getline(lines, line);) {
-        if (line.find(":" + className) != std::string::npos && line.find(what) != std::string::npos) {
+        if (line.find(":" + className) != std::string::npos &&
+            line.find(what) != std::string::npos) {
             ++n;
         }
     }
@@ -31,7 +32,8 @@ std::set<std::string> extentsOf(QLN::QLNVeldraProvider& provider, int controller
     std::set<std::string> ids;
     for (auto const& row : enumerate(provider, "DRSV_VDStorageExtent")) {
         std::string const caption = text(row, "Caption");
-        if (caption.size() > suffix.size() && caption.compare(caption.size() - suffix.size(), suffix.size(), suffix) == 0) {
+        if (caption.size() > suffix.size() &&
+            caption.compare(caption.size() - suffix.size(), suffix.size(), suffix) == 0) {
             ids.insert(text(row, "DeviceID"));
         }
     }
@@ -61,7 +63,8 @@ TEST(ViewRebuild, PulledDiskRebuildsOnlyItsController) {
     std::size_t const volumes2 = scenario.controller(2)["logicalDisks"].size();
     ASSERT_EQ(before1.size(), distinctDisks(scenario, 1));
 
-    std::string const pulledSerial = scenario.controller(1)["physicalDisks"][7]["serialNumber"].as<std::string>();
+    std::string const pulledSerial =
+        scenario.controller(1)["physicalDisks"][7]["serialNumber"].as<std::string>();
     scenario.pullDisk(1, 7);
     {
         LogCapture log;
@@ -69,7 +72,8 @@ TEST(ViewRebuild, PulledDiskRebuildsOnlyItsController) {
         EXPECT_EQ(log.count("Internal controller 1 needs rescan."), 1);
         EXPECT_EQ(log.count("Internal controller 2 needs rescan."), 0);
         // Every old extent and volume of controller 1 went; none of controller 2.
-        EXPECT_EQ(linesOf(log, "DRSV_VDStorageExtent", "dxtor()"), static_cast<int>(before1.size()));
+        EXPECT_EQ(linesOf(log, "DRSV_VDStorageExtent", "dxtor()"),
+                  static_cast<int>(before1.size()));
         EXPECT_EQ(linesOf(log, "DRSV_VDStorageVolume", "dxtor()"), static_cast<int>(volumes1));
         EXPECT_EQ(linesOf(log, "DRSV_VDController", "dxtor()"), 0);
         EXPECT_EQ(linesOf(log, "DRSV_VDControllerFirmware", "dxtor()"), 0);
@@ -124,5 +128,6 @@ TEST(ViewRebuild, RebuiltVolumesTakeTheirOwnNumbers) {
     runPass(*provider);
     auto const volumes = elementNames(*provider, "DRSV_VDStorageVolume");
     ASSERT_EQ(volumes.size(), 2u);
-    EXPECT_EQ(volumes.at("DRSV_VDStorageVolume-ADDED0005").rfind("Logical Volume 6 on DRVD1 : ", 0), 0u);
+    EXPECT_EQ(volumes.at("DRSV_VDStorageVolume-ADDED0005").rfind("Logical Volume 6 on DRVD1 : ", 0),
+              0u);
 }

@@ -24,8 +24,9 @@ class ViewScenario {
 public:
     explicit ViewScenario(std::string const& from) {
         static int next = 0;
-        _path = std::filesystem::temp_directory_path() /
-                ("veldra-view-" + std::to_string(::getpid()) + "-" + std::to_string(next++) + ".yaml");
+        _path =
+            std::filesystem::temp_directory_path() /
+            ("veldra-view-" + std::to_string(::getpid()) + "-" + std::to_string(next++) + ".yaml");
         yaml = YAML::LoadFile(std::string(VELDRA_DATA_DIR) + "/scenarios/" + from);
         write();
         ::setenv("VELDRA_SCENARIO", _path.c_str(), 1);
@@ -81,7 +82,8 @@ private:
 inline std::size_t distinctDisks(ViewScenario& scenario, int controllerNumber) {
     std::set<std::string> ids;
     for (auto const& disk : scenario.controller(controllerNumber)["physicalDisks"]) {
-        std::string id = disk["model"].as<std::string>("") + "-" + disk["serialNumber"].as<std::string>("");
+        std::string id =
+            disk["model"].as<std::string>("") + "-" + disk["serialNumber"].as<std::string>("");
         std::erase(id, ' ');
         ids.insert(id);
     }
@@ -97,7 +99,8 @@ inline CmpiCpp::CmpiObjectPath viewPath(char const* className) {
     return CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/cimv2", className);
 }
 
-inline std::vector<CmpiCpp::CmpiInstance> enumerate(QLN::QLNVeldraProvider& provider, char const* className) {
+inline std::vector<CmpiCpp::CmpiInstance> enumerate(QLN::QLNVeldraProvider& provider,
+                                                    char const* className) {
     provider_test::Instances rows;
     provider.enumInstances(CmpiCpp::CmpiContext(), viewPath(className), nullptr, rows);
     return rows.rows;
@@ -108,7 +111,8 @@ inline std::string text(CmpiCpp::CmpiInstance const& instance, char const* prope
 }
 
 // ElementName by DeviceID (or by Name for classes without one).
-inline std::map<std::string, std::string> elementNames(QLN::QLNVeldraProvider& provider, char const* className,
+inline std::map<std::string, std::string> elementNames(QLN::QLNVeldraProvider& provider,
+                                                       char const* className,
                                                        char const* key = "DeviceID") {
     std::map<std::string, std::string> names;
     for (auto const& row : enumerate(provider, className)) {
@@ -119,9 +123,10 @@ inline std::map<std::string, std::string> elementNames(QLN::QLNVeldraProvider& p
 
 inline void runPass(QLN::QLNVeldraProvider& provider) {
     QLN::CapturedMethodResult result;
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_AutoStartVeldra");
-    provider.invokeMethod(CmpiCpp::CmpiContext(), path, CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(),
-                          result);
+    CmpiCpp::CmpiObjectPath path =
+        CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_AutoStartVeldra");
+    provider.invokeMethod(CmpiCpp::CmpiContext(), path, CmpiCpp::CmpiName("PerformWork"),
+                          CmpiCpp::CmpiArgs(), result);
 }
 
 } // namespace view_test

@@ -40,8 +40,10 @@ protected:
     void passWithBroker(QLN::QLNVeldraProvider& provider) {
         CmpiCpp::CmpiContext const context(_broker.newContext("root/mwq", 0)->cmpi());
         QLN::CapturedMethodResult result;
-        provider.invokeMethod(context, CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
-                              CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+        provider.invokeMethod(
+            context,
+            CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
+            CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
     }
     // What went out since the last call, as alerts read against `expected`.
     std::vector<std::string> sent(std::vector<hardware_events::Alert> const& expected = {}) {
@@ -49,9 +51,11 @@ protected:
         for (auto const& one : _sink->delivered()) {
             auto const& indication = one.indication;
             alerts.push_back(hardware_events::observed(
-                indication.className(), expected, [&indication](std::string const& name) -> std::optional<std::string> {
+                indication.className(), expected,
+                [&indication](std::string const& name) -> std::optional<std::string> {
                     auto const* value = indication.property(name);
-                    if (value == nullptr) return std::nullopt;
+                    if (value == nullptr)
+                        return std::nullopt;
                     return value->toText();
                 }));
         }
@@ -91,7 +95,8 @@ TEST_F(FirstPass, WithIndicationsOffIsNeverMadeUpLater) {
 
 TEST_P(EventTable, OnePassSendsWhatTheChangeCalledFor) {
     WorkingCopy copy("demo.yaml");
-    if (GetParam().setup != nullptr) copy.sim(GetParam().setup);
+    if (GetParam().setup != nullptr)
+        copy.sim(GetParam().setup);
     auto provider = startListenedProvider();
     passWithBroker(*provider);
     sent(); // the survey of what was bad from the start has its own test

@@ -40,33 +40,44 @@ int steps() {
 // Commands are drawn from these names; veldra-sim refuses those that do not
 // fit the state (inserting a disk that is in, deleting a volume twice), and
 // a refused command leaves the file as it was.
-std::vector<std::string> const disks{"NR8K1000", "NR8K1001", "NR8K1002", "NR8K1003", "NR8K1004", "NR8K1005",
-                                     "NR8K1006", "NR8K1007", "KS2T2008", "KS2T2009", "KS2T2010", "KS2T2011",
-                                     "KS2T2012", "KS2T2013", "NR8M3000", "NR8M3001", "NR8M3002", "NR8M3003",
-                                     "NR8M3004", "NR8M3005", "NR8M3006", "KS2T3007"};
-std::vector<std::string> const volumes{"600508B1001C4D2A0000000000000001", "600508B1001C4D2A0000000000000002",
-                                       "600508B1001C4D2A0000000000000005", "600508B1001C7E110000000000000001"};
+std::vector<std::string> const disks{
+    "NR8K1000", "NR8K1001", "NR8K1002", "NR8K1003", "NR8K1004", "NR8K1005", "NR8K1006", "NR8K1007",
+    "KS2T2008", "KS2T2009", "KS2T2010", "KS2T2011", "KS2T2012", "KS2T2013", "NR8M3000", "NR8M3001",
+    "NR8M3002", "NR8M3003", "NR8M3004", "NR8M3005", "NR8M3006", "KS2T3007"};
+std::vector<std::string> const volumes{
+    "600508B1001C4D2A0000000000000001", "600508B1001C4D2A0000000000000002",
+    "600508B1001C4D2A0000000000000005", "600508B1001C7E110000000000000001"};
 
 std::string draw(std::mt19937& random) {
     auto pick = [&](std::vector<std::string> const& from) {
         return from[std::uniform_int_distribution<std::size_t>(0, from.size() - 1)(random)];
     };
     switch (std::uniform_int_distribution<int>(0, 10)(random)) {
-    case 0: return "pull-disk " + pick(disks);
-    case 1: return "insert-disk " + pick(disks);
-    case 2: return "fail-disk " + pick(disks);
-    case 3: return "restore-disk " + pick(disks);
-    case 4: return "activate-spare " + pick(volumes);
-    case 5: return "delete-volume " + pick(volumes);
+    case 0:
+        return "pull-disk " + pick(disks);
+    case 1:
+        return "insert-disk " + pick(disks);
+    case 2:
+        return "fail-disk " + pick(disks);
+    case 3:
+        return "restore-disk " + pick(disks);
+    case 4:
+        return "activate-spare " + pick(volumes);
+    case 5:
+        return "delete-volume " + pick(volumes);
     case 6:
         return "create-volume --controller 1 --serial 600508B1001C4D2A00000000000000A" +
-               std::to_string(random() % 4) + " --disks " + pick(disks) + "," + pick(disks) + " --spares " +
-               pick(disks);
-    case 7: return "add-enclosure --controller 2 --box " + std::to_string(5 + random() % 2) + " --serial VBOX" +
-                   std::to_string(random() % 2);
-    case 8: return "remove-enclosure " + std::string(random() % 2 ? "2:5" : "1:2");
-    case 9: return "set-fan 1:2 " + std::string(random() % 2 ? "failed" : "ok");
-    default: return "degrade-disk " + pick(disks);
+               std::to_string(random() % 4) + " --disks " + pick(disks) + "," + pick(disks) +
+               " --spares " + pick(disks);
+    case 7:
+        return "add-enclosure --controller 2 --box " + std::to_string(5 + random() % 2) +
+               " --serial VBOX" + std::to_string(random() % 2);
+    case 8:
+        return "remove-enclosure " + std::string(random() % 2 ? "2:5" : "1:2");
+    case 9:
+        return "set-fan 1:2 " + std::string(random() % 2 ? "failed" : "ok");
+    default:
+        return "degrade-disk " + pick(disks);
     }
 }
 
@@ -89,7 +100,8 @@ TEST(GraphProperty, EveryPassEqualsAFreshStart) {
             auto have = graphOf(*provider);
             auto want = graphOf(*fresh);
             if (takeViewVolumes(have) != takeViewVolumes(want) || have != want) {
-                FAIL() << "seed " << seed << ", step " << step << ": the graph differs from a fresh start after\n"
+                FAIL() << "seed " << seed << ", step " << step
+                       << ": the graph differs from a fresh start after\n"
                        << history << "kept by the passes only:\n"
                        << difference(have, want) << "made fresh only:\n"
                        << difference(want, have);

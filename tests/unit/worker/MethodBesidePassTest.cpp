@@ -13,9 +13,9 @@ TEST(MethodBesidePass, IdentifyOnDisksWhilePassesPullAndInsertThem) {
     WorkingCopy copy("demo.yaml");
     auto provider = startProvider();
     provider_test::Paths disks;
-    provider->enumInstanceNames(CmpiCpp::CmpiContext(),
-                                CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDDiskDrive"),
-                                disks);
+    provider->enumInstanceNames(
+        CmpiCpp::CmpiContext(),
+        CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDDiskDrive"), disks);
     ASSERT_FALSE(disks.rows.empty());
 
     std::atomic<bool> done{false};
@@ -29,7 +29,8 @@ TEST(MethodBesidePass, IdentifyOnDisksWhilePassesPullAndInsertThem) {
             while (!done) {
                 for (CmpiCpp::CmpiObjectPath const& disk : disks.rows) {
                     QLN::CapturedMethodResult result;
-                    provider->invokeMethod(CmpiCpp::CmpiContext(), disk, CmpiCpp::CmpiName("Identify"), in, result);
+                    provider->invokeMethod(CmpiCpp::CmpiContext(), disk,
+                                           CmpiCpp::CmpiName("Identify"), in, result);
                     (result.returnValue().has_value() ? answered : unanswered) += 1;
                 }
             }

@@ -34,7 +34,9 @@ struct Change {
     std::vector<std::string> commands;
 };
 
-void PrintTo(Change const& change, std::ostream* out) { *out << change.name; }
+void PrintTo(Change const& change, std::ostream* out) {
+    *out << change.name;
+}
 
 class HardwareChange : public ::testing::TestWithParam<Change> {};
 
@@ -69,19 +71,23 @@ TEST(WorkerPass, APassThatThrowsLeavesTheGraphAsItWas) {
     QLN::CapturedMethodResult result;
     bool failed = false;
     try {
-        provider->invokeMethod(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
-                               CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+        provider->invokeMethod(
+            CmpiContext(),
+            CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDArraySystem"),
+            CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
         failed = result.returnValue().value_or(0) != 0;
     } catch (...) {
         failed = true;
     }
     EXPECT_TRUE(failed) << "the caller of PerformWork hears of the failure";
-    EXPECT_EQ(graphOf(*provider), before) << "changed by the failed pass:\n" << difference(graphOf(*provider), before);
+    EXPECT_EQ(graphOf(*provider), before) << "changed by the failed pass:\n"
+                                          << difference(graphOf(*provider), before);
 
     // The lock was given back: reads and the next pass go on.
     provider_test::Paths disks;
-    provider->enumInstanceNames(CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDDiskDrive"),
-                                disks);
+    provider->enumInstanceNames(
+        CmpiContext(), CmpiCpp::makeCmpiObjectPath(CmpiBroker(), "root/mwq", "QLN_VDDiskDrive"),
+        disks);
     EXPECT_FALSE(disks.rows.empty());
 }
 
@@ -99,17 +105,19 @@ TEST_P(HardwareChange, OnePassFollowsTheHardware) {
 
 INSTANTIATE_TEST_SUITE_P(
     Demo, HardwareChange,
-    ::testing::Values(Change{"PullDisk", {"pull-disk NR8K1000"}},
-                      Change{"PullAndInsertDisk", {"pull-disk NR8K1000", "insert-disk NR8K1000"}},
-                      Change{"InsertNewDisk", {"insert-disk --controller 1 --box 2 --bay 12 --serial NEWDISK1"}},
-                      Change{"FailDisk", {"fail-disk NR8K1001"}},
-                      Change{"ActivateSpare", {"fail-disk NR8M3000", "activate-spare 600508B1001C7E110000000000000001"}},
-                      Change{"DeleteVolume", {"delete-volume 600508B1001C4D2A0000000000000005"}},
-                      Change{"DeleteVolumeWithSpare", {"delete-volume 600508B1001C4D2A0000000000000001"}},
-                      Change{"AddEnclosure", {"add-enclosure --controller 2 --box 7 --serial VNEWBOX7"}},
-                      Change{"RemoveEnclosure", {"remove-enclosure 1:2"}},
-                      Change{"CreateVolume",
-                             {"delete-volume 600508B1001C4D2A0000000000000005",
-                              "create-volume --controller 1 --serial 600508B1001C4D2A00000000000000AA "
-                              "--disks KS2T2010,KS2T2011 --spares KS2T2012"}}),
+    ::testing::Values(
+        Change{"PullDisk", {"pull-disk NR8K1000"}},
+        Change{"PullAndInsertDisk", {"pull-disk NR8K1000", "insert-disk NR8K1000"}},
+        Change{"InsertNewDisk", {"insert-disk --controller 1 --box 2 --bay 12 --serial NEWDISK1"}},
+        Change{"FailDisk", {"fail-disk NR8K1001"}},
+        Change{"ActivateSpare",
+               {"fail-disk NR8M3000", "activate-spare 600508B1001C7E110000000000000001"}},
+        Change{"DeleteVolume", {"delete-volume 600508B1001C4D2A0000000000000005"}},
+        Change{"DeleteVolumeWithSpare", {"delete-volume 600508B1001C4D2A0000000000000001"}},
+        Change{"AddEnclosure", {"add-enclosure --controller 2 --box 7 --serial VNEWBOX7"}},
+        Change{"RemoveEnclosure", {"remove-enclosure 1:2"}},
+        Change{"CreateVolume",
+               {"delete-volume 600508B1001C4D2A0000000000000005",
+                "create-volume --controller 1 --serial 600508B1001C4D2A00000000000000AA "
+                "--disks KS2T2010,KS2T2011 --spares KS2T2012"}}),
     [](auto const& info) { return std::string(info.param.name); });

@@ -8,11 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <memory>
-#include <algorithm>
 #include <iterator>
+#include <memory>
 #include <set>
 #include <string>
 
@@ -33,8 +33,8 @@ public:
     void sim(std::string const& command) const { ASSERT_TRUE(trySim(command)) << command; }
     // False when veldra-sim refused the command (the file is then unchanged).
     bool trySim(std::string const& command) const {
-        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " + _file.string() + " " +
-                                 command + " > /dev/null 2>&1";
+        std::string const line = std::string(VELDRA_BIN_DIR) + "/veldra-sim --scenario " +
+                                 _file.string() + " " + command + " > /dev/null 2>&1";
         return std::system(line.c_str()) == 0;
     }
 
@@ -50,9 +50,11 @@ inline std::unique_ptr<QLN::QLNVeldraProvider> startProvider() {
 }
 
 inline void pass(QLN::QLNVeldraProvider& provider) {
-    CmpiCpp::CmpiObjectPath const path = CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem");
+    CmpiCpp::CmpiObjectPath const path =
+        CmpiCpp::makeCmpiObjectPath(CmpiCpp::CmpiBroker(), "root/mwq", "QLN_VDArraySystem");
     QLN::CapturedMethodResult result;
-    provider.invokeMethod(CmpiCpp::CmpiContext(), path, CmpiCpp::CmpiName("PerformWork"), CmpiCpp::CmpiArgs(), result);
+    provider.invokeMethod(CmpiCpp::CmpiContext(), path, CmpiCpp::CmpiName("PerformWork"),
+                          CmpiCpp::CmpiArgs(), result);
     ASSERT_EQ(result.returnValue().value_or(99), 0u);
 }
 
@@ -62,9 +64,11 @@ inline std::multiset<std::string> graphOf(QLN::QLNVeldraProvider const& provider
 }
 
 // What one side has and the other lacks, one path a line, for a readable failure.
-inline std::string difference(std::multiset<std::string> const& left, std::multiset<std::string> const& right) {
+inline std::string difference(std::multiset<std::string> const& left,
+                              std::multiset<std::string> const& right) {
     std::vector<std::string> only;
-    std::set_difference(left.begin(), left.end(), right.begin(), right.end(), std::back_inserter(only));
+    std::set_difference(left.begin(), left.end(), right.begin(), right.end(),
+                        std::back_inserter(only));
     std::string text;
     for (std::string const& path : only) {
         text += "  " + path + "\n";

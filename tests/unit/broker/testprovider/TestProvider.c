@@ -31,10 +31,10 @@
 #include <pthread.h>
 #include <stdarg.h>
 #include <stdio.h>
-#include <unistd.h>
 #include <stdlib.h>
 #include <string.h>
 #include <strings.h>
+#include <unistd.h>
 
 #include "cmpift.h"
 
@@ -45,12 +45,12 @@
 #define ALERT_CLASS "Test_Alert"
 #define DISK_COUNT 3
 
-static const CMPIBroker* broker = NULL;
+static CMPIBroker const* broker = NULL;
 static pthread_mutex_t traceLock = PTHREAD_MUTEX_INITIALIZER;
-static const char* diskNames[DISK_COUNT] = {"d1", "d2", "d3"};
+static char const* diskNames[DISK_COUNT] = {"d1", "d2", "d3"};
 
-static void trace(const char* fmt, ...) {
-    const char* file = getenv("VELDRA_TEST_PROVIDER_TRACE");
+static void trace(char const* fmt, ...) {
+    char const* file = getenv("VELDRA_TEST_PROVIDER_TRACE");
     if (file == NULL || *file == '\0') {
         return;
     }
@@ -71,7 +71,7 @@ __attribute__((destructor)) static void unloaded(void) {
     trace("unloaded");
 }
 
-static CMPIStatus status(CMPIrc rc, const char* msg) {
+static CMPIStatus status(CMPIrc rc, char const* msg) {
     CMPIStatus st;
     st.rc = rc;
     st.msg = (msg != NULL && broker != NULL) ? broker->eft->newString(broker, msg, NULL) : NULL;
@@ -82,24 +82,24 @@ static CMPIStatus ok(void) {
     return status(CMPI_RC_OK, NULL);
 }
 
-static const char* chars(CMPIString* s) {
+static char const* chars(CMPIString* s) {
     return s != NULL ? s->ft->getCharPtr(s, NULL) : NULL;
 }
 
-static int sameName(const char* a, const char* b) {
+static int sameName(char const* a, char const* b) {
     return a != NULL && b != NULL && strcasecmp(a, b) == 0;
 }
 
 /* A filter argument fits when it is absent or names the expected value. */
-static int fits(const char* filter, const char* expected) {
+static int fits(char const* filter, char const* expected) {
     return filter == NULL || sameName(filter, expected);
 }
 
-static const char* classOf(const CMPIObjectPath* op) {
+static char const* classOf(CMPIObjectPath const* op) {
     return chars(op->ft->getClassName(op, NULL));
 }
 
-static const char* keyString(const CMPIObjectPath* op, const char* key) {
+static char const* keyString(CMPIObjectPath const* op, char const* key) {
     CMPIStatus rc;
     CMPIData d = op->ft->getKey(op, key, &rc);
     if (rc.rc != CMPI_RC_OK || (d.state & CMPI_nullValue) || d.type != CMPI_string) {
@@ -108,7 +108,7 @@ static const char* keyString(const CMPIObjectPath* op, const char* key) {
     return chars(d.value.string);
 }
 
-static int diskIndex(const char* name) {
+static int diskIndex(char const* name) {
     for (int i = 0; name != NULL && i < DISK_COUNT; ++i) {
         if (strcmp(name, diskNames[i]) == 0) {
             return i;
@@ -119,13 +119,13 @@ static int diskIndex(const char* name) {
 
 static CMPIObjectPath* diskPath(int i) {
     CMPIObjectPath* op = broker->eft->newObjectPath(broker, NS, DISK_CLASS, NULL);
-    op->ft->addKey(op, "Name", (const CMPIValue*)diskNames[i], CMPI_chars);
+    op->ft->addKey(op, "Name", (CMPIValue const*)diskNames[i], CMPI_chars);
     return op;
 }
 
 static CMPIObjectPath* poolPath(void) {
     CMPIObjectPath* op = broker->eft->newObjectPath(broker, NS, POOL_CLASS, NULL);
-    op->ft->addKey(op, "InstanceID", (const CMPIValue*)"p1", CMPI_chars);
+    op->ft->addKey(op, "InstanceID", (CMPIValue const*)"p1", CMPI_chars);
     return op;
 }
 
@@ -147,8 +147,8 @@ static CMPIInstance* diskInstance(int i) {
     v.uint16 = (CMPIUint16)(i + 1);
     inst->ft->setProperty(inst, "Slot", &v, CMPI_uint16);
     CMPIArray* tags = broker->eft->newArray(broker, 2, CMPI_string, NULL);
-    tags->ft->setElementAt(tags, 0, (const CMPIValue*)"fast", CMPI_chars);
-    tags->ft->setElementAt(tags, 1, (const CMPIValue*)diskNames[i], CMPI_chars);
+    tags->ft->setElementAt(tags, 0, (CMPIValue const*)"fast", CMPI_chars);
+    tags->ft->setElementAt(tags, 1, (CMPIValue const*)diskNames[i], CMPI_chars);
     v.array = tags;
     inst->ft->setProperty(inst, "Tags", &v, CMPI_stringA);
     /* 2026-01-0<i+1> 00:00:00 UTC */
@@ -162,7 +162,7 @@ static CMPIInstance* diskInstance(int i) {
 
 static CMPIInstance* poolInstance(void) {
     CMPIInstance* inst = broker->eft->newInstance(broker, poolPath(), NULL);
-    inst->ft->setProperty(inst, "ElementName", (const CMPIValue*)"Pool One", CMPI_chars);
+    inst->ft->setProperty(inst, "ElementName", (CMPIValue const*)"Pool One", CMPI_chars);
     return inst;
 }
 
@@ -174,15 +174,15 @@ static CMPIInstance* assocInstance(int i) {
 
 /* ---- Instance MI ---------------------------------------------------------- */
 
-static CMPIStatus instCleanup(CMPIInstanceMI* mi, const CMPIContext* ctx, CMPIBoolean terminating) {
+static CMPIStatus instCleanup(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     (void)mi;
     (void)ctx;
     trace("cleanup instance%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
-static CMPIStatus enumerate(const CMPIResult* rslt, const CMPIObjectPath* op, int instances) {
-    const char* cls = classOf(op);
+static CMPIStatus enumerate(CMPIResult const* rslt, CMPIObjectPath const* op, int instances) {
+    char const* cls = classOf(op);
     if (sameName(cls, DISK_CLASS)) {
         for (int i = 0; i < DISK_COUNT; ++i) {
             if (instances) {
@@ -212,35 +212,35 @@ static CMPIStatus enumerate(const CMPIResult* rslt, const CMPIObjectPath* op, in
     return ok();
 }
 
-static CMPIStatus instEnumNames(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                                const CMPIObjectPath* op) {
+static CMPIStatus instEnumNames(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                                CMPIObjectPath const* op) {
     (void)mi;
     (void)ctx;
     return enumerate(rslt, op, 0);
 }
 
-static CMPIStatus instEnum(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                           const CMPIObjectPath* op, const char** properties) {
+static CMPIStatus instEnum(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                           CMPIObjectPath const* op, char const** properties) {
     (void)mi;
     (void)ctx;
     (void)properties;
     return enumerate(rslt, op, 1);
 }
 
-static CMPIStatus instGet(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                          const CMPIObjectPath* op, const char** properties) {
+static CMPIStatus instGet(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                          CMPIObjectPath const* op, char const** properties) {
     (void)mi;
     (void)ctx;
     (void)properties;
-    const char* cls = classOf(op);
+    char const* cls = classOf(op);
     if (sameName(cls, DISK_CLASS)) {
-        const int i = diskIndex(keyString(op, "Name"));
+        int const i = diskIndex(keyString(op, "Name"));
         if (i < 0) {
             return status(CMPI_RC_ERR_NOT_FOUND, "no such disk");
         }
         rslt->ft->returnInstance(rslt, diskInstance(i));
     } else if (sameName(cls, POOL_CLASS)) {
-        const char* id = keyString(op, "InstanceID");
+        char const* id = keyString(op, "InstanceID");
         if (id == NULL || strcmp(id, "p1") != 0) {
             return status(CMPI_RC_ERR_NOT_FOUND, "no such pool");
         }
@@ -248,7 +248,7 @@ static CMPIStatus instGet(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPI
     } else if (sameName(cls, ASSOC_CLASS)) {
         CMPIStatus rc;
         CMPIData dep = op->ft->getKey(op, "Dependent", &rc);
-        const int i = (rc.rc == CMPI_RC_OK && dep.type == CMPI_ref)
+        int const i = (rc.rc == CMPI_RC_OK && dep.type == CMPI_ref)
                           ? diskIndex(keyString(dep.value.ref, "Name"))
                           : -1;
         if (i < 0) {
@@ -262,27 +262,27 @@ static CMPIStatus instGet(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPI
     return ok();
 }
 
-static CMPIStatus instCreate(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                             const CMPIObjectPath* op, const CMPIInstance* inst) {
+static CMPIStatus instCreate(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                             CMPIObjectPath const* op, CMPIInstance const* inst) {
     (void)mi, (void)ctx, (void)rslt, (void)op, (void)inst;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "read-only provider");
 }
 
-static CMPIStatus instModify(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                             const CMPIObjectPath* op, const CMPIInstance* inst,
-                             const char** props) {
+static CMPIStatus instModify(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                             CMPIObjectPath const* op, CMPIInstance const* inst,
+                             char const** props) {
     (void)mi, (void)ctx, (void)rslt, (void)op, (void)inst, (void)props;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "read-only provider");
 }
 
-static CMPIStatus instDelete(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                             const CMPIObjectPath* op) {
+static CMPIStatus instDelete(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                             CMPIObjectPath const* op) {
     (void)mi, (void)ctx, (void)rslt, (void)op;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "read-only provider");
 }
 
-static CMPIStatus instQuery(CMPIInstanceMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                            const CMPIObjectPath* op, const char* query, const char* lang) {
+static CMPIStatus instQuery(CMPIInstanceMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                            CMPIObjectPath const* op, char const* query, char const* lang) {
     (void)mi, (void)ctx, (void)rslt, (void)op, (void)query, (void)lang;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, "no queries");
 }
@@ -296,21 +296,21 @@ static CMPIInstanceMI instanceMI = {NULL, &instanceFT};
 /* ---- Association MI -------------------------------------------------------- */
 
 /* Calls back for each (association index, far end is pool?) that fits. */
-static void walk(const CMPIObjectPath* op, const char* assocClass, const char* resultClass,
-                 const char* role, const char* resultRole,
-                 void (*visit)(const CMPIResult*, int, int), const CMPIResult* rslt) {
+static void walk(CMPIObjectPath const* op, char const* assocClass, char const* resultClass,
+                 char const* role, char const* resultRole,
+                 void (*visit)(CMPIResult const*, int, int), CMPIResult const* rslt) {
     if (!fits(assocClass, ASSOC_CLASS)) {
         return;
     }
-    const char* cls = classOf(op);
+    char const* cls = classOf(op);
     if (sameName(cls, DISK_CLASS)) {
-        const int i = diskIndex(keyString(op, "Name"));
+        int const i = diskIndex(keyString(op, "Name"));
         if (i >= 0 && fits(role, "Dependent") && fits(resultRole, "Antecedent") &&
             fits(resultClass, POOL_CLASS)) {
             visit(rslt, i, 1);
         }
     } else if (sameName(cls, POOL_CLASS)) {
-        const char* id = keyString(op, "InstanceID");
+        char const* id = keyString(op, "InstanceID");
         if (id != NULL && strcmp(id, "p1") == 0 && fits(role, "Antecedent") &&
             fits(resultRole, "Dependent") && fits(resultClass, DISK_CLASS)) {
             for (int i = 0; i < DISK_COUNT; ++i) {
@@ -320,60 +320,60 @@ static void walk(const CMPIObjectPath* op, const char* assocClass, const char* r
     }
 }
 
-static void visitAssociator(const CMPIResult* rslt, int i, int farIsPool) {
+static void visitAssociator(CMPIResult const* rslt, int i, int farIsPool) {
     rslt->ft->returnInstance(rslt, farIsPool ? poolInstance() : diskInstance(i));
 }
-static void visitAssociatorName(const CMPIResult* rslt, int i, int farIsPool) {
+static void visitAssociatorName(CMPIResult const* rslt, int i, int farIsPool) {
     rslt->ft->returnObjectPath(rslt, farIsPool ? poolPath() : diskPath(i));
 }
-static void visitReference(const CMPIResult* rslt, int i, int farIsPool) {
+static void visitReference(CMPIResult const* rslt, int i, int farIsPool) {
     (void)farIsPool;
     rslt->ft->returnInstance(rslt, assocInstance(i));
 }
-static void visitReferenceName(const CMPIResult* rslt, int i, int farIsPool) {
+static void visitReferenceName(CMPIResult const* rslt, int i, int farIsPool) {
     (void)farIsPool;
     rslt->ft->returnObjectPath(rslt, assocPath(i));
 }
 
-static CMPIStatus assocCleanup(CMPIAssociationMI* mi, const CMPIContext* ctx,
+static CMPIStatus assocCleanup(CMPIAssociationMI* mi, CMPIContext const* ctx,
                                CMPIBoolean terminating) {
     (void)mi, (void)ctx;
     trace("cleanup association%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
-static CMPIStatus associators(CMPIAssociationMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                              const CMPIObjectPath* op, const char* assocClass,
-                              const char* resultClass, const char* role, const char* resultRole,
-                              const char** properties) {
+static CMPIStatus associators(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                              CMPIObjectPath const* op, char const* assocClass,
+                              char const* resultClass, char const* role, char const* resultRole,
+                              char const** properties) {
     (void)mi, (void)ctx, (void)properties;
     walk(op, assocClass, resultClass, role, resultRole, visitAssociator, rslt);
     rslt->ft->returnDone(rslt);
     return ok();
 }
 
-static CMPIStatus associatorNames(CMPIAssociationMI* mi, const CMPIContext* ctx,
-                                  const CMPIResult* rslt, const CMPIObjectPath* op,
-                                  const char* assocClass, const char* resultClass, const char* role,
-                                  const char* resultRole) {
+static CMPIStatus associatorNames(CMPIAssociationMI* mi, CMPIContext const* ctx,
+                                  CMPIResult const* rslt, CMPIObjectPath const* op,
+                                  char const* assocClass, char const* resultClass, char const* role,
+                                  char const* resultRole) {
     (void)mi, (void)ctx;
     walk(op, assocClass, resultClass, role, resultRole, visitAssociatorName, rslt);
     rslt->ft->returnDone(rslt);
     return ok();
 }
 
-static CMPIStatus references(CMPIAssociationMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                             const CMPIObjectPath* op, const char* resultClass, const char* role,
-                             const char** properties) {
+static CMPIStatus references(CMPIAssociationMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                             CMPIObjectPath const* op, char const* resultClass, char const* role,
+                             char const** properties) {
     (void)mi, (void)ctx, (void)properties;
     walk(op, resultClass, NULL, role, NULL, visitReference, rslt);
     rslt->ft->returnDone(rslt);
     return ok();
 }
 
-static CMPIStatus referenceNames(CMPIAssociationMI* mi, const CMPIContext* ctx,
-                                 const CMPIResult* rslt, const CMPIObjectPath* op,
-                                 const char* resultClass, const char* role) {
+static CMPIStatus referenceNames(CMPIAssociationMI* mi, CMPIContext const* ctx,
+                                 CMPIResult const* rslt, CMPIObjectPath const* op,
+                                 char const* resultClass, char const* role) {
     (void)mi, (void)ctx;
     walk(op, resultClass, NULL, role, NULL, visitReferenceName, rslt);
     rslt->ft->returnDone(rslt);
@@ -403,7 +403,7 @@ static CMPI_THREAD_RETURN fireThread(void* arg) {
         CMPIValue v;
         v.uint32 = n + 1;
         ind->ft->setProperty(ind, "Sequence", &v, CMPI_uint32);
-        ind->ft->setProperty(ind, "Message", (const CMPIValue*)"test alert", CMPI_chars);
+        ind->ft->setProperty(ind, "Message", (CMPIValue const*)"test alert", CMPI_chars);
         st = broker->bft->deliverIndication(broker, job->ctx, NS, ind);
         job->result = st.rc;
     }
@@ -411,14 +411,14 @@ static CMPI_THREAD_RETURN fireThread(void* arg) {
     return NULL;
 }
 
-static CMPIStatus methCleanup(CMPIMethodMI* mi, const CMPIContext* ctx, CMPIBoolean terminating) {
+static CMPIStatus methCleanup(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIBoolean terminating) {
     (void)mi, (void)ctx;
     trace("cleanup method%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
-static CMPIStatus invokeMethod(CMPIMethodMI* mi, const CMPIContext* ctx, const CMPIResult* rslt,
-                               const CMPIObjectPath* op, const char* method, const CMPIArgs* in,
+static CMPIStatus invokeMethod(CMPIMethodMI* mi, CMPIContext const* ctx, CMPIResult const* rslt,
+                               CMPIObjectPath const* op, char const* method, CMPIArgs const* in,
                                CMPIArgs* out) {
     (void)mi;
     CMPIStatus rc;
@@ -464,7 +464,7 @@ static CMPIStatus invokeMethod(CMPIMethodMI* mi, const CMPIContext* ctx, const C
             pause();
         }
     } else if (sameName(method, "CountDisks")) {
-        const char* ns = chars(op->ft->getNameSpace(op, NULL));
+        char const* ns = chars(op->ft->getNameSpace(op, NULL));
         CMPIObjectPath* cls = broker->eft->newObjectPath(broker, ns, DISK_CLASS, NULL);
         CMPIEnumeration* e = broker->bft->enumerateInstanceNames(broker, ctx, cls, &rc);
         if (e == NULL) {
@@ -489,50 +489,50 @@ static CMPIMethodMI methodMI = {NULL, &methodFT};
 
 /* ---- Indication MI -------------------------------------------------------- */
 
-static CMPIStatus indCleanup(CMPIIndicationMI* mi, const CMPIContext* ctx,
+static CMPIStatus indCleanup(CMPIIndicationMI* mi, CMPIContext const* ctx,
                              CMPIBoolean terminating) {
     (void)mi, (void)ctx;
     trace("cleanup indication%s", terminating ? "" : " (not terminating)");
     return ok();
 }
 
-static CMPIStatus authorizeFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
-                                  const CMPISelectExp* filter, const char* className,
-                                  const CMPIObjectPath* op, const char* owner) {
+static CMPIStatus authorizeFilter(CMPIIndicationMI* mi, CMPIContext const* ctx,
+                                  CMPISelectExp const* filter, char const* className,
+                                  CMPIObjectPath const* op, char const* owner) {
     (void)mi, (void)ctx, (void)filter, (void)className, (void)op, (void)owner;
     return ok();
 }
 
-static CMPIStatus mustPoll(CMPIIndicationMI* mi, const CMPIContext* ctx,
-                           const CMPISelectExp* filter, const char* className,
-                           const CMPIObjectPath* op) {
+static CMPIStatus mustPoll(CMPIIndicationMI* mi, CMPIContext const* ctx,
+                           CMPISelectExp const* filter, char const* className,
+                           CMPIObjectPath const* op) {
     (void)mi, (void)ctx, (void)filter, (void)className, (void)op;
     return status(CMPI_RC_ERR_NOT_SUPPORTED, NULL);
 }
 
-static CMPIStatus activateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
-                                 const CMPISelectExp* filter, const char* className,
-                                 const CMPIObjectPath* op, CMPIBoolean first) {
+static CMPIStatus activateFilter(CMPIIndicationMI* mi, CMPIContext const* ctx,
+                                 CMPISelectExp const* filter, char const* className,
+                                 CMPIObjectPath const* op, CMPIBoolean first) {
     (void)mi, (void)ctx, (void)filter, (void)op;
     trace("activateFilter %s%s", className ? className : "(null)", first ? " first" : "");
     return ok();
 }
 
-static CMPIStatus deActivateFilter(CMPIIndicationMI* mi, const CMPIContext* ctx,
-                                   const CMPISelectExp* filter, const char* className,
-                                   const CMPIObjectPath* op, CMPIBoolean last) {
+static CMPIStatus deActivateFilter(CMPIIndicationMI* mi, CMPIContext const* ctx,
+                                   CMPISelectExp const* filter, char const* className,
+                                   CMPIObjectPath const* op, CMPIBoolean last) {
     (void)mi, (void)ctx, (void)filter, (void)op;
     trace("deActivateFilter %s%s", className ? className : "(null)", last ? " last" : "");
     return ok();
 }
 
-static CMPIStatus enableIndications(CMPIIndicationMI* mi, const CMPIContext* ctx) {
+static CMPIStatus enableIndications(CMPIIndicationMI* mi, CMPIContext const* ctx) {
     (void)mi, (void)ctx;
     trace("enableIndications");
     return ok();
 }
 
-static CMPIStatus disableIndications(CMPIIndicationMI* mi, const CMPIContext* ctx) {
+static CMPIStatus disableIndications(CMPIIndicationMI* mi, CMPIContext const* ctx) {
     (void)mi, (void)ctx;
     trace("disableIndications");
     return ok();
@@ -546,7 +546,7 @@ static CMPIIndicationMI indicationMI = {NULL, &indicationFT};
 
 /* ---- Factories --------------------------------------------------------------- */
 
-static void* create(const CMPIBroker* mb, const char* name, CMPIStatus* rc, const char* kind,
+static void* create(CMPIBroker const* mb, char const* name, CMPIStatus* rc, char const* kind,
                     void* mi) {
     trace("create %s as %s", kind, name ? name : "(null)");
     broker = mb;
@@ -562,29 +562,29 @@ static void* create(const CMPIBroker* mb, const char* name, CMPIStatus* rc, cons
     return NULL;
 }
 
-CMPI_EXTERN_C CMPIInstanceMI* _Generic_Create_InstanceMI(const CMPIBroker* mb,
-                                                         const CMPIContext* ctx, const char* name,
+CMPI_EXTERN_C CMPIInstanceMI* _Generic_Create_InstanceMI(CMPIBroker const* mb,
+                                                         CMPIContext const* ctx, char const* name,
                                                          CMPIStatus* rc) {
     (void)ctx;
     return (CMPIInstanceMI*)create(mb, name, rc, "instance", &instanceMI);
 }
 
-CMPI_EXTERN_C CMPIAssociationMI* _Generic_Create_AssociationMI(const CMPIBroker* mb,
-                                                               const CMPIContext* ctx,
-                                                               const char* name, CMPIStatus* rc) {
+CMPI_EXTERN_C CMPIAssociationMI* _Generic_Create_AssociationMI(CMPIBroker const* mb,
+                                                               CMPIContext const* ctx,
+                                                               char const* name, CMPIStatus* rc) {
     (void)ctx;
     return (CMPIAssociationMI*)create(mb, name, rc, "association", &associationMI);
 }
 
-CMPI_EXTERN_C CMPIMethodMI* _Generic_Create_MethodMI(const CMPIBroker* mb, const CMPIContext* ctx,
-                                                     const char* name, CMPIStatus* rc) {
+CMPI_EXTERN_C CMPIMethodMI* _Generic_Create_MethodMI(CMPIBroker const* mb, CMPIContext const* ctx,
+                                                     char const* name, CMPIStatus* rc) {
     (void)ctx;
     return (CMPIMethodMI*)create(mb, name, rc, "method", &methodMI);
 }
 
-CMPI_EXTERN_C CMPIIndicationMI* _Generic_Create_IndicationMI(const CMPIBroker* mb,
-                                                             const CMPIContext* ctx,
-                                                             const char* name, CMPIStatus* rc) {
+CMPI_EXTERN_C CMPIIndicationMI* _Generic_Create_IndicationMI(CMPIBroker const* mb,
+                                                             CMPIContext const* ctx,
+                                                             char const* name, CMPIStatus* rc) {
     (void)ctx;
     return (CMPIIndicationMI*)create(mb, name, rc, "indication", &indicationMI);
 }
