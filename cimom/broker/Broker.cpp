@@ -193,7 +193,7 @@ CMPIInstance* getInstance(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPa
     return BrokerStatus::guardValue<CMPIInstance*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
-        const auto list = propertyList(properties, present);
+        auto const list = propertyList(properties, present);
         CimInstance inst = b.upcalls().getInstance(requestPath(op), present ? &list : nullptr);
         return b.registry().make<BrokerInstance>(std::move(inst))->cmpi();
     });
@@ -228,7 +228,7 @@ CMPIEnumeration* enumerateInstances(CMPIBroker const* mb, CMPIContext const*,
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
-        const auto list = propertyList(properties, present);
+        auto const list = propertyList(properties, present);
         return enumerationOf(b, asValues(b.upcalls().enumerateInstances(
                                     requestPath(op), present ? &list : nullptr)));
     });
@@ -240,7 +240,7 @@ CMPIEnumeration* associators(CMPIBroker const* mb, CMPIContext const*, CMPIObjec
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
-        const auto list = propertyList(properties, present);
+        auto const list = propertyList(properties, present);
         return enumerationOf(b, asValues(b.upcalls().associators(
                                     requestPath(op), text(assocClass), text(resultClass),
                                     text(role), text(resultRole), present ? &list : nullptr)));
@@ -264,7 +264,7 @@ CMPIEnumeration* references(CMPIBroker const* mb, CMPIContext const*, CMPIObject
     return BrokerStatus::guardValue<CMPIEnumeration*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
         bool present = false;
-        const auto list = propertyList(properties, present);
+        auto const list = propertyList(properties, present);
         return enumerationOf(
             b, asValues(b.upcalls().references(requestPath(op), text(resultClass), text(role),
                                                present ? &list : nullptr)));
@@ -321,7 +321,7 @@ CMPIData getProperty(CMPIBroker const* mb, CMPIContext const*, CMPIObjectPath co
     return ValueConverter::notFound();
 }
 
-const CMPIBrokerFT mainTable = {CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_AssociationTraversal |
+CMPIBrokerFT const mainTable = {CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_AssociationTraversal |
                                     CMPI_MB_Indications | CMPI_MB_OSEncapsulationSupport |
                                     CMPI_MB_Supports_MemEnhancements,
                                 CMPICurrentVersion,
@@ -350,13 +350,13 @@ const CMPIBrokerFT mainTable = {CMPI_MB_Class_0 | CMPI_MB_BasicRead | CMPI_MB_As
 CMPIInstance* newInstance(CMPIBroker const* mb, CMPIObjectPath const* op, CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIInstance*>(registryOf(mb), rc, nullptr, [&] {
         Broker& b = brokerOf(mb);
-        const CimObjectPath& path = pathOf(op).path();
+        CimObjectPath const& path = pathOf(op).path();
         CimInstance inst(path);
         // Providers set their properties one by one; this instance only
         // lives for the request, so room for a typical class costs little.
         inst.reserve(32);
         // The keys of the path are the instance's key properties.
-        for (const auto& k : path.keys()) {
+        for (auto const& k : path.keys()) {
             inst.setProperty(k.name, k.value);
         }
         return b.registry().make<BrokerInstance>(std::move(inst))->cmpi();
@@ -427,7 +427,7 @@ CMPIBoolean classPathIsA(CMPIBroker const* mb, CMPIObjectPath const* op, char co
                          CMPIStatus* rc) {
     return BrokerStatus::guardValue<CMPIBoolean>(registryOf(mb), rc, 0, [&] {
         Broker& b = brokerOf(mb);
-        const CimObjectPath& path = pathOf(op).path();
+        CimObjectPath const& path = pathOf(op).path();
         if (type == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, "class name is null");
         }
@@ -557,7 +557,7 @@ CMPIStatus trace(CMPIBroker const* mb, int, char const* component, char const* t
 }
 
 CMPIError* newCMPIError(CMPIBroker const* mb, char const*, char const*, char const*,
-                        const CMPIErrorSeverity, const CMPIErrorProbableCause, const CMPIrc,
+                        CMPIErrorSeverity const, CMPIErrorProbableCause const, CMPIrc const,
                         CMPIStatus* rc) {
     if (rc)
         *rc = notSupported(mb, "newCMPIError");
@@ -574,11 +574,11 @@ CMPIStatus openMessageFile(CMPIBroker const* mb, char const*, CMPIMsgFileHandle*
     });
 }
 
-CMPIStatus closeMessageFile(CMPIBroker const* mb, const CMPIMsgFileHandle) {
+CMPIStatus closeMessageFile(CMPIBroker const* mb, CMPIMsgFileHandle const) {
     return BrokerStatus::guard(registryOf(mb), [&] { brokerOf(mb); });
 }
 
-CMPIString* getMessage2(CMPIBroker const* mb, char const*, const CMPIMsgFileHandle,
+CMPIString* getMessage2(CMPIBroker const* mb, char const*, CMPIMsgFileHandle const,
                         char const* defMsg, CMPIStatus* rc, CMPICount count, ...) {
     va_list ap;
     va_start(ap, count);
@@ -589,7 +589,7 @@ CMPIString* getMessage2(CMPIBroker const* mb, char const*, const CMPIMsgFileHand
     });
 }
 
-const CMPIBrokerEncFT encTable = {CMPICurrentVersion,
+CMPIBrokerEncFT const encTable = {CMPICurrentVersion,
                                   newInstance,
                                   newObjectPath,
                                   newArgs,
@@ -617,7 +617,7 @@ char* resolveFileName(char const* filename) {
     if (filename == nullptr) {
         return nullptr;
     }
-    const std::string name = std::string("lib") + filename + ".so";
+    std::string const name = std::string("lib") + filename + ".so";
     char* out = static_cast<char*>(std::malloc(name.size() + 1));
     if (out != nullptr) {
         std::memcpy(out, name.c_str(), name.size() + 1);
@@ -751,7 +751,7 @@ int signalCondition(CMPI_COND_TYPE c) {
     return pthread_cond_signal(static_cast<pthread_cond_t*>(c));
 }
 
-const CMPIBrokerExtFT extTable = {
+CMPIBrokerExtFT const extTable = {
     CMPICurrentVersion, resolveFileName,   newThread,        joinThread,      exitThread,
     cancelThread,       threadSleep,       threadOnce,       createThreadKey, destroyThreadKey,
     getThreadSpecific,  setThreadSpecific, newMutex,         destroyMutex,    lockMutex,
@@ -802,7 +802,7 @@ char* cmpiStrDup(CMPIBroker const* mb, char const* s) {
     if (r == nullptr || s == nullptr) {
         return nullptr;
     }
-    const std::size_t n = std::strlen(s) + 1;
+    std::size_t const n = std::strlen(s) + 1;
     char* out = static_cast<char*>(r->allocate(n));
     if (out != nullptr) {
         std::memcpy(out, s, n);
@@ -845,7 +845,7 @@ void freeSelectExp(CMPIBroker const*, CMPISelectExp*) {
     // The broker never makes select expressions.
 }
 
-const CMPIBrokerMemFT memTable = {CMPICurrentVersion, mark,           releaseMark,  cmpiMalloc,
+CMPIBrokerMemFT const memTable = {CMPICurrentVersion, mark,           releaseMark,  cmpiMalloc,
                                   cmpiCalloc,         cmpiRealloc,    cmpiStrDup,   cmpiFree,
                                   freeInstance,       freeObjectPath, freeArgs,     freeString,
                                   freeArray,          freeDateTime,   freeSelectExp};

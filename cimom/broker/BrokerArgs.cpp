@@ -22,7 +22,7 @@ CMPIArgs* clone(CMPIArgs const* a, CMPIStatus* rc) {
 }
 
 CMPIStatus addArg(CMPIArgs const* a, char const* name, CMPIValue const* value,
-                  const CMPIType type) {
+                  CMPIType const type) {
     return BrokerStatus::onStatus<Self>(a, [&](Self& self) {
         if (name == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, "argument name is null");
@@ -33,7 +33,7 @@ CMPIStatus addArg(CMPIArgs const* a, char const* name, CMPIValue const* value,
 
 CMPIData getArg(CMPIArgs const* a, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(a, rc, ValueConverter::notFound(), [&](Self& self) {
-        for (const auto& [n, v] : self.args()) {
+        for (auto const& [n, v] : self.args()) {
             if (name != nullptr && CimName::equal(n, name)) {
                 return ValueConverter::toData(self.registry(), v);
             }
@@ -61,7 +61,7 @@ CMPICount getArgCount(CMPIArgs const* a, CMPIStatus* rc) {
         a, rc, CMPICount(0), [](Self& self) { return static_cast<CMPICount>(self.args().size()); });
 }
 
-const CMPIArgsFT argsTable = {CMPICurrentVersion, release,    clone, addArg, getArg,
+CMPIArgsFT const argsTable = {CMPICurrentVersion, release,    clone, addArg, getArg,
                               getArgAt,           getArgCount};
 
 } // namespace

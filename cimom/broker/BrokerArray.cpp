@@ -67,7 +67,7 @@ CMPIStatus setElementAt(CMPIArray* a, CMPICount index, CMPIValue const* value, C
     });
 }
 
-const CMPIArrayFT arrayTable = {CMPICurrentVersion, release,      clone,       getSize,
+CMPIArrayFT const arrayTable = {CMPICurrentVersion, release,      clone,       getSize,
                                 getSimpleType,      getElementAt, setElementAt};
 
 } // namespace

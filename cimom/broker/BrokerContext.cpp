@@ -23,7 +23,7 @@ CMPIContext* clone(CMPIContext const* c, CMPIStatus* rc) {
 CMPIData getEntry(CMPIContext const* c, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(c, rc, ValueConverter::notFound(), [&](Self& self) {
         // Context entry names are case-sensitive, as CMPI defines them.
-        for (const auto& [n, v] : self.entries()) {
+        for (auto const& [n, v] : self.entries()) {
             if (name != nullptr && n == name) {
                 return ValueConverter::toData(self.registry(), v);
             }
@@ -53,7 +53,7 @@ CMPICount getEntryCount(CMPIContext const* c, CMPIStatus* rc) {
 }
 
 CMPIStatus addEntry(CMPIContext const* c, char const* name, CMPIValue const* value,
-                    const CMPIType type) {
+                    CMPIType const type) {
     return BrokerStatus::onStatus<Self>(c, [&](Self& self) {
         if (name == nullptr) {
             throw CimError(CMPI_RC_ERR_INVALID_PARAMETER, "entry name is null");
@@ -62,7 +62,7 @@ CMPIStatus addEntry(CMPIContext const* c, char const* name, CMPIValue const* val
     });
 }
 
-const CMPIContextFT contextTable = {CMPICurrentVersion, release,       clone,   getEntry,
+CMPIContextFT const contextTable = {CMPICurrentVersion, release,       clone,   getEntry,
                                     getEntryAt,         getEntryCount, addEntry};
 
 } // namespace

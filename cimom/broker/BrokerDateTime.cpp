@@ -40,7 +40,7 @@ CMPIBoolean isInterval(CMPIDateTime const* d, CMPIStatus* rc) {
     });
 }
 
-const CMPIDateTimeFT dateTimeTable = {CMPICurrentVersion, release,         clone,
+CMPIDateTimeFT const dateTimeTable = {CMPICurrentVersion, release,         clone,
                                       getBinaryFormat,    getStringFormat, isInterval};
 
 } // namespace

@@ -37,13 +37,13 @@ CMPIBoolean hasNext(CMPIEnumeration const* e, CMPIStatus* rc) {
 
 CMPIArray* toArray(CMPIEnumeration const* e, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(e, rc, static_cast<CMPIArray*>(nullptr), [](Self& self) {
-        const CMPIType type =
+        CMPIType const type =
             self.items().empty() ? CMPIType(CMPI_ref) : self.items().front().type();
         return self.registry().make<BrokerArray>(type, self.items())->cmpi();
     });
 }
 
-const CMPIEnumerationFT enumerationTable = {
+CMPIEnumerationFT const enumerationTable = {
     CMPICurrentVersion, release, clone, getNext, hasNext, toArray};
 
 } // namespace

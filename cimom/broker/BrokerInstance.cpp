@@ -24,7 +24,7 @@ CMPIInstance* clone(CMPIInstance const* inst, CMPIStatus* rc) {
 
 CMPIData getProperty(CMPIInstance const* inst, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, ValueConverter::notFound(), [&](Self& self) {
-        const CimValue* v = name ? self.instance().property(name) : nullptr;
+        CimValue const* v = name ? self.instance().property(name) : nullptr;
         if (v == nullptr) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
                            std::string("no property ") + (name ? name : "(null)"));
@@ -36,7 +36,7 @@ CMPIData getProperty(CMPIInstance const* inst, char const* name, CMPIStatus* rc)
 CMPIData getPropertyAt(CMPIInstance const* inst, CMPICount index, CMPIString** name,
                        CMPIStatus* rc) {
     return BrokerStatus::on<Self>(inst, rc, ValueConverter::notFound(), [&](Self& self) {
-        const auto& props = self.instance().properties();
+        auto const& props = self.instance().properties();
         if (index >= props.size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
                            "property index " + std::to_string(index) + " out of range");
@@ -77,7 +77,7 @@ CMPIStatus setPropertyFilter(CMPIInstance* inst, char const** propertyList, char
             return;
         }
         std::vector<std::string> names;
-        for (const char** p = propertyList; *p != nullptr; ++p) {
+        for (char const** p = propertyList; *p != nullptr; ++p) {
             names.emplace_back(*p);
         }
         self.setFilter(std::move(names));
@@ -95,12 +95,12 @@ CMPIStatus setObjectPath(CMPIInstance* inst, CMPIObjectPath const* op) {
 }
 
 CMPIStatus setPropertyWithOrigin(CMPIInstance const* inst, char const* name, CMPIValue const* value,
-                                 const CMPIType type, char const*) {
+                                 CMPIType const type, char const*) {
     // The class origin is not kept: responses take it from the class repository.
     return setProperty(inst, name, value, type);
 }
 
-const CMPIInstanceFT instanceTable = {
+CMPIInstanceFT const instanceTable = {
     CMPICurrentVersion,   release,     clone,         getProperty,       getPropertyAt,
     getPropertyCount,     setProperty, getObjectPath, setPropertyFilter, setObjectPath,
     setPropertyWithOrigin};

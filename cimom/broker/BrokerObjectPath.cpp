@@ -63,7 +63,7 @@ CMPIString* getClassName(CMPIObjectPath const* op, CMPIStatus* rc) {
 }
 
 CMPIStatus addKey(CMPIObjectPath* op, char const* name, CMPIValue const* value,
-                  const CMPIType type) {
+                  CMPIType const type) {
     return BrokerStatus::onStatus<Self>(op, [&](Self& self) {
         self.path().addKey(required(name, "key name"), ValueConverter::toCim(value, type));
     });
@@ -77,7 +77,7 @@ CMPIData keyData(Self& self, CimValue const& v) {
 
 CMPIData getKey(CMPIObjectPath const* op, char const* name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [&](Self& self) {
-        const CimValue* v = self.path().key(required(name, "key name"));
+        CimValue const* v = self.path().key(required(name, "key name"));
         if (v == nullptr) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY, std::string("no key ") + name);
         }
@@ -87,7 +87,7 @@ CMPIData getKey(CMPIObjectPath const* op, char const* name, CMPIStatus* rc) {
 
 CMPIData getKeyAt(CMPIObjectPath const* op, CMPICount index, CMPIString** name, CMPIStatus* rc) {
     return BrokerStatus::on<Self>(op, rc, ValueConverter::notFound(), [&](Self& self) {
-        const auto& keys = self.path().keys();
+        auto const& keys = self.path().keys();
         if (index >= keys.size()) {
             throw CimError(CMPI_RC_ERR_NO_SUCH_PROPERTY,
                            "key index " + std::to_string(index) + " out of range");
@@ -152,7 +152,7 @@ CMPIString* toString(CMPIObjectPath const* op, CMPIStatus* rc) {
     });
 }
 
-const CMPIObjectPathFT pathTable = {CMPICurrentVersion,
+CMPIObjectPathFT const pathTable = {CMPICurrentVersion,
                                     release,
                                     clone,
                                     setNameSpace,

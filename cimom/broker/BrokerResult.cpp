@@ -22,7 +22,7 @@ CMPIResult* clone(CMPIResult const* r, CMPIStatus* rc) {
         });
 }
 
-CMPIStatus returnData(CMPIResult const* r, CMPIValue const* value, const CMPIType type) {
+CMPIStatus returnData(CMPIResult const* r, CMPIValue const* value, CMPIType const type) {
     return BrokerStatus::onStatus<Self>(
         r, [&](Self& self) { self.addData(ValueConverter::toCim(value, type)); });
 }
@@ -58,7 +58,7 @@ CMPIStatus returnError(CMPIResult const* r, CMPIError const*) {
     });
 }
 
-const CMPIResultFT resultTable = {CMPICurrentVersion, release,          clone,      returnData,
+CMPIResultFT const resultTable = {CMPICurrentVersion, release,          clone,      returnData,
                                   returnInstance,     returnObjectPath, returnDone, returnError};
 
 } // namespace

@@ -29,7 +29,7 @@ public:
     // Runs f on the object behind a C handle of type Obj, or answers
     // CMPI_RC_ERR_INVALID_HANDLE when the handle is not one of ours.
     template <class Obj, class C, class R, class F>
-    static R on(const C* handle, CMPIStatus* rc, R fallback, F&& f) {
+    static R on(C const* handle, CMPIStatus* rc, R fallback, F&& f) {
         Obj* self = Obj::from(handle);
         if (self == nullptr) {
             set(rc, nullptr, CMPI_RC_ERR_INVALID_HANDLE, "");
@@ -38,7 +38,7 @@ public:
         return guardValue<R>(&self->registry(), rc, fallback, [&] { return f(*self); });
     }
 
-    template <class Obj, class C, class F> static CMPIStatus onStatus(const C* handle, F&& f) {
+    template <class Obj, class C, class F> static CMPIStatus onStatus(C const* handle, F&& f) {
         Obj* self = Obj::from(handle);
         if (self == nullptr) {
             return make(nullptr, CMPI_RC_ERR_INVALID_HANDLE, "");
@@ -62,7 +62,7 @@ public:
             setOk(rc);
             return r;
         } catch (...) {
-            const CMPIStatus st = fromCurrentException(registry);
+            CMPIStatus const st = fromCurrentException(registry);
             if (rc != nullptr) {
                 *rc = st;
             }

@@ -35,7 +35,7 @@ char* getCharPtr(CMPIString const* s, CMPIStatus* rc) {
     return const_cast<char*>(self->text().c_str());
 }
 
-const CMPIStringFT stringTable = {CMPICurrentVersion, release, clone, getCharPtr};
+CMPIStringFT const stringTable = {CMPICurrentVersion, release, clone, getCharPtr};
 
 } // namespace
 

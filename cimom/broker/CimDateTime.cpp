@@ -30,10 +30,10 @@ std::uint64_t digits(std::string const& s, std::size_t from, std::size_t count) 
 
 std::string CimDateTime::fromBinary(std::uint64_t microseconds, bool interval) {
     char buf[96];
-    const std::uint64_t us = microseconds % usPerSecond;
+    std::uint64_t const us = microseconds % usPerSecond;
     std::uint64_t secs = microseconds / usPerSecond;
     if (interval) {
-        const std::uint64_t days = secs / secondsPerDay;
+        std::uint64_t const days = secs / secondsPerDay;
         secs %= secondsPerDay;
         std::snprintf(buf, sizeof buf, "%08llu%02llu%02llu%02llu.%06llu:000",
                       static_cast<unsigned long long>(days % 100000000ULL),
@@ -43,7 +43,7 @@ std::string CimDateTime::fromBinary(std::uint64_t microseconds, bool interval) {
                       static_cast<unsigned long long>(us));
         return buf;
     }
-    const std::time_t t = static_cast<std::time_t>(secs);
+    std::time_t const t = static_cast<std::time_t>(secs);
     std::tm tm{};
     gmtime_r(&t, &tm);
     std::snprintf(buf, sizeof buf, "%04d%02d%02d%02d%02d%02d.%06llu+000", tm.tm_year + 1900,
@@ -60,9 +60,9 @@ std::uint64_t CimDateTime::toBinary(std::string const& text, bool& interval) {
     // Validates the shape (and throws on bad text) before reading digits.
     CimValue::dateTime(text);
     interval = isInterval(text);
-    const std::uint64_t us = digits(text, 15, 6);
+    std::uint64_t const us = digits(text, 15, 6);
     if (interval) {
-        const std::uint64_t secs = digits(text, 0, 8) * secondsPerDay + digits(text, 8, 2) * 3600 +
+        std::uint64_t const secs = digits(text, 0, 8) * secondsPerDay + digits(text, 8, 2) * 3600 +
                                    digits(text, 10, 2) * 60 + digits(text, 12, 2);
         return secs * usPerSecond + us;
     }
@@ -79,7 +79,7 @@ std::uint64_t CimDateTime::toBinary(std::string const& text, bool& interval) {
     }
     std::int64_t secs = static_cast<std::int64_t>(timegm(&tm));
     // The text gives local time and its offset from UTC in minutes.
-    const std::int64_t offset = static_cast<std::int64_t>(digits(text, 22, 3)) * 60;
+    std::int64_t const offset = static_cast<std::int64_t>(digits(text, 22, 3)) * 60;
     secs += text[21] == '+' ? -offset : offset;
     if (secs < 0) {
         bad(text, "before 1970");

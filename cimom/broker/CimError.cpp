@@ -23,7 +23,7 @@ CimError::CimError(CMPIrc code, std::string const& description)
 char const* CimError::codeName(int code) {
     // The CIM status codes 1..17 are the CMPI codes of the same number; their
     // names are the CMPI names with the CIM prefix.
-    static const std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> shared = [] {
+    static std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> const shared = [] {
         std::array<std::string, CMPI_RC_ERR_METHOD_NOT_FOUND + 1> names;
         for (int rc = CMPI_RC_ERR_FAILED; rc <= CMPI_RC_ERR_METHOD_NOT_FOUND; ++rc)
             names[rc] = std::string("CIM_") + (cmpiRcName(static_cast<CMPIrc>(rc)) + cmpiPrefix);

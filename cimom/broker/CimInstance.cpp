@@ -54,7 +54,7 @@ bool CimInstance::operator==(CimInstance const& other) const {
         return false;
     }
     return std::all_of(_properties.begin(), _properties.end(), [&](Property const& p) {
-        const CimValue* v = other.property(p.name);
+        CimValue const* v = other.property(p.name);
         return v != nullptr && *v == p.value;
     });
 }

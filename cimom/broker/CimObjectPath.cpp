@@ -131,7 +131,7 @@ CimObjectPath CimObjectPath::parse(std::string_view text) {
     CimObjectPath path;
     std::string_view rest = text;
     if (rest.substr(0, 2) == "//") {
-        const std::size_t slash = rest.find('/', 2);
+        std::size_t const slash = rest.find('/', 2);
         if (slash == std::string_view::npos) {
             badPath(text, "host without namespace");
         }
@@ -139,8 +139,8 @@ CimObjectPath CimObjectPath::parse(std::string_view text) {
         rest.remove_prefix(slash + 1);
     }
     // The namespace ends at the first ':' that comes before any key part.
-    const std::size_t dot = rest.find('.');
-    const std::size_t colon = rest.find(':');
+    std::size_t const dot = rest.find('.');
+    std::size_t const colon = rest.find(':');
     if (colon != std::string_view::npos && (dot == std::string_view::npos || colon < dot)) {
         path._nameSpace = std::string(rest.substr(0, colon));
         rest.remove_prefix(colon + 1);
@@ -187,8 +187,8 @@ CimObjectPath CimObjectPath::parse(std::string_view text) {
             value = CimValue::string(std::move(s));
             rest.remove_prefix(j + 1);
         } else {
-            const std::size_t end = std::min(rest.find(','), rest.size());
-            const std::string_view raw = rest.substr(0, end);
+            std::size_t const end = std::min(rest.find(','), rest.size());
+            std::string_view const raw = rest.substr(0, end);
             if (CimName::equal(raw, "true") || CimName::equal(raw, "false")) {
                 value = CimValue::fromText(CMPI_boolean, raw);
             } else {

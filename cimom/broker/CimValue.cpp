@@ -17,7 +17,7 @@ struct TypeName {
     char const* name;
 };
 
-const TypeName typeNames[] = {
+TypeName const typeNames[] = {
     {CMPI_boolean, "boolean"}, {CMPI_char16, "char16"},     {CMPI_real32, "real32"},
     {CMPI_real64, "real64"},   {CMPI_uint8, "uint8"},       {CMPI_uint16, "uint16"},
     {CMPI_uint32, "uint32"},   {CMPI_uint64, "uint64"},     {CMPI_sint8, "sint8"},
@@ -120,7 +120,7 @@ bool parseSigned(std::string_view text, std::int64_t& out) {
     if (text.empty() || text[0] == '+' || !parseUnsigned(text, magnitude)) {
         return false;
     }
-    const std::uint64_t limit =
+    std::uint64_t const limit =
         negative ? static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()) + 1
                  : static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
     if (magnitude > limit) {
@@ -222,11 +222,11 @@ CimValue CimValue::dateTime(std::string cimText) {
 }
 
 CimValue CimValue::reference(CimObjectPath const& path) {
-    return CimValue(CMPI_ref, std::make_shared<const CimObjectPath>(path));
+    return CimValue(CMPI_ref, std::make_shared<CimObjectPath const>(path));
 }
 
 CimValue CimValue::instance(CimInstance const& inst) {
-    return CimValue(CMPI_instance, std::make_shared<const CimInstance>(inst));
+    return CimValue(CMPI_instance, std::make_shared<CimInstance const>(inst));
 }
 
 CimValue CimValue::array(CMPIType elementType, std::vector<CimValue> elements) {
@@ -242,7 +242,7 @@ CimValue CimValue::array(CMPIType elementType, std::vector<CimValue> elements) {
         e._type = elementType; // untyped nulls take the array's type
     }
     return CimValue(static_cast<CMPIType>(elementType | CMPI_ARRAY),
-                    std::make_shared<const std::vector<CimValue>>(std::move(elements)));
+                    std::make_shared<std::vector<CimValue> const>(std::move(elements)));
 }
 
 CimValue CimValue::fromText(CMPIType type, std::string_view text) {
@@ -312,7 +312,7 @@ CMPIType CimValue::typeFromName(std::string_view name) {
 }
 
 char const* CimValue::elementTypeName(CMPIType type) {
-    const CMPIType element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
+    CMPIType const element = static_cast<CMPIType>(type & ~CMPI_ARRAY);
     if (element == CMPI_chars) {
         return "string";
     }
@@ -403,21 +403,21 @@ std::uint16_t CimValue::asChar16() const {
 }
 
 CimObjectPath const& CimValue::asReference() const {
-    if (auto const* v = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
+    if (auto const* v = std::get_if<std::shared_ptr<CimObjectPath const>>(&_data)) {
         return **v;
     }
     _mismatch("reference");
 }
 
 CimInstance const& CimValue::asInstance() const {
-    if (auto const* v = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
+    if (auto const* v = std::get_if<std::shared_ptr<CimInstance const>>(&_data)) {
         return **v;
     }
     _mismatch("instance");
 }
 
 std::vector<CimValue> const& CimValue::elements() const {
-    if (auto const* v = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
+    if (auto const* v = std::get_if<std::shared_ptr<std::vector<CimValue> const>>(&_data)) {
         return **v;
     }
     _mismatch("array");
@@ -467,13 +467,13 @@ bool CimValue::operator==(CimValue const& other) const {
     if (_type != other._type || _data.index() != other._data.index()) {
         return false;
     }
-    if (auto const* p = std::get_if<std::shared_ptr<const CimObjectPath>>(&_data)) {
+    if (auto const* p = std::get_if<std::shared_ptr<CimObjectPath const>>(&_data)) {
         return **p == other.asReference();
     }
-    if (auto const* i = std::get_if<std::shared_ptr<const CimInstance>>(&_data)) {
+    if (auto const* i = std::get_if<std::shared_ptr<CimInstance const>>(&_data)) {
         return **i == other.asInstance();
     }
-    if (auto const* a = std::get_if<std::shared_ptr<const std::vector<CimValue>>>(&_data)) {
+    if (auto const* a = std::get_if<std::shared_ptr<std::vector<CimValue> const>>(&_data)) {
         return **a == other.elements();
     }
     if (double const* d = std::get_if<double>(&_data)) {

@@ -95,8 +95,8 @@ public:
 private:
     using Data =
         std::variant<std::monostate, bool, std::uint64_t, std::int64_t, double, std::string,
-                     std::shared_ptr<const CimObjectPath>, std::shared_ptr<const CimInstance>,
-                     std::shared_ptr<const std::vector<CimValue>>>;
+                     std::shared_ptr<CimObjectPath const>, std::shared_ptr<CimInstance const>,
+                     std::shared_ptr<std::vector<CimValue> const>>;
 
     CimValue(CMPIType type, Data data);
     [[noreturn]] void _mismatch(char const* wanted) const;

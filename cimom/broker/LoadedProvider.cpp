@@ -69,9 +69,9 @@ void LoadedProvider::_create(ProviderRegistration::Kind kind) {
     // Status pre-set to OK: a provider that sets anything else failed.
     CMPIStatus status = BrokerStatus::ok();
     void* mi = factory(_broker.cmpi(), ctx->cmpi(), _registration.name.c_str(), &status);
-    const std::string prefix = "provider " + _registration.name + ": " + symbol;
+    std::string const prefix = "provider " + _registration.name + ": " + symbol;
     if (status.rc != CMPI_RC_OK) {
-        const std::string msg = BrokerStatus::message(status);
+        std::string const msg = BrokerStatus::message(status);
         throw CimError(CMPI_RC_ERR_FAILED, prefix + " failed with status " +
                                                std::to_string(status.rc) +
                                                (msg.empty() ? "" : ": " + msg));

@@ -132,9 +132,9 @@ std::string ProviderManager::_findLibrary(std::string const& library,
     if (library.find('/') != std::string::npos) {
         return library;
     }
-    const std::string file = "lib" + library + ".so";
+    std::string const file = "lib" + library + ".so";
     for (std::string const& dir : dirs) {
-        const std::filesystem::path candidate = std::filesystem::path(dir) / file;
+        std::filesystem::path const candidate = std::filesystem::path(dir) / file;
         std::error_code ec;
         if (std::filesystem::exists(candidate, ec)) {
             return candidate.string();
@@ -149,7 +149,7 @@ std::string ProviderManager::_findLibrary(std::string const& library,
 }
 
 void ProviderManager::loadRegistrationFile(std::string const& path) {
-    const RegistrationFile::Contents contents = RegistrationFile::load(path);
+    RegistrationFile::Contents const contents = RegistrationFile::load(path);
     for (ProviderRegistration const& reg : contents.providers) {
         load(reg, contents.libraryDirs);
     }
@@ -549,7 +549,7 @@ void ProviderManager::shutdown() {
     while (!_providers.empty()) {
         std::unique_ptr<LoadedProvider> p = std::move(_providers.back());
         _providers.pop_back();
-        const std::string name = p->registration().name;
+        std::string const name = p->registration().name;
         p->shutdown();
         _broker->log(CMPI_SEV_INFO, "provider " + name + " unloaded");
     }

@@ -9,7 +9,7 @@
 //   pm.loadRegistrationFile("/etc/veldra/providers.yaml"); // dlopen + _Generic_Create_*MI
 //
 //   CimObjectPath cls("root/mwq", "QLN_VDDiskDrive");
-//   for (const CimInstance& i : pm.enumerateInstances(cls, nullptr)) { ... }
+//   for (CimInstance const& i : pm.enumerateInstances(cls, nullptr)) { ... }
 //   CimInstance one = pm.getInstance(path, nullptr);     // CimError(CMPI_RC_ERR_NOT_FOUND) if none
 //   MethodResult r = pm.invokeMethod(path, "Identify", {{"Duration", CimValue::uint32(5)}});
 //   pm.shutdown();                                        // cleanup(terminating), dlclose

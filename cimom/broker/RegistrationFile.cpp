@@ -16,13 +16,13 @@ namespace {
     throw CimError(CMPI_RC_ERR_FAILED, "registration " + where + ": " + why);
 }
 
-std::vector<std::string> stringList(const YAML::Node& node, std::string const& where,
+std::vector<std::string> stringList(YAML::Node const& node, std::string const& where,
                                     std::string const& field) {
     if (!node || !node.IsSequence() || node.size() == 0) {
         fail(where, "'" + field + "' must be a non-empty list");
     }
     std::vector<std::string> out;
-    for (const YAML::Node& item : node) {
+    for (YAML::Node const& item : node) {
         if (!item.IsScalar() || item.Scalar().empty()) {
             fail(where, "'" + field + "' holds an entry that is not a name");
         }
@@ -31,7 +31,7 @@ std::vector<std::string> stringList(const YAML::Node& node, std::string const& w
     return out;
 }
 
-std::string scalar(const YAML::Node& node, std::string const& where, std::string const& field) {
+std::string scalar(YAML::Node const& node, std::string const& where, std::string const& field) {
     if (!node || !node.IsScalar() || node.Scalar().empty()) {
         fail(where, "'" + field + "' must be a non-empty text");
     }
@@ -71,7 +71,7 @@ RegistrationFile::Contents RegistrationFile::load(std::string const& path) {
     }
     std::stringstream text;
     text << in.rdbuf();
-    const std::filesystem::path base = std::filesystem::absolute(path).parent_path();
+    std::filesystem::path const base = std::filesystem::absolute(path).parent_path();
     return parse(text.str(), path, base.string());
 }
 
@@ -81,7 +81,7 @@ RegistrationFile::Contents RegistrationFile::parse(std::string const& yamlText,
     YAML::Node root;
     try {
         root = YAML::Load(yamlText);
-    } catch (const YAML::Exception& e) {
+    } catch (YAML::Exception const& e) {
         fail("file " + sourceName, std::string("is not valid YAML: ") + e.what());
     }
     if (!root.IsMap()) {
@@ -89,7 +89,7 @@ RegistrationFile::Contents RegistrationFile::parse(std::string const& yamlText,
     }
     Contents contents;
     for (auto const& entry : root) {
-        const std::string key = entry.first.Scalar();
+        std::string const key = entry.first.Scalar();
         if (key != "providers" && key != "libraryPath") {
             fail("file " + sourceName, "unknown field '" + key + "'");
         }
@@ -102,19 +102,19 @@ RegistrationFile::Contents RegistrationFile::parse(std::string const& yamlText,
                 p.is_absolute() ? p.string() : (std::filesystem::path(baseDir) / p).string());
         }
     }
-    const YAML::Node providers = root["providers"];
+    YAML::Node const providers = root["providers"];
     if (!providers || !providers.IsSequence() || providers.size() == 0) {
         fail("file " + sourceName, "'providers' must be a non-empty list");
     }
     std::set<std::string> names;
     for (std::size_t i = 0; i < providers.size(); ++i) {
-        const YAML::Node p = providers[i];
-        const std::string where = sourceName + " providers[" + std::to_string(i) + "]";
+        YAML::Node const p = providers[i];
+        std::string const where = sourceName + " providers[" + std::to_string(i) + "]";
         if (!p.IsMap()) {
             fail(where, "must be a mapping");
         }
         for (auto const& field : p) {
-            const std::string key = field.first.Scalar();
+            std::string const key = field.first.Scalar();
             if (key != "name" && key != "library" && key != "namespaces" && key != "classes" &&
                 key != "kinds") {
                 fail(where, "unknown field '" + key + "'");

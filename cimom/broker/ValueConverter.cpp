@@ -11,7 +11,7 @@
 #include "ObjectRegistry.h"
 
 namespace {
-template <class Obj, class C> Obj& ours(const C* handle, char const* what) {
+template <class Obj, class C> Obj& ours(C const* handle, char const* what) {
     Obj* obj = Obj::from(handle);
     if (obj == nullptr) {
         throw CimError(CMPI_RC_ERR_INVALID_HANDLE,

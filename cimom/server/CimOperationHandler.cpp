@@ -188,14 +188,14 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
         out.open(responseTag, {{"NAME", request.methodName()}});
         // The answer is written in place; a failure takes back what the
         // operation wrote and puts the error there instead.
-        const CimXmlWriter::Mark start = out.mark();
+        CimXmlWriter::Mark const start = out.mark();
         try {
             _dispatch(request, out);
         } catch (CimOperationError const& e) {
             ServerLog::debug(request.methodName() + " in " + request.nameSpace() + ": " +
                              CimError::codeName(e.code()) + ": " + e.what());
             out.rollback(start);
-            const std::string code = std::to_string(e.code());
+            std::string const code = std::to_string(e.code());
             // The description may quote the request, which need not be valid text.
             out.empty("ERROR", {{"CODE", code}, {"DESCRIPTION", CimXmlWriter::xmlSafe(e.what())}});
         }

@@ -50,7 +50,7 @@ char const* replacement(char c) {
 void CimXmlWriter::_escapeInto(std::string_view content) {
     // Which characters need a replacement, looked up rather than switched on:
     // every byte of a megabyte answer passes here.
-    static const std::array<bool, 256> special = [] {
+    static std::array<bool, 256> const special = [] {
         std::array<bool, 256> table{};
         for (int c = 0; c < 256; ++c)
             table[c] = replacement(static_cast<char>(c)) != nullptr;

@@ -51,7 +51,7 @@ void ClassXml::_writeProperty(CimXmlWriter& out, CimClassDecl::Property const& p
                               Options const& options) {
     CimXmlWriter::Attributes attributes{{"NAME", p.name}};
     char const* tag = "PROPERTY";
-    const std::string arraySize = std::to_string(p.arraySize);
+    std::string const arraySize = std::to_string(p.arraySize);
     if (p.type == "reference") {
         tag = "PROPERTY.REFERENCE";
         attributes.add("REFERENCECLASS", p.refClass);
@@ -91,7 +91,7 @@ void ClassXml::_writeMethod(CimXmlWriter& out, CimClassDecl::Method const& m,
     for (auto const& p : m.parameters) {
         CimXmlWriter::Attributes pa{{"NAME", p.name}};
         char const* tag;
-        const std::string arraySize = std::to_string(p.arraySize);
+        std::string const arraySize = std::to_string(p.arraySize);
         if (p.type == "reference") {
             tag = p.isArray ? "PARAMETER.REFARRAY" : "PARAMETER.REFERENCE";
             pa.add("REFERENCECLASS", p.refClass);

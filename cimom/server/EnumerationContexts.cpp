@@ -46,7 +46,7 @@ EnumerationContexts::Batch EnumerationContexts::open(Owner const& owner, Results
         return batch; // nothing left to keep
 
     std::lock_guard lock(_mutex);
-    const Clock::time_point now = _now();
+    Clock::time_point const now = _now();
     _expire(now);
     std::size_t held = std::count_if(_contexts.begin(), _contexts.end(), [&](auto const& entry) {
         return entry.second.owner.client == owner.client;
@@ -57,7 +57,7 @@ EnumerationContexts::Batch EnumerationContexts::open(Owner const& owner, Results
                                     " enumeration contexts are open for this client (limit " +
                                     std::to_string(_maxPerClient) + "); close or finish one first");
     // The serial keeps names unique; the salt keeps them from being guessed.
-    const std::uint64_t serial = ++_serial;
+    std::uint64_t const serial = ++_serial;
     char name[48];
     std::snprintf(name, sizeof name, "veldra-%llu-%016llx", static_cast<unsigned long long>(serial),
                   static_cast<unsigned long long>(_salt ^ (serial * 0x9e3779b97f4a7c15ULL)));
@@ -88,7 +88,7 @@ void EnumerationContexts::_compact(Context& context) {
     auto& objects = context.results.objects;
     if (context.next == 0 || context.next >= objects.size())
         return;
-    const std::size_t cut = objects[context.next].begin;
+    std::size_t const cut = objects[context.next].begin;
     if (cut < context.results.text.size() / 2)
         return;
     context.results.text.erase(0, cut);
@@ -122,11 +122,11 @@ EnumerationContexts::Batch EnumerationContexts::pull(Owner const& owner, std::st
 
 std::string EnumerationContexts::_take(Context& context, std::uint32_t max) {
     auto const& objects = context.results.objects;
-    const std::size_t count = std::min<std::size_t>(max, objects.size() - context.next);
+    std::size_t const count = std::min<std::size_t>(max, objects.size() - context.next);
     if (count == 0)
         return {};
-    const std::size_t begin = objects[context.next].begin;
-    const std::size_t end = objects[context.next + count - 1].end;
+    std::size_t const begin = objects[context.next].begin;
+    std::size_t const end = objects[context.next + count - 1].end;
     context.next += count;
     return context.results.text.substr(begin, end - begin);
 }

@@ -74,8 +74,8 @@ private:
     // Gives back the memory of what has been pulled, once it is most of the text.
     static void _compact(Context& context);
 
-    const std::size_t _maxPerClient;
-    const std::function<Clock::time_point()> _now;
+    std::size_t const _maxPerClient;
+    std::function<Clock::time_point()> const _now;
     mutable std::mutex _mutex;
     std::map<std::string, Context> _contexts;
     std::deque<std::string> _expired; // the latest few, for a clearer error

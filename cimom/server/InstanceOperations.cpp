@@ -268,7 +268,7 @@ void InstanceOperations::enumerateInstances(CimRequest const& request, CimXmlWri
             CimInstance const& instance = instances[i];
             if (!seen.insert(instance.path()).second)
                 continue;
-            const std::size_t before = out.str().size();
+            std::size_t const before = out.str().size();
             // One class answers with its own instances; the class is looked
             // up again only when an instance of another one comes.
             if (!options.cls || !CimName::equal(options.cls->name, instance.className()))
@@ -473,7 +473,7 @@ void InstanceOperations::invokeMethod(CimRequest const& request, CimXmlWriter& o
     out.close();
     for (auto const& [name, value] : outArgs) {
         CimXmlWriter::Attributes attributes{{"NAME", name}};
-        const std::string type =
+        std::string const type =
             value.type() == CMPI_null ? "" : CimValue::typeName(value.elementType());
         if (value.type() != CMPI_null)
             attributes.add("PARAMTYPE", type);

@@ -92,7 +92,7 @@ void ListenerQueue::_run() {
 std::string ListenerQueue::exportRequest(CimInstance const& indication, unsigned long messageId) {
     CimXmlWriter out;
     out.open("CIM", {{"CIMVERSION", "2.0"}, {"DTDVERSION", "2.0"}});
-    const std::string id = std::to_string(messageId);
+    std::string const id = std::to_string(messageId);
     out.open("MESSAGE", {{"ID", id}, {"PROTOCOLVERSION", "1.0"}});
     out.open("SIMPLEEXPREQ");
     out.open("EXPMETHODCALL", {{"NAME", "ExportIndication"}});
@@ -105,7 +105,7 @@ std::string ListenerQueue::exportRequest(CimInstance const& indication, unsigned
 
 std::string ListenerQueue::post(std::string const& url, std::string const& body,
                                 std::chrono::seconds timeout) {
-    static const std::regex form(R"(^(https?://[^/]+)(/.*)?$)", std::regex::icase);
+    static std::regex const form(R"(^(https?://[^/]+)(/.*)?$)", std::regex::icase);
     std::smatch m;
     if (!std::regex_match(url, m, form))
         return "not an http(s) URL: " + url;

@@ -14,7 +14,7 @@ constexpr int maxIncludeDepth = 16;
 constexpr size_t maxFeatures = 1024;
 
 std::set<std::string> const& dataTypes() {
-    static const std::set<std::string> types{"boolean", "string", "char16", "datetime", "uint8",
+    static std::set<std::string> const types{"boolean", "string", "char16", "datetime", "uint8",
                                              "sint8",   "uint16", "sint16", "uint32",   "sint32",
                                              "uint64",  "sint64", "real32", "real64",   "object"};
     return types;

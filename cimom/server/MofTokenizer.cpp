@@ -160,7 +160,7 @@ MofToken MofTokenizer::next() {
             _fail("unknown directive '#" + word + "'");
         return MofToken{MofToken::Kind::Pragma, word, _line};
     }
-    static const std::string punct = "{}[]();,:=$";
+    static std::string const punct = "{}[]();,:=$";
     if (punct.find(c) != std::string::npos) {
         ++_pos;
         return MofToken{MofToken::Kind::Punct, std::string(1, c), _line};

@@ -145,8 +145,8 @@ std::chrono::seconds PullOperations::_openOptions(CimRequest const& request) con
 template <typename Enumerate>
 void PullOperations::_open(CimRequest const& request, CimXmlWriter& out, Kind kind,
                            Enumerate&& enumerate) {
-    const std::chrono::seconds timeout = _openOptions(request);
-    const std::uint32_t max = uint32Param(request, "MaxObjectCount").value_or(0);
+    std::chrono::seconds const timeout = _openOptions(request);
+    std::uint32_t const max = uint32Param(request, "MaxObjectCount").value_or(0);
     EnumerationContexts::Results results;
     results.kind = kind;
     CimXmlWriter all(false);

@@ -136,7 +136,7 @@ CimInstance SubscriptionOperations::_subscriptionInstance(
 
 CimObjectPath SubscriptionOperations::create(CimRequest const& request) {
     CimInstance instance = readNewInstance(request, _classes);
-    const std::string cls = instance.className();
+    std::string const cls = instance.className();
     CimObjectPath made;
     try {
         if (CimName::equal(cls, filterClass)) {
@@ -296,7 +296,7 @@ void SubscriptionOperations::activate() {
     auto call = [](char const* what, auto&& action) {
         try {
             action();
-        } catch (const std::exception& e) {
+        } catch (std::exception const& e) {
             ServerLog::warn(std::string("subscriptions: ") + what + " failed: " + e.what());
         }
     };

@@ -23,7 +23,7 @@ namespace {
 
 template <class T> auto byName(std::vector<T>& list, std::string const& name) {
     return std::find_if(list.begin(), list.end(),
-                        [&](const T& each) { return CimName::equal(each.name, name); });
+                        [&](T const& each) { return CimName::equal(each.name, name); });
 }
 
 } // namespace

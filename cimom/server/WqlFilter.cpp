@@ -7,7 +7,7 @@
 
 WqlFilter WqlFilter::parse(std::string const& query) {
     // Small enough to match whole; a grammar library would be more code than the language.
-    static const std::regex form(
+    static std::regex const form(
         R"(^\s*SELECT\s+\*\s+FROM\s+([A-Za-z_][A-Za-z0-9_]*)\s*(?:WHERE\s+([A-Za-z_][A-Za-z0-9_]*)\s*(=|<>)\s*('(?:[^']|'')*'|"[^"]*"|[-+]?[0-9]+|TRUE|FALSE)\s*)?;?\s*$)",
         std::regex::icase);
     std::smatch m;

@@ -6,7 +6,7 @@
 #include <sstream>
 
 extern "C" {
-const physloc_t BMC_physloc_NULL = {{0, 0, 0, 0, 0, 0, 0, 0}};
+physloc_t const BMC_physloc_NULL = {{0, 0, 0, 0, 0, 0, 0, 0}};
 
 char* BMC_physloc_to_str(physloc_t const* location, char* buf, unsigned int size) {
     if (!buf || size == 0) {

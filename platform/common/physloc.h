@@ -11,7 +11,7 @@ typedef struct physloc_t {
     uint8_t bytes[8];
 } physloc_t;
 
-extern const physloc_t BMC_physloc_NULL;
+extern physloc_t const BMC_physloc_NULL;
 
 // Renders a location for people into buf (always terminated); returns buf.
 char* BMC_physloc_to_str(physloc_t const* location, char* buf, unsigned int size);

@@ -22,7 +22,7 @@ char const* testMof = R"MOF(
 class QLN_HttpTest : CIM_LogicalElement { [Key] string Name; };
 )MOF";
 
-const std::string goodBody = body("EnumerateClassNames", "");
+std::string const goodBody = body("EnumerateClassNames", "");
 
 class HttpBadRequests : public ::testing::Test {
 protected:
@@ -68,7 +68,7 @@ TEST_F(HttpBadRequests, EachBadRequestGetsAProperErrorAndServingGoesOn) {
         char const* statusLine;
         char const* mustContain;
     };
-    const Case cases[] = {
+    Case const cases[] = {
         {"malformed XML", post("EnumerateClassNames", "<CIM><MESSAGE></CIM>"), "HTTP/1.1 400",
          "CIMError: request-not-well-formed"},
         {"raw '<' in a key value",

@@ -30,7 +30,7 @@ char const* testMof = R"MOF(
 class QLN_HttpTest : CIM_LogicalElement { [Key] string Name; };
 )MOF";
 
-const std::string goodBody = body("EnumerateClassNames", "");
+std::string const goodBody = body("EnumerateClassNames", "");
 
 // A connected socket from `source` (any 127/8 address is this host).
 int connectFrom(char const* source, int port) {
@@ -110,7 +110,7 @@ TEST_F(HttpHardening, NormalClientIsServedWhileIdleAndSlowConnectionsAreHeld) {
         slow.push_back(connectFrom("127.0.0.3", cimd.port()));
     std::atomic<bool> done{false};
     std::thread trickle([&] {
-        const std::string request = post("EnumerateClassNames", goodBody);
+        std::string const request = post("EnumerateClassNames", goodBody);
         for (size_t at = 0; !done && at < request.size(); ++at) {
             for (int fd : slow)
                 send(fd, &request[at], 1, MSG_NOSIGNAL);

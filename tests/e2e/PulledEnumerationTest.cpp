@@ -13,7 +13,7 @@
 // answer is checked for its objects, EndOfSequence and error code.
 namespace {
 
-const std::string providerDir = VELDRA_SOURCE_DIR "/tests/unit/broker/testprovider";
+std::string const providerDir = VELDRA_SOURCE_DIR "/tests/unit/broker/testprovider";
 
 // The helpers speak root/mwq; the test provider lives in root/test.
 std::string request(std::string const& method, std::string const& params) {
@@ -33,11 +33,11 @@ std::string param(std::string const& name, std::string const& value) {
 std::string classParam(std::string const& name) {
     return "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"" + name + "\"/></IPARAMVALUE>";
 }
-const std::string d1 =
+std::string const d1 =
     "<IPARAMVALUE NAME=\"InstanceName\"><INSTANCENAME CLASSNAME=\"Test_Disk\"><KEYBINDING "
     "NAME=\"Name\"><KEYVALUE VALUETYPE=\"string\">d1</KEYVALUE></KEYBINDING></INSTANCENAME>"
     "</IPARAMVALUE>";
-const std::string ctx = param("EnumerationContext", "$ctx");
+std::string const ctx = param("EnumerationContext", "$ctx");
 
 struct Answer {
     int error = 0;
@@ -136,13 +136,13 @@ protected:
     CimdProcess cimd;
 };
 
-const std::vector<std::string> noObjects;
+std::vector<std::string> const noObjects;
 
 } // namespace
 
 TEST_F(PulledEnumeration, SequencesOfAnswers) {
-    const std::string max1 = param("MaxObjectCount", "1");
-    const std::string max5 = param("MaxObjectCount", "5");
+    std::string const max1 = param("MaxObjectCount", "1");
+    std::string const max5 = param("MaxObjectCount", "5");
     run("instances page by page, the end closes the context",
         {{"OpenEnumerateInstances", classParam("Test_Disk") + max1, 0, {"Test_Disk:d1"}, false},
          {"PullInstancesWithPath", ctx + param("MaxObjectCount", "0"), 0, noObjects, false},
@@ -227,7 +227,7 @@ TEST_F(PulledEnumeration, SequencesOfAnswers) {
 }
 
 TEST_F(PulledEnumeration, CountLimitAndExpiry) {
-    const std::string open = classParam("Test_Disk") + param("MaxObjectCount", "1");
+    std::string const open = classParam("Test_Disk") + param("MaxObjectCount", "1");
     Answer first = exchange(cimd.port(), "OpenEnumerateInstances", open, "");
     ASSERT_FALSE(first.context.empty());
     EXPECT_EQ(exchange(cimd.port(), "EnumerationCount", ctx, first.context).count, "2");

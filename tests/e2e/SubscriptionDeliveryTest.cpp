@@ -111,8 +111,8 @@ protected:
 
     // Filter and destination with wbemcli, the subscription with a raw request.
     static void subscribe(int cimd, int listener) {
-        const std::string url = "'http://127.0.0.1:" + std::to_string(cimd) + "/root/interop:";
-        const std::string system =
+        std::string const url = "'http://127.0.0.1:" + std::to_string(cimd) + "/root/interop:";
+        std::string const system =
             "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"here\",";
         std::string filter =
             wbemcli("ci " + url + "CIM_IndicationFilter." + system +
@@ -144,7 +144,7 @@ protected:
         };
         std::smatch s;
         std::regex_search(filter, s, std::regex("SystemName=\"([^\"]+)\""));
-        const std::string host = s[1];
+        std::string const host = s[1];
         std::string body =
             "<?xml version=\"1.0\" encoding=\"utf-8\"?><CIM CIMVERSION=\"2.0\" "
             "DTDVERSION=\"2.0\"><MESSAGE ID=\"1\" "
@@ -182,14 +182,14 @@ TEST_F(SubscriptionDelivery, TheHeartbeatReachesASubscribedListenerAndSurvivesAR
     Listener listener(port, dir / "listened.jsonl");
     auto cimd = start();
     subscribe(cimd->port(), port);
-    const std::string heartbeat = "\"class\":\"QLN_VeldraIndication\"";
+    std::string const heartbeat = "\"class\":\"QLN_VeldraIndication\"";
     EXPECT_GE(listener.lines(heartbeat), 1) << cimd->log();
     EXPECT_NE(cimd->log().find("enableIndications"), std::string::npos);
 
     cimd->stop();
     int before = listener.lines(heartbeat, 0, 0s);
     cimd = start();
-    const std::string url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
+    std::string const url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
     EXPECT_NE(wbemcli("ein " + url + "CIM_IndicationSubscription'")
                   .find("CIM_IndicationSubscription.Filter="),
               std::string::npos);
@@ -224,8 +224,8 @@ TEST_F(SubscriptionDelivery, AListenerThatWasDownReceivesWhatWasSentMeanwhile) {
 
 TEST_F(SubscriptionDelivery, BadSubscriptionsAreRefusedWithCimErrors) {
     auto cimd = start();
-    const std::string url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
-    const std::string keys = "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"h\",";
+    std::string const url = "'http://127.0.0.1:" + std::to_string(cimd->port()) + "/root/interop:";
+    std::string const keys = "SystemCreationClassName=\"CIM_ComputerSystem\",SystemName=\"h\",";
     CommandResult r = runCommand(
         "wbemcli ci " + url + "CIM_IndicationFilter." + keys +
         "CreationClassName=\"CIM_IndicationFilter\",Name=\"f\"' 'Query=\"SELECT Name FROM X\"'");

@@ -18,7 +18,7 @@
 // arguments, authentication and the provider's unloading at shutdown.
 namespace {
 
-const std::string providerDir = VELDRA_SOURCE_DIR "/tests/unit/broker/testprovider";
+std::string const providerDir = VELDRA_SOURCE_DIR "/tests/unit/broker/testprovider";
 
 std::string readFile(std::string const& path) {
     std::ifstream in(path);
@@ -68,17 +68,17 @@ struct Row {
 
 TEST_F(Wbemcli, EveryOperationAndItsErrors) {
     CimdProcess cimd(args());
-    const std::string url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
-    const std::string d1 = "'" + url + ":Test_Disk.Name=\"d1\"'";
-    const std::string d1Line =
+    std::string const url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
+    std::string const d1 = "'" + url + ":Test_Disk.Name=\"d1\"'";
+    std::string const d1Line =
         "HOST/root/test:Test_Disk.Name=\"d1\" Name=\"d1\",Size=1000,Slot=1,Tags=\"fast\",\"d1\","
         "Created=20260101000000.000000+000,Healthy=TRUE\n";
-    const std::string poolLine =
+    std::string const poolLine =
         "HOST/root/test:Test_Pool.InstanceID=\"p1\" InstanceID=\"p1\",ElementName=\"Pool One\"\n";
-    const std::string ends = "Antecedent=root/test:Test_Pool.InstanceID=\"p1\",Dependent=root/"
+    std::string const ends = "Antecedent=root/test:Test_Pool.InstanceID=\"p1\",Dependent=root/"
                              "test:Test_Disk.Name=\"d1\"";
-    const std::string link = "HOST/root/test:Test_PoolDisk." + ends;
-    const Row rows[] = {
+    std::string const link = "HOST/root/test:Test_PoolDisk." + ends;
+    Row const rows[] = {
         {"ecn " + url, 0,
          "HOST/root/test:Test_Alert\nHOST/root/test:Test_Disk\nHOST/root/test:Test_Pool\nHOST/root/"
          "test:Test_PoolDisk\n"},
@@ -134,17 +134,17 @@ TEST_F(Wbemcli, EveryOperationAndItsErrors) {
 // instance again (an INSTANCEPATH printed as "host/root/testTest_Pool..." did not).
 TEST_F(Wbemcli, PrintedReferencesPasteBack) {
     CimdProcess cimd(args());
-    const std::string server = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/";
+    std::string const server = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/";
     CommandResult listed = runCommand("wbemcli ei " + server + "root/test:Test_PoolDisk");
     ASSERT_EQ(listed.exitCode, 0) << listed.out;
     // "<path> Antecedent=<ref>,Dependent=<ref>"
-    const std::string line = listed.out.substr(0, listed.out.find('\n'));
-    const std::string properties = line.substr(line.find(' ') + 1);
-    const size_t split = properties.find(",Dependent=");
+    std::string const line = listed.out.substr(0, listed.out.find('\n'));
+    std::string const properties = line.substr(line.find(' ') + 1);
+    size_t const split = properties.find(",Dependent=");
     ASSERT_EQ(properties.rfind("Antecedent=", 0), 0u) << line;
     ASSERT_NE(split, std::string::npos) << line;
-    const std::string antecedent = properties.substr(11, split - 11);
-    const std::string dependent = properties.substr(split + 11);
+    std::string const antecedent = properties.substr(11, split - 11);
+    std::string const dependent = properties.substr(split + 11);
     for (std::string const& reference : {antecedent, dependent}) {
         SCOPED_TRACE(reference);
         CommandResult got = runCommand("wbemcli gi '" + server + reference + "'");
@@ -208,7 +208,7 @@ TEST_F(Wbemcli, ShutdownGivesUpOnAStuckProviderCallAndSaysWhich) {
     std::vector<std::string> a = args();
     a.insert(a.end(), {"--shutdown-grace", "1"});
     CimdProcess cimd(a);
-    const std::string url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
+    std::string const url = "http://127.0.0.1:" + std::to_string(cimd.port()) + "/root/test";
     std::thread stuck(
         [&] { runCommand("timeout 20 wbemcli cm '" + url + ":Test_Disk.Name=\"d1\"' Hang"); });
     for (int i = 0; i < 100 && readFile(trace).find("Hang") == std::string::npos; ++i)

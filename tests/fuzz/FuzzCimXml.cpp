@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
     }();
     if (size < 1)
         return 0;
-    const uint8_t flags = data[0];
+    uint8_t const flags = data[0];
     std::string rest(reinterpret_cast<char const*>(data + 1), size - 1);
 
     CimHttpExchange exchange;

@@ -87,7 +87,7 @@ int main(int argc, char** argv) {
             std::string line = printer.line(request.body, now());
             std::lock_guard lock(outputMutex);
             std::cout << line << std::endl;
-        } catch (const std::invalid_argument& e) {
+        } catch (std::invalid_argument const& e) {
             std::cerr << "veldra-listen: refused a request from " << request.remote_addr << ": "
                       << e.what() << "\n";
             response.set_content(IndicationPrinter::response(messageId, e.what()),

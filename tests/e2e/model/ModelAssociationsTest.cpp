@@ -99,7 +99,7 @@ TEST_F(ModelAssociations, ArraySystemReachesItsNeighbours) {
 // must come back too: the port controller's PCI function and computer system.
 TEST_F(ModelAssociations, AssociatorsIncludeTheHostProvidersEnds) {
     auto const& c = server->expected().controllers().front();
-    const std::string portController =
+    std::string const portController =
         "QLN_VDPortController.CreationClassName=\"QLN_VDPortController\","
         "SystemCreationClassName=\"QLN_VDArraySystem\",SystemName=\"" +
         Expect::systemName(c) + "\",DeviceID=\"" + Expect::systemName(c) + "\"";
@@ -114,7 +114,7 @@ TEST_F(ModelAssociations, AssociatorsIncludeTheHostProvidersEnds) {
 // in all four operations.
 TEST_F(ModelAssociations, ArraySystemRolesFilterBothWays) {
     auto const& c = server->expected().controllers().front();
-    const RoleRow rows[] = {
+    RoleRow const rows[] = {
         {"QLN_VDArraySystemArrayController", "GroupComponent", "PartComponent",
          "QLN_VDArrayController"},
         {"QLN_VDArraySystemPortController", "SameElement", "SystemElement", "QLN_VDPortController"},
@@ -128,7 +128,7 @@ TEST_F(ModelAssociations, ArraySystemRolesFilterBothWays) {
         {"QLN_VDStorageSpecificCollectionArraySystem", "Member", "Collection",
          "QLN_VDStorageSpecificCollection"},
     };
-    const std::string system = systemPath(c);
+    std::string const system = systemPath(c);
     for (RoleRow const& row : rows) {
         SCOPED_TRACE(row.assoc);
         size_t n = std::string(row.assoc) == "QLN_VDArraySystemISASPort" ? c.ports.size() : 1;
@@ -180,8 +180,8 @@ TEST_F(ModelAssociations, DiskReachesItsCompanions) {
                 ctl = &c, disk = &d;
     ASSERT_NE(disk, nullptr)
         << "the scenario needs a disk with serial number, statistics and two paths";
-    const std::string id = Expect::diskDeviceId(*ctl, *disk);
-    const std::string drive = devicePath("QLN_VDDiskDrive", *ctl, id);
+    std::string const id = Expect::diskDeviceId(*ctl, *disk);
+    std::string const drive = devicePath("QLN_VDDiskDrive", *ctl, id);
 
     Histogram expected = {{"QLN_VDArraySystem", 1},
                           {"QLN_VDStorageExtent", 1},
@@ -232,9 +232,9 @@ TEST_F(ModelAssociations, DiskReachesItsCompanions) {
 TEST_F(ModelAssociations, ClassFiltersTakeSubclasses) {
     auto const& ctl = server->expected().controllers().front();
     ASSERT_FALSE(ctl.disks.empty());
-    const std::string id = Expect::diskDeviceId(ctl, ctl.disks.front());
-    const std::string drive = devicePath("QLN_VDDiskDrive", ctl, id);
-    const std::vector<std::string> extent = {devicePath("QLN_VDStorageExtent", ctl, id)};
+    std::string const id = Expect::diskDeviceId(ctl, ctl.disks.front());
+    std::string const drive = devicePath("QLN_VDDiskDrive", ctl, id);
+    std::vector<std::string> const extent = {devicePath("QLN_VDStorageExtent", ctl, id)};
     EXPECT_EQ(ain(drive, "-arc CIM_StorageExtent"), extent);
     EXPECT_EQ(ain(drive, "-ac CIM_MediaPresent -arc CIM_StorageExtent"), extent);
     EXPECT_EQ(ain(drive, "-arc QLN_VDStorageExtent"), extent);
@@ -251,7 +251,7 @@ TEST_F(ModelAssociations, VolumeReachesPoolExtentsSettingAndRedundancySet) {
         });
     ASSERT_NE(withSpare, ctl.volumes.end()) << "the scenario needs a volume whose spare stands in";
     Expect::Volume const& v = *withSpare;
-    const std::string volume = devicePath("QLN_VDStorageVolume", ctl, v.serial);
+    std::string const volume = devicePath("QLN_VDStorageVolume", ctl, v.serial);
 
     std::set<std::string> dataExtents;
     std::string spareExtent, replacedExtent;
@@ -298,9 +298,9 @@ TEST_F(ModelAssociations, EnclosureReachesProcessorCageAndDiskPackages) {
     auto const& all = server->expected().controllers();
     for (auto const& ctl : all)
         for (auto const& e : ctl.enclosures) {
-            const std::string tag = Expect::enclosureTag(ctl, e);
+            std::string const tag = Expect::enclosureTag(ctl, e);
             SCOPED_TRACE(tag);
-            const std::string enclosure =
+            std::string const enclosure =
                 "QLN_VDStorageEnclosure.CreationClassName=\"QLN_VDStorageEnclosure\",Tag=\"" + tag +
                 "\"";
             EXPECT_EQ(WbemcliClient::histogram(wbem().run("ain", enclosure)),

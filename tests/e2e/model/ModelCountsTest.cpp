@@ -10,7 +10,7 @@
 // instances each class has and the identities of the top-level objects.
 namespace {
 
-const std::string demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
+std::string const demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
 using Expect = ScenarioExpectation;
 
 class ModelCounts : public ::testing::Test {
@@ -151,7 +151,7 @@ TEST_F(ModelCounts, SchemaBaseClassesFindTheirSubclassesInstances) {
     for (auto const& line : found)
         EXPECT_TRUE(devices.count(WbemcliClient::className(line))) << line;
 
-    const std::string system = systemKeys(
+    std::string const system = systemKeys(
         "QLN_VDArraySystem", Expect::systemName(server->expected().controllers().front()));
     std::set<std::string> byEach;
     for (auto const& line : c.run("ecn", "CIM_Component"))

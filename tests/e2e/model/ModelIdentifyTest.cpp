@@ -55,7 +55,7 @@ TEST_F(ModelIdentify, ArraySystemVolumeAndDiskAreRecorded) {
     int seconds = 3;
     for (auto const& c : server->expected().controllers()) {
         SCOPED_TRACE(Expect::systemName(c));
-        const std::string n = std::to_string(c.index);
+        std::string const n = std::to_string(c.index);
         expectRequest(identify("QLN_VDArraySystem.CreationClassName=\"QLN_VDArraySystem\",Name=\"" +
                                    Expect::systemName(c) + "\"",
                                seconds),

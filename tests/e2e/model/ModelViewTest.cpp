@@ -15,11 +15,11 @@
 // controller whose disks changed.
 namespace {
 
-const std::string demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
+std::string const demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
 
 // One extent per distinct model and serial: disks without a serial and of
 // one model share a DeviceID, and one instance stands for them.
-std::size_t extentsOf(const YAML::Node& controller) {
+std::size_t extentsOf(YAML::Node const& controller) {
     std::set<std::string> ids;
     for (auto const& disk : controller["physicalDisks"]) {
         std::string id =
@@ -147,7 +147,7 @@ TEST_F(ModelView, EnumerationsBesidePassesAreWhole) {
                 }
                 view->run("ei", "DRSV_VDStorageVolume");
                 ++answers;
-            } catch (const std::exception&) {
+            } catch (std::exception const&) {
                 ++bad;
             }
         }

@@ -143,7 +143,7 @@ TEST(ModelWalk, EveryPathOfTheDemoAnswersEveryOperation) {
 }
 
 TEST(ModelWalk, EveryPathAnswersWhenGettersFail) {
-    const std::string demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
+    std::string const demo = VELDRA_DATA_DIR "/scenarios/demo.yaml";
     ModelServer server(demo, withFailingGetters(demo));
     walkEverything(server);
 }

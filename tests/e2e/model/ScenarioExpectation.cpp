@@ -9,15 +9,15 @@
 
 namespace {
 
-std::string text(const YAML::Node& node, char const* key) {
+std::string text(YAML::Node const& node, char const* key) {
     return node[key] ? node[key].as<std::string>() : std::string();
 }
 
-template <typename T> T number(const YAML::Node& node, char const* key, T fallback) {
+template <typename T> T number(YAML::Node const& node, char const* key, T fallback) {
     return node[key] ? node[key].as<T>() : fallback;
 }
 
-std::vector<unsigned> ids(const YAML::Node& node) {
+std::vector<unsigned> ids(YAML::Node const& node) {
     std::vector<unsigned> out;
     if (node)
         for (auto const& id : node)
@@ -109,7 +109,7 @@ void ScenarioExpectation::_add(std::string const& className, int n) {
 void ScenarioExpectation::_count() {
     // Every class appears in the table, with 0 where the scenario gives none.
     auto zero = [this](auto& names) {
-        for (const char* name : names)
+        for (char const* name : names)
             _counts[name] += 0;
     };
     zero(perController), zero(perControllerHost), zero(perInitiatorPort), zero(perEnclosure),

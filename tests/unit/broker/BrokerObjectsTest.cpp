@@ -135,7 +135,7 @@ TEST_F(BrokerObjectsTest, ArraysCheckTypesBoundsAndNulls) {
 
 TEST_F(BrokerObjectsTest, DateTimeRoundTripsBinaryAndText) {
     ObjectRegistry::Scope request(_broker.registry());
-    const CMPIUint64 t = 1767312000123456ULL; // 2026-01-02 00:00:00.123456 UTC
+    CMPIUint64 const t = 1767312000123456ULL; // 2026-01-02 00:00:00.123456 UTC
     CMPIDateTime* dt = mb->eft->newDateTimeFromBinary(mb, t, 0, &rc);
     EXPECT_EQ(str(dt->ft->getStringFormat(dt, &rc)), "20260102000000.123456+000");
     EXPECT_EQ(dt->ft->getBinaryFormat(dt, &rc), t);
@@ -144,7 +144,7 @@ TEST_F(BrokerObjectsTest, DateTimeRoundTripsBinaryAndText) {
     CMPIDateTime* local = mb->eft->newDateTimeFromChars(mb, "20260102010000.123456+060", &rc);
     EXPECT_EQ(local->ft->getBinaryFormat(local, &rc), t);
 
-    const CMPIUint64 span = (2ULL * 86400 + 3 * 3600 + 4 * 60 + 5) * 1000000ULL + 6;
+    CMPIUint64 const span = (2ULL * 86400 + 3 * 3600 + 4 * 60 + 5) * 1000000ULL + 6;
     CMPIDateTime* iv = mb->eft->newDateTimeFromBinary(mb, span, 1, &rc);
     EXPECT_EQ(str(iv->ft->getStringFormat(iv, &rc)), "00000002030405.000006:000");
     EXPECT_TRUE(iv->ft->isInterval(iv, &rc));
@@ -157,7 +157,7 @@ TEST_F(BrokerObjectsTest, DateTimeRoundTripsBinaryAndText) {
     wild->ft->getBinaryFormat(wild, &rc);
     EXPECT_EQ(rc.rc, CMPI_RC_ERR_INVALID_PARAMETER);
 
-    const CMPIUint64 now = CimDateTime::nowMicroseconds();
+    CMPIUint64 const now = CimDateTime::nowMicroseconds();
     CMPIDateTime* current = mb->eft->newDateTime(mb, &rc);
     EXPECT_LE(now / 1000000, current->ft->getBinaryFormat(current, &rc) / 1000000);
 }

@@ -21,11 +21,11 @@ CMPIrc codeOf(std::function<void()> const& f) {
 } // namespace
 
 TEST(CimValue, TextFormsRoundTripPerType) {
-    const struct {
+    struct {
         CMPIType type;
         char const* in;
         char const* out;
-    } cases[] = {
+    } const cases[] = {
         {CMPI_boolean, "true", "TRUE"},
         {CMPI_boolean, "FALSE", "FALSE"},
         {CMPI_uint8, "255", "255"},
@@ -43,7 +43,7 @@ TEST(CimValue, TextFormsRoundTripPerType) {
         {CMPI_dateTime, "00000001020304.000005:000", "00000001020304.000005:000"},
     };
     for (auto const& c : cases) {
-        const CimValue v = CimValue::fromText(c.type, c.in);
+        CimValue const v = CimValue::fromText(c.type, c.in);
         EXPECT_EQ(v.type(), c.type) << c.in;
         EXPECT_EQ(v.toText(), c.out) << c.in;
         EXPECT_EQ(CimValue::fromText(c.type, v.toText()), v) << c.in;
@@ -51,10 +51,10 @@ TEST(CimValue, TextFormsRoundTripPerType) {
 }
 
 TEST(CimValue, BadTextAndOutOfRangeAreInvalidParameter) {
-    const struct {
+    struct {
         CMPIType type;
         char const* in;
-    } cases[] = {
+    } const cases[] = {
         {CMPI_uint8, "256"},
         {CMPI_uint32, "-1"},
         {CMPI_uint32, "12abc"},
@@ -78,7 +78,7 @@ TEST(CimValue, BadTextAndOutOfRangeAreInvalidParameter) {
 }
 
 TEST(CimValue, ArraysAndTypeNames) {
-    const CimValue a =
+    CimValue const a =
         CimValue::array(CMPI_uint16, {CimValue::uint16(2), CimValue(), CimValue::uint16(3)});
     EXPECT_EQ(a.type(), CMPI_uint16A);
     EXPECT_TRUE(a.isArray());
@@ -140,10 +140,10 @@ TEST(CimObjectPath, TextRoundTripAndMalformedText) {
     p.addKey("Name", CimValue::string("a \"quoted\" \\ name"));
     p.addKey("Slot", CimValue::uint32(3));
     p.addKey("Spare", CimValue::boolean(false));
-    const std::string text = p.toString();
+    std::string const text = p.toString();
     EXPECT_EQ(text,
               "//h1/root/test:Test_Disk.Name=\"a \\\"quoted\\\" \\\\ name\",Slot=3,Spare=FALSE");
-    const CimObjectPath q = CimObjectPath::parse(text);
+    CimObjectPath const q = CimObjectPath::parse(text);
     EXPECT_EQ(q, p);
     EXPECT_EQ(q.nameSpace(), "root/test");
     EXPECT_EQ(q.host(), "h1");
@@ -166,12 +166,12 @@ TEST(CimInstance, PropertiesKeepOrderReplaceInPlaceAndFilter) {
     EXPECT_EQ(inst.property("STATUS")->type(), CMPI_uint16);
     EXPECT_TRUE(inst.property("STATUS")->isNull());
 
-    const std::vector<std::string> list{"status", "NAME", "Missing"};
-    const CimInstance f = inst.filtered(&list);
+    std::vector<std::string> const list{"status", "NAME", "Missing"};
+    CimInstance const f = inst.filtered(&list);
     ASSERT_EQ(f.properties().size(), 2u);
     EXPECT_EQ(f.properties()[0].name, "Name");
     EXPECT_EQ(f.properties()[1].name, "Status");
-    const std::vector<std::string> none;
+    std::vector<std::string> const none;
     EXPECT_TRUE(inst.filtered(&none).properties().empty());
     EXPECT_EQ(inst.filtered(nullptr), inst);
 

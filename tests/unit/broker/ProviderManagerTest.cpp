@@ -16,7 +16,7 @@
 
 namespace {
 
-const std::string registrationFile =
+std::string const registrationFile =
     std::string(VELDRA_SOURCE_DIR) +
     "/tests/unit/broker/testprovider/TestProvider.registration.yaml";
 
@@ -87,7 +87,7 @@ TEST_F(ProviderManagerTest, LoadsThroughTheGenericEntryPoints) {
     EXPECT_TRUE(_pm->hasAssociationProvider("root/test", "Test_PoolDisk"));
     EXPECT_TRUE(_pm->hasAssociationProvider("root/test", ""));
     EXPECT_FALSE(_pm->hasInstanceProvider("root/other", "Test_Disk"));
-    const std::string t = trace();
+    std::string const t = trace();
     for (char const* line :
          {"create instance as TestProvider", "create association as TestProvider",
           "create method as TestProvider", "create indication as TestProvider"}) {
@@ -101,7 +101,7 @@ TEST_F(ProviderManagerTest, EnumeratesAndGetsInstancesWithTypesAndOrder) {
     EXPECT_EQ(names[0], diskPath("d1"));
     EXPECT_EQ(names[2].nameSpace(), "root/test");
 
-    const CimInstance d2 = _pm->getInstance(diskPath("d2"), nullptr);
+    CimInstance const d2 = _pm->getInstance(diskPath("d2"), nullptr);
     ASSERT_EQ(d2.properties().size(), 6u);
     char const* order[] = {"Name", "Size", "Slot", "Tags", "Created", "Healthy"};
     for (std::size_t i = 0; i < 6; ++i) {
@@ -118,7 +118,7 @@ TEST_F(ProviderManagerTest, EnumeratesAndGetsInstancesWithTypesAndOrder) {
     EXPECT_TRUE(d2.property("Healthy")->asBoolean());
     EXPECT_EQ(d2.path(), diskPath("d2"));
 
-    const std::vector<std::string> list{"size"};
+    std::vector<std::string> const list{"size"};
     auto const filtered = _pm->enumerateInstances(CimObjectPath("root/test", "Test_Disk"), &list);
     ASSERT_EQ(filtered.size(), 3u);
     ASSERT_EQ(filtered[0].properties().size(), 1u);
@@ -188,7 +188,7 @@ TEST_F(ProviderManagerTest, MethodsReturnValueOutArgsAndUpcalls) {
 }
 
 TEST_F(ProviderManagerTest, IndicationsFromAProviderThreadReachTheSink) {
-    const MethodResult r =
+    MethodResult const r =
         _pm->invokeMethod(diskPath("d1"), "FireIndication", {{"Count", CimValue::uint32(3)}});
     EXPECT_EQ(r.returnValue, CimValue::uint32(0));
     auto const got = _sink->delivered();
@@ -203,14 +203,14 @@ TEST_F(ProviderManagerTest, IndicationsFromAProviderThreadReachTheSink) {
     _pm->enableIndications();
     _pm->disableIndications();
     _pm->deActivateFilter("root/test", "Test_Alert", true);
-    const std::string t = trace();
+    std::string const t = trace();
     EXPECT_LT(t.find("activateFilter Test_Alert first"), t.find("enableIndications"));
     EXPECT_LT(t.find("disableIndications"), t.find("deActivateFilter Test_Alert last"));
 }
 
 TEST_F(ProviderManagerTest, ShutdownCleansUpEveryMiThenUnloads) {
     _pm->shutdown();
-    const std::string t = trace();
+    std::string const t = trace();
     auto const unloaded = t.find("unloaded");
     ASSERT_NE(unloaded, std::string::npos);
     for (char const* kind : {"cleanup instance\n", "cleanup association\n", "cleanup method\n",
@@ -231,15 +231,15 @@ TEST_F(ProviderManagerTest, ConcurrentRequestsShareTheProvider) {
         threads.emplace_back([&, t] {
             for (int i = 0; i < 50; ++i) {
                 try {
-                    const CimInstance inst =
+                    CimInstance const inst =
                         _pm->getInstance(diskPath(t % 2 ? "d1" : "d3"), nullptr);
-                    const auto assoc = _pm->associators(diskPath("d2"), "", "", "", "", nullptr);
-                    const auto r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
+                    auto const assoc = _pm->associators(diskPath("d2"), "", "", "", "", nullptr);
+                    auto const r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
                     if (inst.properties().size() != 6 || assoc.size() != 1 ||
                         r.returnValue != CimValue::uint32(3)) {
                         ++failures;
                     }
-                } catch (const std::exception&) {
+                } catch (std::exception const&) {
                     ++failures;
                 }
             }
@@ -260,11 +260,11 @@ TEST_F(ProviderManagerTest, ShutdownDuringRequestsRefusesNewOnesAndWaitsForOther
         threads.emplace_back([&, t] {
             while (true) {
                 try {
-                    const auto r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
+                    auto const r = _pm->invokeMethod(diskPath("d1"), "CountDisks", {});
                     if (r.returnValue == CimValue::uint32(3)) {
                         ++served;
                     }
-                } catch (const CimError& e) {
+                } catch (CimError const& e) {
                     endedWith[t] = e.code();
                     return;
                 }
@@ -337,10 +337,10 @@ TEST(ProviderLoading, BadLibrariesAndProvidersAreRefusedClearly) {
 }
 
 TEST(ProviderLoading, MalformedRegistrationFilesNameTheProblem) {
-    const struct {
+    struct {
         std::string yaml;
         char const* expected;
-    } cases[] = {
+    } const cases[] = {
         {"providers: [", "is not valid YAML"},
         {"- just a list", "must be a mapping"},
         {"providers: []", "'providers' must be a non-empty list"},

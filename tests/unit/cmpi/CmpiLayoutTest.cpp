@@ -9,7 +9,7 @@
 #include "CmpiLayoutChecks.h"
 
 TEST(CmpiLayout, CAndCxxCompilersAgreeOnSizes) {
-    const VeldraLayoutFacts c = veldraLayoutFactsFromC();
+    VeldraLayoutFacts const c = veldraLayoutFactsFromC();
     EXPECT_EQ(c.data, sizeof(CMPIData));
     EXPECT_EQ(c.dataValueOffset, offsetof(CMPIData, value));
     EXPECT_EQ(c.value, sizeof(CMPIValue));
@@ -49,7 +49,7 @@ TEST(CmpiLayout, CxxCallsTablesBuiltInC) {
 TEST(CmpiLayout, ArrayCodesCombineWithElementCodes) {
     // Brokers derive an element type by masking the array bit; that only
     // works if no element code uses it.
-    const CMPIType elements[] = {
+    CMPIType const elements[] = {
         CMPI_boolean, CMPI_char16, CMPI_real32,   CMPI_real64, CMPI_uint8,   CMPI_uint16,
         CMPI_uint32,  CMPI_uint64, CMPI_sint8,    CMPI_sint16, CMPI_sint32,  CMPI_sint64,
         CMPI_string,  CMPI_chars,  CMPI_dateTime, CMPI_ref,    CMPI_instance};

@@ -42,10 +42,10 @@ std::string imethod(std::string const& name, std::string const& params,
                     "</LOCALNAMESPACEPATH>" + params + "</IMETHODCALL>");
 }
 
-const std::string head =
+std::string const head =
     "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<CIM CIMVERSION=\"2.0\" DTDVERSION=\"2.0\">"
     "<MESSAGE ID=\"4711\" PROTOCOLVERSION=\"1.0\"><SIMPLERSP>";
-const std::string tail = "</SIMPLERSP></MESSAGE></CIM>";
+std::string const tail = "</SIMPLERSP></MESSAGE></CIM>";
 
 std::string iresponse(std::string const& name, std::string const& inner) {
     return head + "<IMETHODRESPONSE NAME=\"" + name + "\">" + inner + "</IMETHODRESPONSE>" + tail;
@@ -56,9 +56,9 @@ std::string error(std::string const& name, int code, std::string const& descript
                                description + "\"/>");
 }
 
-const std::string className =
+std::string const className =
     "<IPARAMVALUE NAME=\"ClassName\"><CLASSNAME NAME=\"QLN_Disk\"/></IPARAMVALUE>";
-const std::string deep = "<IPARAMVALUE NAME=\"DeepInheritance\"><VALUE>TRUE</VALUE></IPARAMVALUE>";
+std::string const deep = "<IPARAMVALUE NAME=\"DeepInheritance\"><VALUE>TRUE</VALUE></IPARAMVALUE>";
 
 struct Row {
     char const* name;
@@ -97,7 +97,7 @@ TEST_F(HandlerTable, RequestsAndExactResponses) {
         return params;
     };
 
-    const Row rows[] = {
+    Row const rows[] = {
         {"ecn all classes, deep", "EnumerateClassNames", "root%2Fmwq",
          imethod("EnumerateClassNames", deep), 200, "",
          iresponse("EnumerateClassNames",

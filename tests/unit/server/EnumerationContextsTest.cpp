@@ -41,8 +41,8 @@ class Contexts : public ::testing::Test {
 protected:
     EnumerationContexts::Clock::time_point now{};
     EnumerationContexts table{2, [this] { return now; }};
-    const EnumerationContexts::Owner alice{"10.0.0.1", "root/mwq"};
-    const std::chrono::seconds minute{60};
+    EnumerationContexts::Owner const alice{"10.0.0.1", "root/mwq"};
+    std::chrono::seconds const minute{60};
 };
 
 } // namespace
@@ -75,8 +75,8 @@ TEST_F(Contexts, BatchesComeInOrderAndTheEndClosesTheContext) {
 
 TEST_F(Contexts, OnlyItsOwnerInItsNamespaceWithItsKindReachesAContext) {
     auto opened = table.open(alice, objects(5, Kind::paths), minute, 1);
-    const EnumerationContexts::Owner bob{"10.0.0.2", "root/mwq"};
-    const EnumerationContexts::Owner aliceElsewhere{"10.0.0.1", "root/cimv2"};
+    EnumerationContexts::Owner const bob{"10.0.0.2", "root/mwq"};
+    EnumerationContexts::Owner const aliceElsewhere{"10.0.0.1", "root/cimv2"};
     for (auto* owner : {&bob, &aliceElsewhere})
         EXPECT_EQ(errorOf([&] { table.pull(*owner, opened.context, Kind::paths, 1); }),
                   CimOperationError::invalidEnumerationContext);
@@ -89,7 +89,7 @@ TEST_F(Contexts, OnlyItsOwnerInItsNamespaceWithItsKindReachesAContext) {
 }
 
 TEST_F(Contexts, EachClientHasItsShare) {
-    const EnumerationContexts::Owner bob{"10.0.0.2", "root/mwq"};
+    EnumerationContexts::Owner const bob{"10.0.0.2", "root/mwq"};
     auto a1 = table.open(alice, objects(5), minute, 1);
     table.open(alice, objects(5), minute, 1);
     EXPECT_EQ(errorOf([&] { table.open(alice, objects(5), minute, 1); }),

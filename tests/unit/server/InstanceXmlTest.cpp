@@ -83,7 +83,7 @@ TEST_F(InstanceXmlTest, BadInstanceNamesAreInvalidParameters) {
         InstanceXml::readInstanceName(parse(most, manyKeys(64)), "root/mwq", &repo).keys().size(),
         64u);
 
-    const std::string bad[] = {
+    std::string const bad[] = {
         "<INSTANCENAME><KEYBINDING NAME=\"A\"><KEYVALUE>1</KEYVALUE></KEYBINDING></INSTANCENAME>",
         "<INSTANCENAME CLASSNAME=\"QLN_Disk\"><KEYBINDING NAME=\"Bay\"><KEYVALUE "
         "VALUETYPE=\"numeric\">seven"

@@ -198,13 +198,13 @@ TEST(MofReader, BadMofNamesFileAndLine) {
     for (int i = 0; i <= 1024; ++i)
         manyFeatures += " string P" + std::to_string(i) + ";";
     manyFeatures += " };";
-    const std::string longInclude = "#pragma include(\"" + std::string(300, 'x') + ".mof\")";
+    std::string const longInclude = "#pragma include(\"" + std::string(300, 'x') + ".mof\")";
     struct Case {
         char const* text;
         int line;
         char const* fragment;
     };
-    const Case cases[] = {
+    Case const cases[] = {
         {"class A {\n  string X\n};", 3, "expected ';'"},
         {"class A {\n  strang X;\n};", 2, "unknown type 'strang'"},
         {"class A {\n string X;\n", 3, "not closed"},

@@ -10,7 +10,7 @@
 
 namespace {
 
-const std::string fffd = "\xEF\xBF\xBD";
+std::string const fffd = "\xEF\xBF\xBD";
 
 TEST(XmlSafe, KeepsEveryCharacterXmlAllows) {
     for (std::string text : {std::string("plain ASCII <&>"), std::string("tab\tand\r\nbreaks"),

@@ -61,7 +61,7 @@ TEST(WqlFilter, TheSubsetSubscribersUse) {
         int severity;
         bool matches;
     };
-    const Row rows[] = {
+    Row const rows[] = {
         {"SELECT * FROM CIM_AlertIndication", 2, true},
         {"select * from QLN_VeldraIndication where PerceivedSeverity = 6", 6, true},
         {"SELECT * FROM X WHERE PerceivedSeverity = 6", 2, false},
@@ -90,7 +90,7 @@ TEST(WqlFilter, TheSubsetSubscribersUse) {
 
 TEST(SubscriptionStore, KeepsItsStateAcrossRestartsAndRefusesDanglingOrDuplicateObjects) {
     Folder folder;
-    const std::string state = folder.file("state.json");
+    std::string const state = folder.file("state.json");
     {
         SubscriptionStore store(state);
         store.addFilter(filter("f", "SELECT * FROM CIM_AlertIndication", "root/mwq"));
@@ -114,7 +114,7 @@ TEST(SubscriptionStore, KeepsItsStateAcrossRestartsAndRefusesDanglingOrDuplicate
 
 TEST(SubscriptionStore, ABrokenStateFileIsSetAsideAndAFailedSaveChangesNothing) {
     Folder folder;
-    const std::string state = folder.file("state.json");
+    std::string const state = folder.file("state.json");
     std::ofstream(state) << "{ not json";
     SubscriptionStore store(state);
     EXPECT_TRUE(store.filters().empty());
