@@ -7,6 +7,8 @@ function(veldra_add_test name)
   cmake_parse_arguments(T "CONCURRENCY" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_LIBS} GTest::gtest_main GTest::gmock Threads::Threads)
+  # The rigs and tables that several test folders share.
+  target_include_directories(${name} PRIVATE ${VELDRA_SOURCE_DIR}/tests/support)
   target_compile_definitions(${name} PRIVATE
     VELDRA_SOURCE_DIR="${VELDRA_SOURCE_DIR}" VELDRA_DATA_DIR="${VELDRA_DATA_DIR}"
     VELDRA_BIN_DIR="${CMAKE_BINARY_DIR}/bin" VELDRA_LIB_DIR="${CMAKE_BINARY_DIR}/lib")

@@ -18,21 +18,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Every class the registration routes to a provider, but the indication
-// classes, which have no instances.
-std::vector<std::string> servedClasses() {
-    YAML::Node const root = YAML::LoadFile(VELDRA_DATA_DIR "/registration/veldra-cimd.yaml");
-    std::vector<std::string> names;
-    for (auto const& provider : root["providers"]) {
-        for (auto const& name : provider["classes"]) {
-            std::string const text = name.as<std::string>();
-            if (text.size() < 10 || text.compare(text.size() - 10, 10, "Indication") != 0)
-                names.push_back(text);
-        }
-    }
-    return names;
-}
-
 std::string nameSpaceOf(std::string const& className) {
     return className.rfind("DRSV_", 0) == 0 ? "root/cimv2" : "root/mwq";
 }
@@ -91,7 +76,7 @@ struct Model {
 
 Model modelOf(ModelServer const& server) {
     Model model;
-    for (std::string const& className : servedClasses()) {
+    for (std::string const& className : ModelServer::servedClasses()) {
         WbemcliClient const client(server.port(), nameSpaceOf(className));
         auto const lines = client.run("ein", className);
         model.counts[className] = static_cast<int>(lines.size());

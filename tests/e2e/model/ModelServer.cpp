@@ -1,5 +1,7 @@
 #include "ModelServer.h"
 
+#include <yaml-cpp/yaml.h>
+
 #include <unistd.h>
 
 #include <atomic>
@@ -35,4 +37,17 @@ std::string ModelServer::locatorLog() const {
     std::ostringstream text;
     text << in.rdbuf();
     return text.str();
+}
+
+std::vector<std::string> ModelServer::servedClasses() {
+    YAML::Node const root = YAML::LoadFile(VELDRA_DATA_DIR "/registration/veldra-cimd.yaml");
+    std::vector<std::string> names;
+    for (auto const& provider : root["providers"]) {
+        for (auto const& name : provider["classes"]) {
+            std::string const text = name.as<std::string>();
+            if (text.size() < 10 || text.compare(text.size() - 10, 10, "Indication") != 0)
+                names.push_back(text);
+        }
+    }
+    return names;
 }

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 // veldra-cimd with the Veldra and host providers serving a private copy of a
 // scenario: locator requests are written beside the scenario, so the copy
@@ -24,6 +25,10 @@ public:
     std::string locatorLog() const;
     std::string log() const { return _cimd->log(); }
     int port() const { return _cimd->port(); }
+
+    // Every class the registration routes to a provider, but the indication
+    // classes, which have no instances.
+    static std::vector<std::string> servedClasses();
 
 private:
     std::filesystem::path _dir;

@@ -5,6 +5,7 @@
 #include <yaml-cpp/yaml.h>
 
 #include <algorithm>
+#include <set>
 #include <stdexcept>
 
 namespace {
@@ -55,6 +56,12 @@ void ScenarioExpectation::_load(std::string const& scenarioFile) {
         Controller controller;
         controller.index = ++index;
         controller.serial = text(c, "serialNumber");
+        // A battery unless the record says absent or its getter is made to fail.
+        controller.battery = number(c, "cacheHasBattery", 1) == 1;
+        if (c["fail"])
+            for (auto const& getter : c["fail"])
+                if (getter.as<std::string>() == "getCacheHasBattery")
+                    controller.battery = false;
         if (c["ports"])
             for (auto const& p : c["ports"])
                 controller.ports.push_back(p.as<std::string>());
@@ -129,12 +136,23 @@ void ScenarioExpectation::_count() {
     std::vector<int> cageBoxes;
     std::vector<Disk> spares, nonSpares;
     std::vector<Volume> cached, caches;
+    std::set<std::string> viewVolumes, viewExtents;
     for (Controller const& c : _controllers) {
         for (char const* name : perController)
             _add(name);
         for (char const* name : perControllerHost)
             _add(name);
         _add("QLN_VDStorageCapabilities", 2); // the primordial pool's and the concrete pool's
+        _add("DRSV_VDController");
+        _add("DRSV_VDControllerFirmware");
+        if (c.battery)
+            _add("DRSV_VDBattery");
+        // The view keys volumes by serial and extents by model and serial,
+        // under the host's name: disks without a serial of one model share a key.
+        for (Volume const& v : c.volumes)
+            viewVolumes.insert(withoutWhitespace(v.serial));
+        for (Disk const& d : c.disks)
+            viewExtents.insert(withoutWhitespace(d.model) + "-" + withoutWhitespace(d.serial));
         ++pools;
         for (char const* name : perInitiatorPort)
             _add(name, static_cast<int>(c.ports.size()));
@@ -217,6 +235,8 @@ void ScenarioExpectation::_count() {
                 if ((a.relatedLun & 0xffff) == b.number)
                     _add("QLN_VDCacheVolumeStorageVolume");
     }
+    _add("DRSV_VDStorageVolume", static_cast<int>(viewVolumes.size()));
+    _add("DRSV_VDStorageExtent", static_cast<int>(viewExtents.size()));
     _add("QLN_VDStorageSpecificCollection");
     _add("QLN_VDStorageGroupHostedCollection");
     _add("QLN_VDStorageSpecificCollectionArraySystem", static_cast<int>(_controllers.size()));

@@ -45,13 +45,15 @@ public:
         std::vector<Enclosure> enclosures;
         std::vector<Disk> disks;
         std::vector<Volume> volumes;
+        bool battery = true; // the cache reports a battery
     };
 
     // Throws std::runtime_error when the file cannot be read.
     explicit ScenarioExpectation(std::string const& scenarioFile);
 
     std::vector<Controller> const& controllers() const { return _controllers; }
-    // Instances per CIM class in root/mwq, the host provider's classes included.
+    // Instances per CIM class in root/mwq, the host provider's classes included,
+    // and of the host view's DRSV_ classes in root/cimv2.
     std::map<std::string, int> const& counts() const { return _counts; }
 
     // Identity texts as clients see them in keys.

@@ -1,6 +1,6 @@
 // The array controller's instance: the "if read" rule, the two cache groups,
 // the encryption list and the operational status map.
-#include "ArrayTestRig.h"
+#include "ArrayTestSupport.h"
 #include "QLN_VDArrayController.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 namespace {
 
 CmpiCpp::CmpiInstance instanceOf(std::string const& controllers, int number = 1) {
-    ArrayTestRig rig(controllers);
+    ScenarioRig rig(ScenarioRig::controllerList, controllers);
     QLN::QLN_VDArrayController controller(rig.logger, "root/mwq", number, rig.controller(number));
     return controller.getInstance();
 }
@@ -123,7 +123,7 @@ TEST(ArrayControllerInstance, NotReportedReadsAsUnknownHere) {
 }
 
 TEST(ArrayControllerPath, SharesTheNameOfItsArraySystemButNotTheExternalWording) {
-    ArrayTestRig rig("  - {serialNumber: A}\n  - {}\n");
+    ScenarioRig rig(ScenarioRig::controllerList, "  - {serialNumber: A}\n  - {}\n");
     QLN::QLN_VDArrayController second(rig.logger, "root/mwq", 2, rig.controller(2));
     EXPECT_EQ(second.getPath().getKey("Name").getString(), "EXTERNAL-2");
     EXPECT_EQ(second.getInstance().getProperty("ElementName").getString(),

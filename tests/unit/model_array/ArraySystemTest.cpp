@@ -1,6 +1,6 @@
 // The array system: the status consolidation of a worker pass, its instance,
 // and Identify as the simulated controller records it.
-#include "ArrayTestRig.h"
+#include "ArrayTestSupport.h"
 #include "LocatorLog.h"
 #include "QLN_VDArraySystem.h"
 
@@ -37,7 +37,7 @@ std::string scenario(std::string controller, std::vector<std::string> logicals =
 }
 
 std::string consolidated(std::string const& yaml) {
-    ArrayTestRig rig(yaml);
+    ScenarioRig rig(ScenarioRig::controllerList, yaml);
     QLN::QLN_VDArraySystem system(rig.logger, "root/mwq", 1, rig.controller());
     system.manageDynamic(false, CmpiCpp::CmpiContext());
     return std::to_string(system.getStatus()) + " " + system.getStatusText();
@@ -76,21 +76,21 @@ TEST(ArraySystemConsolidation, OrderOfSources) {
 }
 
 TEST(ArraySystemConsolidation, TextChangesOnlyWithTheStatus) {
-    ArrayTestRig rig(scenario("1", {"3"}));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario("1", {"3"}));
     QLN::QLN_VDArraySystem system(rig.logger, "root/mwq", 1, rig.controller());
     system.manageDynamic(true, CmpiCpp::CmpiContext());
     // The failure moves from the volume to an enclosure: still 6, old text.
-    rig.rewrite(scenario("1", {"2"}, {"6"}));
+    rig.change(ScenarioRig::controllerList, scenario("1", {"2"}, {"6"}));
     system.manageDynamic(true, CmpiCpp::CmpiContext());
     EXPECT_EQ(system.getStatus(), 6);
     EXPECT_EQ(system.getStatusText(), "Logical Drive Failure");
-    rig.rewrite(scenario("1"));
+    rig.change(ScenarioRig::controllerList, scenario("1"));
     system.manageDynamic(false, CmpiCpp::CmpiContext());
     EXPECT_EQ(system.getStatusText(), "Array is operating properly");
 }
 
 TEST(ArraySystemInstance, KeysAndPropertiesInOrder) {
-    ArrayTestRig rig(scenario("1", {}, {"6"}));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario("1", {}, {"6"}));
     QLN::QLN_VDArraySystem system(rig.logger, "root/mwq", 1, rig.controller());
     EXPECT_EQ(system.getInstance().getProperty("HealthState").getUint16(), 5)
         << "OK before the first pass";
@@ -117,7 +117,7 @@ TEST(ArraySystemInstance, KeysAndPropertiesInOrder) {
 }
 
 TEST(ArraySystemIdentify, Uint32DurationReachesTheControllerTimesTen) {
-    ArrayTestRig rig(scenario("1", {}, {}, {"1", "1"}));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario("1", {}, {}, {"1", "1"}));
     QLN::QLN_VDArraySystem system(rig.logger, "root/mwq", 1, rig.controller());
     CmpiCpp::CmpiArgs args;
     args.setArg("Duration", CmpiCpp::CmpiData(5u));
@@ -128,7 +128,7 @@ TEST(ArraySystemIdentify, Uint32DurationReachesTheControllerTimesTen) {
 }
 
 TEST(ArraySystemIdentify, AnythingButAUint32DurationIs17AndLightsNothing) {
-    ArrayTestRig rig(scenario("1", {}, {}, {"1"}));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario("1", {}, {}, {"1"}));
     QLN::QLN_VDArraySystem system(rig.logger, "root/mwq", 1, rig.controller());
     CmpiCpp::CmpiArgs uint16Duration, none, uint32Duration;
     uint16Duration.setArg("Duration", CmpiCpp::CmpiData(static_cast<unsigned short>(5)));
@@ -138,7 +138,8 @@ TEST(ArraySystemIdentify, AnythingButAUint32DurationIs17AndLightsNothing) {
     EXPECT_EQ(system.invokeMethod("Locate", uint32Duration), 17u);
     EXPECT_TRUE(LocatorLog::read(rig.path).empty());
 
-    ArrayTestRig refusing(scenario("1", {}, {}, {}, "    fail: [identifyAllPhysicalDisks]\n"));
+    ScenarioRig refusing(ScenarioRig::controllerList,
+                         scenario("1", {}, {}, {}, "    fail: [identifyAllPhysicalDisks]\n"));
     QLN::QLN_VDArraySystem other(refusing.logger, "root/mwq", 1, refusing.controller());
     EXPECT_EQ(other.invokeMethod("Identify", uint32Duration), 2u);
 }

@@ -1,6 +1,6 @@
 // The controller's packages, product and locations: keys that keep
 // controllers apart and the package type chosen from the controller type.
-#include "ArrayTestRig.h"
+#include "ArrayTestSupport.h"
 #include "QLN_VDArrayControllerLocation.h"
 #include "QLN_VDArrayControllerPhysicalPackage.h"
 #include "QLN_VDArraySystemLocation.h"
@@ -21,7 +21,7 @@ char const* const fleet =
     "  - {serialNumber: P4, physloc: [5, 2, 1], fail: [getControllerType, getModel, getPhysloc]}\n"
     "  - {controllerType: 3}\n";
 
-template <typename T> CmpiCpp::CmpiInstance instanceOf(ArrayTestRig& rig, int number) {
+template <typename T> CmpiCpp::CmpiInstance instanceOf(ScenarioRig& rig, int number) {
     T object(rig.logger, "root/mwq", number, rig.controller(number));
     return object.getInstance();
 }
@@ -33,7 +33,7 @@ std::string text(CmpiCpp::CmpiInstance const& instance, char const* name) {
 } // namespace
 
 TEST(ControllerPackages, TagsAndPackageTypes) {
-    ArrayTestRig rig(fleet);
+    ScenarioRig rig(ScenarioRig::controllerList, fleet);
     auto card = instanceOf<QLN::QLN_VDPhysicalPackage>(rig, 1);
     EXPECT_EQ(text(card, "Tag"), "QLN_VDPhysicalPackage-P1");
     EXPECT_EQ(text(card, "Model"), "Veldra 8i");
@@ -55,7 +55,7 @@ TEST(ControllerPackages, TagsAndPackageTypes) {
 }
 
 TEST(ControllerProduct, KeysNameThePieceAndFallBackWhenUnread) {
-    ArrayTestRig rig(fleet);
+    ScenarioRig rig(ScenarioRig::controllerList, fleet);
     QLN::QLN_VDProduct product(rig.logger, "root/mwq", 1, rig.controller(1));
     EXPECT_EQ(
         product.getPath().str().substr(product.getPath().str().find(':') + 1),
@@ -66,7 +66,7 @@ TEST(ControllerProduct, KeysNameThePieceAndFallBackWhenUnread) {
 }
 
 TEST(ControllerLocations, PositionsUseTheLocationTagAndKeepExternalControllersApart) {
-    ArrayTestRig rig(fleet);
+    ScenarioRig rig(ScenarioRig::controllerList, fleet);
     auto slot = instanceOf<QLN::QLN_VDArraySystemLocation>(rig, 1);
     EXPECT_EQ(text(slot, "Name"), "QLN_VDArraySystemLocation");
     EXPECT_EQ(text(slot, "PhysicalPosition"), "PCISLOT-3");

@@ -1,8 +1,7 @@
 #pragma once
-// The array tests' scenario rig, with the enclosures' routes stamped on the
-// stored records as the graph factory stamps them, and the look-up of one
+// The scenario rig over one controller's enclosures, and the look-up of one
 // stored enclosure by its box number.
-#include "ArrayTestRig.h"
+#include "ArrayTestSupport.h"
 #include "CmpiStatus.h"
 #include "VeldraStorageFunctions.h"
 
@@ -11,39 +10,24 @@
 #include <string>
 #include <vector>
 
-class EnclosureRig : public ArrayTestRig {
+class EnclosureRig : public ScenarioRig {
 public:
     // `physloc` and `enclosures` are YAML flow texts for controller 1.
     EnclosureRig(std::string const& enclosures, std::string const& physloc = "[5, 3]")
-        : ArrayTestRig(yaml(enclosures, physloc)) {
-        stamp();
-    }
+        : ScenarioRig(controllerList, yaml(enclosures, physloc)) {}
 
     static std::string yaml(std::string const& enclosures, std::string const& physloc = "[5, 3]") {
         return "  - serialNumber: PENC0001\n    physloc: " + physloc + "\n    enclosures: [" +
                enclosures + "]\n";
     }
 
-    void replace(std::string const& enclosures) {
-        rewrite(yaml(enclosures));
-        stamp();
-    }
+    void replace(std::string const& enclosures) { change(controllerList, yaml(enclosures)); }
 
     VeldraEnclosure stored(u32 enclosureBoxNumber) {
         std::vector<VeldraEnclosure> all = controller()->getLastAllEnclosures();
         int at = findEnclosureInVector(enclosureBoxNumber, all);
         EXPECT_GE(at, 0) << "no enclosure " << enclosureBoxNumber << " in the snapshot";
         return at < 0 ? VeldraEnclosure() : all[static_cast<size_t>(at)];
-    }
-
-private:
-    void stamp() {
-        std::vector<VeldraEnclosure> enclosures = controller()->getAllEnclosures();
-        for (VeldraEnclosure& enclosure : enclosures) {
-            std::vector<VeldraPhysicalPath> paths = enclosure.getPaths();
-            enclosure.setLastAllPhysicalPaths(paths);
-        }
-        controller()->setLastAllEnclosures(enclosures);
     }
 };
 

@@ -4,7 +4,7 @@
 // controller records it.
 #include "CmpiStatus.h"
 #include "LocatorLog.h"
-#include "PhysicalTestRig.h"
+#include "PhysicalTestSupport.h"
 #include "QLN_VDDiskDrive.h"
 #include "QLN_VDStorageExtent.h"
 
@@ -24,7 +24,7 @@ std::string oneDisk(std::string const& diskFields, std::string const& controller
            (diskFields.empty() ? "" : ", " + diskFields) + "}]}\n";
 }
 
-CmpiCpp::CmpiInstance diskOf(PhysicalTestRig& rig) {
+CmpiCpp::CmpiInstance diskOf(ScenarioRig& rig) {
     return QLN::QLN_VDDiskDrive(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0])
         .getInstance();
 }
@@ -36,12 +36,12 @@ char const* const carrierController = ", supportsLumenCarrierAuthentication: tru
 // Catches a property renamed, moved or retyped, the SSD and carrier blocks
 // out of place, the endurance zero-extended and the life figure sent.
 TEST(DiskDrive, FullSSDOnCarrierControllerInOrder) {
-    PhysicalTestRig rig(oneDisk("gasGauge: true, totalPowerOnHours: 1200, lifeRemaining: 77, "
-                                "percentEnduranceUsed: 0xFFFFFFFF, sanitizeEraseSupported: true, "
-                                "blockEraseSupported: true, overWriteEraseSupported: false, "
-                                "carrierAuthStatus: 3, carrierOtherAuthStatus: vendor says no, "
-                                "encryptionStatus: 2",
-                                carrierController));
+    ScenarioRig rig(oneDisk("gasGauge: true, totalPowerOnHours: 1200, lifeRemaining: 77, "
+                            "percentEnduranceUsed: 0xFFFFFFFF, sanitizeEraseSupported: true, "
+                            "blockEraseSupported: true, overWriteEraseSupported: false, "
+                            "carrierAuthStatus: 3, carrierOtherAuthStatus: vendor says no, "
+                            "encryptionStatus: 2",
+                            carrierController));
     CmpiCpp::CmpiInstance const instance = diskOf(rig);
     EXPECT_EQ(names(instance),
               "SystemCreationClassName CreationClassName SystemName DeviceID Name ElementName "
@@ -64,7 +64,7 @@ TEST(DiskDrive, FullSSDOnCarrierControllerInOrder) {
 
 // Catches an optional block shown although its condition is false.
 TEST(DiskDrive, ConditionalPropertiesLeftOut) {
-    PhysicalTestRig plain(oneDisk("blockEraseSupported: true, carrierAuthStatus: 3"));
+    ScenarioRig plain(oneDisk("blockEraseSupported: true, carrierAuthStatus: 3"));
     CmpiCpp::CmpiInstance const a = diskOf(plain);
     for (char const* absent :
          {"IsCryptoScrambleEraseSupported", "IsBlockEraseSupported", "IsOverWriteEraseSupported",
@@ -72,7 +72,7 @@ TEST(DiskDrive, ConditionalPropertiesLeftOut) {
           "LumenDriveCarrierAuthStatus", "OtherLumenDriveCarrierAuthStatus"})
         EXPECT_FALSE(a.hasProperty(absent)) << absent;
 
-    PhysicalTestRig carrier(
+    ScenarioRig carrier(
         oneDisk("carrierAuthStatus: 2, carrierOtherAuthStatus: x", carrierController));
     CmpiCpp::CmpiInstance const b = diskOf(carrier);
     EXPECT_EQ(uint16Of(b, "LumenDriveCarrierAuthStatus"), 2);
@@ -83,7 +83,7 @@ TEST(DiskDrive, ConditionalPropertiesLeftOut) {
 // disk's and extent's rules confused (the extent has no controller number,
 // so only SystemName keeps its disks apart).
 TEST(DiskDrive, DeviceIdRulesOfDiskAndExtent) {
-    PhysicalTestRig rig(R"(controllers:
+    ScenarioRig rig(R"(controllers:
   - {serialNumber: PA, physicalDisks: [{id: 0, model: NR4000, enclosureBoxNumber: 1, bay: 3}]}
   - {serialNumber: PB, physicalDisks: [{id: 0, model: NR4000, enclosureBoxNumber: 1, bay: 3}]}
 )");
@@ -144,7 +144,7 @@ class DiskStatusTable : public ::testing::TestWithParam<StatusCase> {};
 TEST_P(DiskStatusTable, DiskAndExtent) {
     StatusCase const& c = GetParam();
     std::string const unlock = c.unlock;
-    PhysicalTestRig rig(
+    ScenarioRig rig(
         oneDisk("status: " + std::to_string(c.status) + (unlock == "gas" ? ", gasGauge: true" : ""),
                 unlock == "carrier" ? carrierController : ""));
     CmpiCpp::CmpiInstance const disk = diskOf(rig);
@@ -168,7 +168,7 @@ INSTANTIATE_TEST_SUITE_P(EveryRow, DiskStatusTable, ::testing::ValuesIn(statusCa
 // missing one still lighting the disk, the controller's refusal not given as
 // 2, and a disk gone from the snapshot escaping as an exception.
 TEST(DiskDriveIdentify, ArgumentsControllerAnswerAndGoneDisk) {
-    PhysicalTestRig rig(oneDisk(""));
+    ScenarioRig rig(oneDisk(""));
     QLN::QLN_VDDiskDrive drive(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0]);
     CmpiCpp::CmpiArgs seconds, shortSeconds, none;
     seconds.setArg("Duration", CmpiCpp::CmpiData(7u));
@@ -203,7 +203,7 @@ TEST(DiskDriveIdentify, ArgumentsControllerAnswerAndGoneDisk) {
 // or failing with another code or text, or losing its path (the worker
 // needs the path to delete it).
 TEST(DiskDrive, GoneFromSnapshotFailsWithStatus100) {
-    PhysicalTestRig rig(oneDisk(""));
+    ScenarioRig rig(oneDisk(""));
     QLN::QLN_VDDiskDrive drive(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0]);
     rig.change("controllers:\n  - {serialNumber: PCTL01}\n");
     char const* const failure =

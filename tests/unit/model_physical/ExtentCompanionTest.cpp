@@ -2,7 +2,7 @@
 // three firmware identities), the redundancy set's pass, and each class's
 // own failure text when its disk has left the snapshot.
 #include "CmpiStatus.h"
-#include "PhysicalTestRig.h"
+#include "PhysicalTestSupport.h"
 #include "QLN_VDDiskDriveFirmware.h"
 #include "QLN_VDDiskDriveLocation.h"
 #include "QLN_VDDiskPhysicalPackage.h"
@@ -46,7 +46,7 @@ std::size_t count(std::string const& text, std::string const& what) {
 // Catches the two block counts read from different getters, a signed
 // BlockSize, and a zero TotalPowerOnHours shown on the extent.
 TEST(StorageExtent, PropertyOrderBlocksAndPowerOnHours) {
-    PhysicalTestRig rig(twoDisks);
+    ScenarioRig rig(twoDisks);
     CmpiCpp::CmpiInstance const instance =
         QLN::QLN_VDStorageExtent(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0])
             .getInstance();
@@ -70,7 +70,7 @@ TEST(StorageExtent, PropertyOrderBlocksAndPowerOnHours) {
 // not following HotSwappable, and the controller's unreadable model not
 // replaced in the location's caption.
 TEST(DiskPackageAndLocation, KeysTextsAndFallbacks) {
-    PhysicalTestRig rig(twoDisks);
+    ScenarioRig rig(twoDisks);
     using Package = QLN::QLN_VDDiskPhysicalPackage;
     CmpiCpp::CmpiInstance const full =
         Package(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0]).getInstance();
@@ -102,7 +102,7 @@ TEST(DiskPackageAndLocation, KeysTextsAndFallbacks) {
 // Catches the firmware classes swapping texts, the carrier versions not
 // printed as signed decimals, and the drive's firmware losing its version.
 TEST(DiskFirmware, ThreeIdentitiesOfOneDisk) {
-    PhysicalTestRig rig(twoDisks);
+    ScenarioRig rig(twoDisks);
     VeldraPhysicalDisk const disk = rig.disk(0, 0);
     CmpiCpp::CmpiInstance const drive =
         QLN::QLN_VDDiskDriveFirmware(rig.logger, ns, 1, disk, rig.controllers[0]).getInstance();
@@ -143,7 +143,7 @@ TEST(StorageRedundancySet, FollowsTheSpareAcrossPasses) {
                            "dataDisks: [0], spareDisks: [1], spareAvailable: ") +
                spareAvailable + "}\n";
     };
-    PhysicalTestRig rig(volume("true"));
+    ScenarioRig rig(volume("true"));
     std::vector<VeldraLogicalDisk> logicals;
     rig.controllers[0]->getLastLogicalDisks(logicals);
     QLN::QLN_VDStorageRedundancySet set(rig.logger, ns, 1, logicals.at(0), rig.controllers[0]);
@@ -174,7 +174,7 @@ TEST(StorageRedundancySet, FollowsTheSpareAcrossPasses) {
 // Catches a class answering for a disk that is gone, or failing with another
 // code or another class's words, or losing the path the worker deletes by.
 TEST(DiskGoneFromSnapshot, EveryClassFailsWithStatus100AndItsOwnText) {
-    PhysicalTestRig rig(twoDisks);
+    ScenarioRig rig(twoDisks);
     VeldraPhysicalDisk const d = rig.disk(0, 0);
     VeldraController* const c = rig.controllers[0];
     std::string const companion =

@@ -1,5 +1,5 @@
 // The disk's statistics record and the target side of its SAS paths.
-#include "PhysicalTestRig.h"
+#include "PhysicalTestSupport.h"
 #include "QLN_VDMediaAccessStatData.h"
 #include "QLN_VDTSASPort.h"
 #include "QLN_VDTSASSCSIProtocolEndpoint.h"
@@ -28,7 +28,7 @@ std::string const disks = R"(controllers:
 // out, the record's order lost, and the serial-less InstanceID given the
 // controller number (it has none here).
 TEST(MediaAccessStatData, CountersOfAllOnesLeftOut) {
-    PhysicalTestRig rig(disks);
+    ScenarioRig rig(disks);
     CmpiCpp::CmpiInstance const stats =
         QLN::QLN_VDMediaAccessStatData(rig.logger, ns, 1, rig.disk(0, 0), rig.controllers[0])
             .getInstance();
@@ -50,7 +50,7 @@ TEST(MediaAccessStatData, CountersOfAllOnesLeftOut) {
 // Catches keys of two paths colliding, the serial-less key missing the port,
 // and the port and endpoint tables mixed up (order, Role, texts, Path).
 TEST(TargetPortAndEndpoint, KeysPropertiesAndPathStatus) {
-    PhysicalTestRig rig(disks);
+    ScenarioRig rig(disks);
     VeldraPhysicalDisk const disk = rig.disk(0, 0);
     std::vector<VeldraPhysicalPath> const paths = disk.getLastAllPhysicalPaths();
     ASSERT_EQ(paths.size(), 2u);

@@ -1,7 +1,7 @@
 // The storage volume on scenarios: its status and tolerance tables, the
 // conditional properties, a volume that left the snapshot, and Identify as
 // the simulated controller records it.
-#include "ArrayTestRig.h"
+#include "ArrayTestSupport.h"
 #include "CmpiArgs.h"
 #include "CmpiStatus.h"
 #include "LocatorLog.h"
@@ -66,7 +66,8 @@ class VolumeStatusTable : public ::testing::TestWithParam<StatusRow> {};
 
 TEST_P(VolumeStatusTable, StatusMapsToOperationalHealthAndDescriptions) {
     StatusRow const& row = GetParam();
-    ArrayTestRig rig(scenario(volumeRecord("status: " + std::to_string(row.status))));
+    ScenarioRig rig(ScenarioRig::controllerList,
+                    scenario(volumeRecord("status: " + std::to_string(row.status))));
     VeldraLogicalDisk const logical = stored(rig.controller());
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, logical, rig.controller());
     CmpiCpp::CmpiInstance const instance = volume.getInstance();
@@ -108,7 +109,8 @@ TEST(VolumeTolerance, RedundancyPropertiesFollowTheToleranceSets) {
                                 {5, 1, 1, true},    {8, 1, 2, true},  {11, 2, 1, true},
                                 {12, {}, {}, true}};
     for (Row const& row : rows) {
-        ArrayTestRig rig(scenario(volumeRecord("tolerance: " + std::to_string(row.tolerance))));
+        ScenarioRig rig(ScenarioRig::controllerList,
+                        scenario(volumeRecord("tolerance: " + std::to_string(row.tolerance))));
         QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                         rig.controller());
         CmpiCpp::CmpiInstance const instance = volume.getInstance();
@@ -127,9 +129,10 @@ TEST(VolumeTolerance, RedundancyPropertiesFollowTheToleranceSets) {
 }
 
 TEST(VolumeInstance, PathKeysNamesAndOrderOfAPlainVolume) {
-    ArrayTestRig rig(scenario(volumeRecord("number: 0, tolerance: 1, status: 2, blockSize: 512, "
-                                           "totalBlocks: 1000, stripeSize: 0x100000000, "
-                                           "rapidParityPercentComplete: 0, percentComplete: 0")));
+    ScenarioRig rig(ScenarioRig::controllerList,
+                    scenario(volumeRecord("number: 0, tolerance: 1, status: 2, blockSize: 512, "
+                                          "totalBlocks: 1000, stripeSize: 0x100000000, "
+                                          "rapidParityPercentComplete: 0, percentComplete: 0")));
     VeldraLogicalDisk const logical = stored(rig.controller());
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, logical, rig.controller());
     CmpiCpp::CmpiObjectPath const path = volume.getPath();
@@ -156,9 +159,10 @@ TEST(VolumeInstance, PathKeysNamesAndOrderOfAPlainVolume) {
 }
 
 TEST(VolumeInstance, ConditionalPropertiesAppearWhenTheyHaveSomethingToSay) {
-    ArrayTestRig rig(scenario(volumeRecord("number: 4, status: 0x8004, osName: /dev/sdb, "
-                                           "percentComplete: 40, volumeType: 2, relatedLUN: 7, "
-                                           "cacheVolumeCacheState: 3")));
+    ScenarioRig rig(ScenarioRig::controllerList,
+                    scenario(volumeRecord("number: 4, status: 0x8004, osName: /dev/sdb, "
+                                          "percentComplete: 40, volumeType: 2, relatedLUN: 7, "
+                                          "cacheVolumeCacheState: 3")));
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                     rig.controller());
     CmpiCpp::CmpiInstance const instance = volume.getInstance();
@@ -172,15 +176,17 @@ TEST(VolumeInstance, ConditionalPropertiesAppearWhenTheyHaveSomethingToSay) {
 }
 
 TEST(VolumeInstance, AcceleratorStaysAtConstructionAndAVanishedVolumeThrows100) {
-    ArrayTestRig rig(scenario(volumeRecord("acceleratorStatus: 1, status: 2")));
+    ScenarioRig rig(ScenarioRig::controllerList,
+                    scenario(volumeRecord("acceleratorStatus: 1, status: 2")));
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                     rig.controller());
-    rig.rewrite(scenario(volumeRecord("acceleratorStatus: 2, status: 3")));
+    rig.change(ScenarioRig::controllerList,
+               scenario(volumeRecord("acceleratorStatus: 2, status: 3")));
     CmpiCpp::CmpiInstance const changed = volume.getInstance();
     EXPECT_EQ(changed.getProperty("Accelerator").getUint16(), 1);
     EXPECT_EQ(uint16s(changed, "OperationalStatus"), std::vector<unsigned short>{6});
 
-    rig.rewrite(scenario(""));
+    rig.change(ScenarioRig::controllerList, scenario(""));
     try {
         volume.getInstance();
         ADD_FAILURE() << "a volume missing from the snapshot was served";
@@ -194,7 +200,7 @@ TEST(VolumeInstance, AcceleratorStaysAtConstructionAndAVanishedVolumeThrows100) 
 }
 
 TEST(VolumeIdentify, LightsTheCurrentMembersForTenTimesTheDuration) {
-    ArrayTestRig rig(scenario(volumeRecord("")));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario(volumeRecord("")));
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                     rig.controller());
     CmpiCpp::CmpiArgs args;
@@ -208,7 +214,7 @@ TEST(VolumeIdentify, LightsTheCurrentMembersForTenTimesTheDuration) {
 }
 
 TEST(VolumeIdentify, WrongCallsAre17AndAMissingVolumeOrRefusalIs2) {
-    ArrayTestRig rig(scenario(volumeRecord("")));
+    ScenarioRig rig(ScenarioRig::controllerList, scenario(volumeRecord("")));
     QLN::QLN_VDStorageVolume volume(rig.logger, "root/mwq", 1, stored(rig.controller()),
                                     rig.controller());
     CmpiCpp::CmpiArgs uint16Duration, none, uint32Duration;
@@ -219,9 +225,10 @@ TEST(VolumeIdentify, WrongCallsAre17AndAMissingVolumeOrRefusalIs2) {
     EXPECT_EQ(volume.invokeMethod("Locate", uint32Duration), 17u);
     EXPECT_TRUE(LocatorLog::read(rig.path).empty());
 
-    rig.rewrite(scenario(volumeRecord(""), "    fail: [identifyPhysicalDisks]\n"));
+    rig.change(ScenarioRig::controllerList,
+               scenario(volumeRecord(""), "    fail: [identifyPhysicalDisks]\n"));
     EXPECT_EQ(volume.invokeMethod("Identify", uint32Duration), 2u);
-    rig.rewrite(scenario(""));
+    rig.change(ScenarioRig::controllerList, scenario(""));
     EXPECT_EQ(volume.invokeMethod("Identify", uint32Duration), 2u);
     EXPECT_TRUE(LocatorLog::read(rig.path).empty());
 }

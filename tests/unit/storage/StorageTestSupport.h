@@ -1,5 +1,7 @@
 #pragma once
 // Helpers for tests that need scenario files on disk.
+#include "TempDir.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -10,25 +12,6 @@
 namespace storagetest {
 
 // A fresh directory, removed with everything in it at the end of the test.
-class TempDir {
-public:
-    TempDir() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "veldra-storage-XXXXXX").string();
-        char* made = ::mkdtemp(pattern.data());
-        if (made)
-            _path = made;
-    }
-    ~TempDir() {
-        std::error_code ignored;
-        std::filesystem::remove_all(_path, ignored);
-    }
-    std::string file(std::string const& name) const { return (_path / name).string(); }
-
-private:
-    std::filesystem::path _path;
-};
-
 inline std::string readText(std::string const& path) {
     std::ifstream in(path, std::ios::binary);
     std::ostringstream text;
