@@ -26,6 +26,8 @@
 #include "CimName.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 // Arenas opened by attachThread on this thread, per broker, innermost last.
@@ -947,3 +949,5 @@ void Broker::log(int severity, std::string const& text) {
         std::cerr << name << ": " << text << '\n';
     }
 }
+
+} // namespace Cimom

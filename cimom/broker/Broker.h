@@ -10,6 +10,8 @@
 #include "ObjectRegistry.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 class BrokerContext;
 
 // The object manager's CMPIBroker: the four function tables (main,
@@ -70,3 +72,5 @@ private:
     ClassIsA _isA;
     LogFunction _log;
 };
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerArgs;
@@ -82,3 +84,5 @@ void BrokerArgs::add(std::string const& name, CimValue value) {
 BrokerArgs* BrokerArgs::from(CMPIArgs const* a) {
     return (a != nullptr && a->ft == &argsTable) ? static_cast<BrokerArgs*>(a->hdl) : nullptr;
 }
+
+} // namespace Cimom

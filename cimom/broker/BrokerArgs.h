@@ -8,6 +8,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIArgs: named method parameters in the order they were added; adding a
 // name again replaces its value.
 class BrokerArgs : public EncapsulatedObject {
@@ -27,3 +29,5 @@ private:
     CMPIArgs _cmpi;
     std::vector<Arg> _args;
 };
+
+} // namespace Cimom

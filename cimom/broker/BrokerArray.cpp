@@ -5,6 +5,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 CMPIType normalized(CMPIType t) {
@@ -84,3 +86,5 @@ BrokerArray::BrokerArray(ObjectRegistry& registry, CMPIType elementType,
 BrokerArray* BrokerArray::from(CMPIArray const* a) {
     return (a != nullptr && a->ft == &arrayTable) ? static_cast<BrokerArray*>(a->hdl) : nullptr;
 }
+
+} // namespace Cimom

@@ -6,6 +6,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIArray: a fixed number of elements of one type, each possibly null.
 class BrokerArray : public EncapsulatedObject {
 public:
@@ -27,3 +29,5 @@ private:
     CMPIType _elementType;
     std::vector<CimValue> _elements;
 };
+
+} // namespace Cimom

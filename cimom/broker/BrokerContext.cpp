@@ -6,6 +6,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerContext;
@@ -83,3 +85,5 @@ void BrokerContext::add(std::string const& name, CimValue value) {
 BrokerContext* BrokerContext::from(CMPIContext const* c) {
     return (c != nullptr && c->ft == &contextTable) ? static_cast<BrokerContext*>(c->hdl) : nullptr;
 }
+
+} // namespace Cimom

@@ -8,6 +8,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIContext: named entries of a call (invocation flags, namespace,
 // principal) that a provider reads and may add to.
 class BrokerContext : public EncapsulatedObject {
@@ -27,3 +29,5 @@ private:
     CMPIContext _cmpi;
     std::vector<Entry> _entries;
 };
+
+} // namespace Cimom

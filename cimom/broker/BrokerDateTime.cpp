@@ -6,6 +6,8 @@
 #include "CimValue.h"
 #include "ObjectRegistry.h"
 
+namespace Cimom {
+
 namespace {
 
 CMPIStatus release(CMPIDateTime* d) {
@@ -53,3 +55,5 @@ BrokerDateTime* BrokerDateTime::from(CMPIDateTime const* d) {
     return (d != nullptr && d->ft == &dateTimeTable) ? static_cast<BrokerDateTime*>(d->hdl)
                                                      : nullptr;
 }
+
+} // namespace Cimom

@@ -5,6 +5,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIDateTime, held in its CIM text form (which may carry unspecified
 // fields that have no binary value).
 class BrokerDateTime : public EncapsulatedObject {
@@ -22,3 +24,5 @@ private:
     CMPIDateTime _cmpi;
     std::string _text;
 };
+
+} // namespace Cimom

@@ -6,6 +6,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerEnumeration;
@@ -57,3 +59,5 @@ BrokerEnumeration* BrokerEnumeration::from(CMPIEnumeration const* e) {
     return (e != nullptr && e->ft == &enumerationTable) ? static_cast<BrokerEnumeration*>(e->hdl)
                                                         : nullptr;
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIEnumeration over the results of an up-call: instances (CMPI_instance)
 // or paths (CMPI_ref), walked once with getNext.
 class BrokerEnumeration : public EncapsulatedObject {
@@ -26,3 +28,5 @@ private:
     std::vector<CimValue> _items;
     std::size_t _position;
 };
+
+} // namespace Cimom

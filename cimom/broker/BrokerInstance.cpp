@@ -8,6 +8,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerInstance;
@@ -144,3 +146,5 @@ BrokerInstance* BrokerInstance::from(CMPIInstance const* inst) {
     return (inst != nullptr && inst->ft == &instanceTable) ? static_cast<BrokerInstance*>(inst->hdl)
                                                            : nullptr;
 }
+
+} // namespace Cimom

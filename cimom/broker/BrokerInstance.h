@@ -9,6 +9,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIInstance over a CimInstance. Key properties that a provider sets are
 // mirrored into the path's keys of the same name, so getObjectPath agrees
 // with the properties.
@@ -33,3 +35,5 @@ private:
     CimInstance _instance;
     std::optional<std::vector<std::string>> _filter;
 };
+
+} // namespace Cimom

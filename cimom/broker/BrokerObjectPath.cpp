@@ -6,6 +6,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerObjectPath;
@@ -182,3 +184,5 @@ BrokerObjectPath* BrokerObjectPath::from(CMPIObjectPath const* op) {
     return (op != nullptr && op->ft == &pathTable) ? static_cast<BrokerObjectPath*>(op->hdl)
                                                    : nullptr;
 }
+
+} // namespace Cimom

@@ -4,6 +4,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIObjectPath over a CimObjectPath.
 class BrokerObjectPath : public EncapsulatedObject {
 public:
@@ -21,3 +23,5 @@ private:
     CMPIObjectPath _cmpi;
     CimObjectPath _path;
 };
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include "ObjectRegistry.h"
 #include "ValueConverter.h"
 
+namespace Cimom {
+
 namespace {
 
 using Self = BrokerResult;
@@ -109,3 +111,5 @@ bool BrokerResult::done() const {
 BrokerResult* BrokerResult::from(CMPIResult const* r) {
     return (r != nullptr && r->ft == &resultTable) ? static_cast<BrokerResult*>(r->hdl) : nullptr;
 }
+
+} // namespace Cimom

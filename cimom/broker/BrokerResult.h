@@ -9,6 +9,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIResult that copies whatever a provider returns into C++ vectors, so
 // the results outlive the call's objects.
 class BrokerResult : public EncapsulatedObject {
@@ -38,3 +40,5 @@ private:
     std::vector<CimValue> _data;
     bool _done = false;
 };
+
+} // namespace Cimom

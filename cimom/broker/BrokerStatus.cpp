@@ -6,6 +6,8 @@
 #include "CimError.h"
 #include "ObjectRegistry.h"
 
+namespace Cimom {
+
 CMPIStatus BrokerStatus::make(ObjectRegistry* registry, CMPIrc rc, std::string const& message) {
     CMPIStatus st{rc, nullptr};
     if (registry != nullptr && !message.empty()) {
@@ -45,3 +47,5 @@ std::string BrokerStatus::message(CMPIStatus const& status) {
     char const* text = status.msg->ft->getCharPtr(status.msg, nullptr);
     return text != nullptr ? std::string(text) : std::string();
 }
+
+} // namespace Cimom

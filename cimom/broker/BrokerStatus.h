@@ -4,6 +4,8 @@
 
 #include "cmpidt.h"
 
+namespace Cimom {
+
 class ObjectRegistry;
 
 // CMPIStatus values for the broker's C entry points, and the guard that
@@ -70,3 +72,5 @@ public:
         }
     }
 };
+
+} // namespace Cimom

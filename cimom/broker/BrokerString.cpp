@@ -3,6 +3,8 @@
 #include "BrokerStatus.h"
 #include "ObjectRegistry.h"
 
+namespace Cimom {
+
 namespace {
 
 CMPIStatus release(CMPIString* s) {
@@ -45,3 +47,5 @@ BrokerString::BrokerString(ObjectRegistry& registry, std::string text)
 BrokerString* BrokerString::from(CMPIString const* s) {
     return (s != nullptr && s->ft == &stringTable) ? static_cast<BrokerString*>(s->hdl) : nullptr;
 }
+
+} // namespace Cimom

@@ -5,6 +5,8 @@
 #include "EncapsulatedObject.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 // CMPIString over a std::string.
 class BrokerString : public EncapsulatedObject {
 public:
@@ -22,3 +24,5 @@ private:
     CMPIString _cmpi;
     std::string _text;
 };
+
+} // namespace Cimom

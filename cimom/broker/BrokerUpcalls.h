@@ -9,6 +9,8 @@
 #include "CimValue.h"
 #include "MethodResult.h"
 
+namespace Cimom {
+
 // The operations the broker's up-calls are routed to (the provider manager
 // implements them). Failures are thrown as CimError. A null property list
 // means all properties.
@@ -43,3 +45,5 @@ public:
     virtual MethodResult invokeMethod(CimObjectPath const& path, std::string const& method,
                                       Args const& inArgs) = 0;
 };
+
+} // namespace Cimom

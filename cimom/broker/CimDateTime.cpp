@@ -7,6 +7,8 @@
 #include "CimError.h"
 #include "CimValue.h"
 
+namespace Cimom {
+
 namespace {
 constexpr std::uint64_t usPerSecond = 1000000ULL;
 constexpr std::uint64_t secondsPerDay = 86400ULL;
@@ -92,3 +94,5 @@ std::uint64_t CimDateTime::nowMicroseconds() {
     return static_cast<std::uint64_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(now).count());
 }
+
+} // namespace Cimom

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+namespace Cimom {
+
 // Conversions between the CIM datetime text (yyyymmddhhmmss.mmmmmmsutc, or
 // ddddddddhhmmss.mmmmmm:000 for an interval) and the binary form CMPI uses:
 // microseconds since 1970-01-01 00:00 UTC, or the interval's length in
@@ -17,3 +19,5 @@ public:
     static bool isInterval(std::string const& text);
     static std::uint64_t nowMicroseconds();
 };
+
+} // namespace Cimom

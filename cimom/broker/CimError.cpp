@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace Cimom {
+
 namespace {
 // "CMPI_RC_" before the part of a name that the CIM name shares.
 constexpr std::size_t cmpiPrefix = 8;
@@ -53,3 +55,5 @@ char const* CimError::codeName(int code) {
     }
     return "CIM_ERR_FAILED";
 }
+
+} // namespace Cimom

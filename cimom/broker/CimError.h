@@ -5,6 +5,8 @@
 
 #include "cmpidt.h"
 
+namespace Cimom {
+
 // A failed CIM operation: the CMPI status code that a provider or the broker
 // answered, and its description. The server maps the code one to one onto
 // the CIM-XML ERROR CODE (the CMPI codes 1..17 are the CIM status codes).
@@ -24,3 +26,5 @@ private:
     CMPIrc _code;
     std::string _description;
 };
+
+} // namespace Cimom

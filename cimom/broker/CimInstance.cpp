@@ -4,6 +4,8 @@
 
 #include "CimName.h"
 
+namespace Cimom {
+
 void CimInstance::setProperty(std::string_view name, CimValue value) {
     for (Property& p : _properties) {
         if (CimName::equal(p.name, name)) {
@@ -58,3 +60,5 @@ bool CimInstance::operator==(CimInstance const& other) const {
         return v != nullptr && *v == p.value;
     });
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include "CimObjectPath.h"
 #include "CimValue.h"
 
+namespace Cimom {
+
 // An instance: its path and its properties in the order they were set.
 // Setting a property again replaces its value in place, so a property never
 // appears twice. A property's type is its value's type (a null keeps one).
@@ -48,3 +50,5 @@ private:
     CimObjectPath _path;
     std::vector<Property> _properties;
 };
+
+} // namespace Cimom

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace Cimom {
+
 // CIM names (classes, properties, keys, methods) compare without regard to
 // ASCII case. One place for that rule, so that paths, instances and the
 // provider registry agree.
@@ -28,3 +30,5 @@ private:
         return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
     }
 };
+
+} // namespace Cimom

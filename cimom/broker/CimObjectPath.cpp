@@ -7,6 +7,8 @@
 #include "CimError.h"
 #include "CimName.h"
 
+namespace Cimom {
+
 namespace {
 
 std::string quoted(std::string const& s) {
@@ -214,3 +216,5 @@ CimObjectPath CimObjectPath::parse(std::string_view text) {
         rest.remove_prefix(1);
     }
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 
 #include "CimValue.h"
 
+namespace Cimom {
+
 // An instance path (or a class path, without keys): namespace, class, host
 // and keys in the order they were added. Key values are typed: string,
 // numeric, boolean or a reference to another path.
@@ -62,6 +64,8 @@ private:
     std::string _host;
     std::vector<Key> _keys;
 };
+
+} // namespace Cimom
 
 // Kept with the class so that every user of paths can hash them.
 #include "CimObjectPathHash.h"

@@ -10,6 +10,8 @@
 #include "CimName.h"
 #include "CimObjectPath.h"
 
+namespace Cimom {
+
 namespace {
 
 struct TypeName {
@@ -496,3 +498,5 @@ bool CimValue::sameKeyValue(CimValue const& other) const {
     }
     return *this == other;
 }
+
+} // namespace Cimom

@@ -9,6 +9,8 @@
 
 #include "cmpidt.h"
 
+namespace Cimom {
+
 class CimObjectPath;
 class CimInstance;
 
@@ -104,3 +106,5 @@ private:
     CMPIType _type;
     Data _data;
 };
+
+} // namespace Cimom

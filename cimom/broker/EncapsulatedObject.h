@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace Cimom {
+
 class ObjectRegistry;
 
 // Base of every CMPI object the broker hands to providers (instances, paths,
@@ -24,3 +26,5 @@ public:
 private:
     ObjectRegistry& _registry;
 };
+
+} // namespace Cimom

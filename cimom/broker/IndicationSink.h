@@ -4,6 +4,8 @@
 
 #include "CimInstance.h"
 
+namespace Cimom {
+
 // Where indications that providers deliver through the broker go. The
 // server implements it to reach its listeners; it must be thread-safe, as
 // providers deliver from threads of their own.
@@ -12,3 +14,5 @@ public:
     virtual ~IndicationSink() = default;
     virtual void deliver(std::string const& nameSpace, CimInstance const& indication) = 0;
 };
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include "BrokerStatus.h"
 #include "CimError.h"
 
+namespace Cimom {
+
 namespace {
 
 using Factory = void* (*)(CMPIBroker const*, CMPIContext const*, char const*, CMPIStatus*);
@@ -135,3 +137,5 @@ void LoadedProvider::shutdown() {
     dlclose(_handle);
     _handle = nullptr;
 }
+
+} // namespace Cimom

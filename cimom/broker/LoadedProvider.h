@@ -5,6 +5,8 @@
 #include "ProviderRegistration.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 class Broker;
 
 // One provider library opened with dlopen, reached only through its
@@ -43,3 +45,5 @@ private:
     CMPIMethodMI* _method = nullptr;
     CMPIIndicationMI* _indication = nullptr;
 };
+
+} // namespace Cimom

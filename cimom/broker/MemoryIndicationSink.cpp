@@ -1,5 +1,7 @@
 #include "MemoryIndicationSink.h"
 
+namespace Cimom {
+
 MemoryIndicationSink::MemoryIndicationSink(LogFunction log) : _log(std::move(log)) {}
 
 void MemoryIndicationSink::deliver(std::string const& nameSpace, CimInstance const& indication) {
@@ -27,3 +29,5 @@ void MemoryIndicationSink::clear() {
     std::lock_guard<std::mutex> lock(_mutex);
     _delivered.clear();
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 
 #include "IndicationSink.h"
 
+namespace Cimom {
+
 // The default sink: keeps every indication in memory (for tests and for a
 // server without listeners) and logs one line per indication.
 class MemoryIndicationSink : public IndicationSink {
@@ -30,3 +32,5 @@ private:
     mutable std::mutex _mutex;
     std::vector<Delivered> _delivered;
 };
+
+} // namespace Cimom

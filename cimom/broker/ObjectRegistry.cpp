@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <vector>
 
+namespace Cimom {
+
 namespace {
 // Open arenas of this thread, innermost last, for every registry alive.
 thread_local std::vector<std::pair<ObjectRegistry const*, ObjectRegistry::Arena*>> openArenas;
@@ -176,3 +178,5 @@ std::size_t ObjectRegistry::liveBlocks() const {
     std::lock_guard<std::mutex> lock(_mutex);
     return _blocks.size();
 }
+
+} // namespace Cimom

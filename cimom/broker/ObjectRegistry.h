@@ -10,6 +10,8 @@
 
 #include "EncapsulatedObject.h"
 
+namespace Cimom {
+
 // Owns every CMPI object and every cmpiMalloc block the broker gives out, so
 // that nothing leaks whatever a provider forgets to release.
 //
@@ -90,3 +92,5 @@ private:
     std::unordered_map<void*, Arena*> _blocks;
     std::unordered_map<Arena*, std::unique_ptr<Arena>> _arenas;
 };
+
+} // namespace Cimom

@@ -15,6 +15,8 @@
 #include "MemoryIndicationSink.h"
 #include "RegistrationFile.h"
 
+namespace Cimom {
+
 namespace {
 
 // Calls nested on one thread (a provider's up-call during its own request)
@@ -554,3 +556,5 @@ void ProviderManager::shutdown() {
         _broker->log(CMPI_SEV_INFO, "provider " + name + " unloaded");
     }
 }
+
+} // namespace Cimom

@@ -30,6 +30,8 @@
 #include "IndicationSink.h"
 #include "ProviderRegistration.h"
 
+namespace Cimom {
+
 class LoadedProvider;
 class BrokerResult;
 
@@ -136,3 +138,5 @@ private:
     std::atomic<bool> _shuttingDown{false};
     std::vector<std::unique_ptr<LoadedProvider>> _providers;
 };
+
+} // namespace Cimom

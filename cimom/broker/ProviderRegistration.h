@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // One provider of a registration file: which library serves which classes,
 // in which namespaces, through which CMPI interfaces.
 struct ProviderRegistration {
@@ -17,3 +19,5 @@ struct ProviderRegistration {
 
     bool has(Kind kind) const { return std::find(kinds.begin(), kinds.end(), kind) != kinds.end(); }
 };
+
+} // namespace Cimom

@@ -10,6 +10,8 @@
 #include "CimError.h"
 #include "CimName.h"
 
+namespace Cimom {
+
 namespace {
 
 [[noreturn]] void fail(std::string const& where, std::string const& why) {
@@ -138,3 +140,5 @@ RegistrationFile::Contents RegistrationFile::parse(std::string const& yamlText,
     }
     return contents;
 }
+
+} // namespace Cimom

@@ -5,6 +5,8 @@
 
 #include "ProviderRegistration.h"
 
+namespace Cimom {
+
 // Reads a provider registration file (YAML):
 //
 //   libraryPath: [../lib, /usr/lib/veldra]   # optional; relative to this file
@@ -31,3 +33,5 @@ public:
                           std::string const& baseDir);
     static char const* kindName(ProviderRegistration::Kind kind);
 };
+
+} // namespace Cimom

@@ -10,6 +10,8 @@
 #include "CimObjectPath.h"
 #include "ObjectRegistry.h"
 
+namespace Cimom {
+
 namespace {
 template <class Obj, class C> Obj& ours(C const* handle, char const* what) {
     Obj* obj = Obj::from(handle);
@@ -175,3 +177,5 @@ CMPIData ValueConverter::notFound() {
     d.value.uint64 = 0;
     return d;
 }
+
+} // namespace Cimom

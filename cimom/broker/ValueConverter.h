@@ -3,6 +3,8 @@
 #include "CimValue.h"
 #include "cmpift.h"
 
+namespace Cimom {
+
 class ObjectRegistry;
 
 // Moves values across the CMPI boundary. Into the broker, everything is
@@ -21,3 +23,5 @@ public:
     // A CMPIData for "no such entry": CMPI_notFound, null type.
     static CMPIData notFound();
 };
+
+} // namespace Cimom

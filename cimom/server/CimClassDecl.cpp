@@ -2,6 +2,8 @@
 
 #include <strings.h>
 
+namespace Cimom {
+
 namespace {
 // Every property of every instance written is looked up here; names of
 // another length are told apart without reading them.
@@ -31,3 +33,5 @@ bool CimClassDecl::hasQualifier(std::string const& qualifierName) const {
             return q.value.items.empty() || q.value.items[0].text != "false";
     return false;
 }
+
+} // namespace Cimom

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // A class as declared in MOF: what GetClass returns and what method calls use
 // to type untyped arguments. Plain data; ClassRepository owns and indexes it.
 struct CimClassDecl {
@@ -69,3 +71,5 @@ struct CimClassDecl {
     Method const* findMethod(std::string const& methodName) const;
     bool hasQualifier(std::string const& qualifierName) const;
 };
+
+} // namespace Cimom

@@ -8,6 +8,8 @@
 #include <malloc.h>
 #include <strings.h>
 
+namespace Cimom {
+
 namespace asio = boost::asio;
 namespace beast = boost::beast;
 namespace http = beast::http;
@@ -372,3 +374,5 @@ template <class Stream> void CimHttpConnection<Stream>::_linger(std::size_t drai
 
 template class CimHttpConnection<beast::tcp_stream>;
 template class CimHttpConnection<beast::ssl_stream<beast::tcp_stream>>;
+
+} // namespace Cimom

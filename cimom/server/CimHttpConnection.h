@@ -22,6 +22,8 @@
 #include <string>
 #include <thread>
 
+namespace Cimom {
+
 // What every connection of one server shares.
 struct CimHttpServer::Shared {
     Shared(Settings const& settings, Handler handler);
@@ -99,3 +101,5 @@ private:
 
 using CimPlainConnection = CimHttpConnection<boost::beast::tcp_stream>;
 using CimTlsConnection = CimHttpConnection<boost::beast::ssl_stream<boost::beast::tcp_stream>>;
+
+} // namespace Cimom

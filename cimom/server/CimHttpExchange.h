@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 
+namespace Cimom {
+
 // What the CIM-XML layer needs from one HTTP request, and what it answers.
 // Keeps the operation handler free of the HTTP library.
 struct CimHttpExchange {
@@ -18,3 +20,5 @@ struct CimHttpExchange {
     std::string cimError; // CIMError header when set
     std::string responseBody;
 };
+
+} // namespace Cimom

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+namespace Cimom {
+
 namespace asio = boost::asio;
 namespace beast = boost::beast;
 using tcp = asio::ip::tcp;
@@ -176,3 +178,5 @@ std::vector<std::string> CimHttpServer::stuckRequests() const {
         out.push_back(description);
     return out;
 }
+
+} // namespace Cimom

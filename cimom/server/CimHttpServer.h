@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 class PasswordFile;
 
 // HTTP(S) front of veldra-cimd: one POST route, authentication, size,
@@ -64,3 +66,5 @@ private:
     Settings _settings;
     std::unique_ptr<Shared> _shared;
 };
+
+} // namespace Cimom

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace Cimom {
+
 // A failed operation: answered inside a 200 response as an ERROR element
 // with a CIM status code, which is what clients branch on.
 class CimOperationError : public std::runtime_error {
@@ -31,3 +33,5 @@ public:
 private:
     int _code;
 };
+
+} // namespace Cimom

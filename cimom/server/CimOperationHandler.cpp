@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <strings.h>
 
+namespace Cimom {
+
 namespace {
 
 bool sameName(std::string const& a, char const* b) {
@@ -270,3 +272,5 @@ void CimOperationHandler::_getClass(CimRequest const& request, CimXmlWriter& out
     ClassXml::writeClass(out, *cls, options);
     out.close();
 }
+
+} // namespace Cimom

@@ -10,6 +10,8 @@
 #include <set>
 #include <string>
 
+namespace Cimom {
+
 class ClassRepository;
 
 // Turns one CIM-XML request into one CIM-XML response: header checks,
@@ -54,3 +56,5 @@ private:
     std::map<std::string, Operation> _operations; // by lower-case name
     Operation _methodCall;
 };
+
+} // namespace Cimom

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace Cimom {
+
 // A request the server refuses before any operation runs: answered with an
 // HTTP status and a CIMError header instead of a CIM-XML ERROR element.
 class CimProtocolError : public std::runtime_error {
@@ -17,3 +19,5 @@ private:
     int _httpStatus;
     std::string _cimError;
 };
+
+} // namespace Cimom

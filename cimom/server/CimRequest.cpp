@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <strings.h>
 
+namespace Cimom {
+
 namespace {
 
 [[noreturn]] void notValid(std::string const& what) {
@@ -178,3 +180,5 @@ CimRequest CimRequest::parse(std::string const& body, int maxDepth) {
     }
     return request;
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // One parsed CIM-XML SIMPLEREQ. It owns the document; the parameter nodes
 // point into it and live as long as the request.
 class CimRequest {
@@ -51,3 +53,5 @@ private:
     std::vector<Param> _params;
     std::string _client;
 };
+
+} // namespace Cimom

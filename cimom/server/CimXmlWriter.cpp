@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <utility>
 
+namespace Cimom {
+
 CimXmlWriter::Attributes::Attributes(std::initializer_list<Attribute> items) : _size(0) {
     for (Attribute const& a : items)
         add(a.name, a.value);
@@ -186,3 +188,5 @@ std::string CimXmlWriter::take() {
     _open.clear();
     return out;
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace Cimom {
+
 // Builds CIM-XML text the way wbemcli reads it: every element gets an end tag
 // except NAMESPACE, CLASSNAME and ERROR when empty, and only the five named
 // entities are used for escaping.
@@ -100,3 +102,5 @@ private:
     std::vector<Span>* _spans = nullptr;
     std::size_t _spanDepth = 0;
 };
+
+} // namespace Cimom

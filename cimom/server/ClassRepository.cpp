@@ -8,6 +8,8 @@
 #include <set>
 #include <strings.h>
 
+namespace Cimom {
+
 namespace {
 
 constexpr size_t maxInheritanceDepth = 32;
@@ -213,3 +215,5 @@ std::vector<std::string> ClassRepository::selfAndDescendants(std::string const& 
         names.push_back(sub->name);
     return names;
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // Classes by namespace, read from MOF files at start-up and then read-only,
 // so request threads share it without locking.
 class ClassRepository {
@@ -56,3 +58,5 @@ private:
     std::map<std::string, Space> _spaces; // by lower-case namespace
     std::map<std::string, bool> _loadedFiles;
 };
+
+} // namespace Cimom

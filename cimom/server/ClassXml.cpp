@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace Cimom {
+
 namespace {
 
 std::string lower(std::string s) {
@@ -132,3 +134,5 @@ void ClassXml::writeClass(CimXmlWriter& out, CimClassDecl const& cls, Options co
     }
     out.close();
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include <set>
 #include <string>
 
+namespace Cimom {
+
 // Writes CLASS elements for GetClass and EnumerateClasses.
 class ClassXml {
 public:
@@ -29,3 +31,5 @@ private:
     static void _writeMethod(CimXmlWriter& out, CimClassDecl::Method const& m,
                              Options const& options);
 };
+
+} // namespace Cimom

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <random>
 
+namespace Cimom {
+
 namespace {
 
 // Enough to tell a client that its context ran out rather than never existed.
@@ -147,3 +149,5 @@ std::size_t EnumerationContexts::openCount() const {
     std::lock_guard lock(_mutex);
     return _contexts.size();
 }
+
+} // namespace Cimom

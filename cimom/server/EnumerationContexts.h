@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // The open pulled enumerations. Each holds the rest of its answer as written
 // CIM-XML, one span per object, and belongs to the client and namespace that
 // opened it: any other client sees it as unknown. A context not used within
@@ -82,3 +84,5 @@ private:
     std::uint64_t _serial = 0;
     std::uint64_t _salt;
 };
+
+} // namespace Cimom

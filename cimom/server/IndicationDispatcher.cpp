@@ -4,6 +4,8 @@
 
 #include <set>
 
+namespace Cimom {
+
 IndicationDispatcher::IndicationDispatcher(SubscriptionStore const& store, ClassIsA classIsA,
                                            ListenerQueue::Settings settings,
                                            ListenerQueue::Sender sender)
@@ -42,3 +44,5 @@ std::size_t IndicationDispatcher::pending() const {
         total += queue->pending();
     return total;
 }
+
+} // namespace Cimom

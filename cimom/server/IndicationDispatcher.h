@@ -10,6 +10,8 @@
 #include <mutex>
 #include <string>
 
+namespace Cimom {
+
 // Where providers' indications go in veldra-cimd: each one is matched
 // against the subscriptions (source namespace, class or subclass of the
 // filter's class, WHERE clause) and queued for every matching destination.
@@ -36,3 +38,5 @@ private:
     mutable std::mutex _mutex;
     std::map<std::string, std::unique_ptr<ListenerQueue>> _queues; // by URL
 };
+
+} // namespace Cimom

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <unordered_set>
 
+namespace Cimom {
+
 namespace {
 
 [[noreturn]] void fail(int code, std::string const& what) {
@@ -483,3 +485,5 @@ void InstanceOperations::invokeMethod(CimRequest const& request, CimXmlWriter& o
         out.close();
     }
 }
+
+} // namespace Cimom

@@ -10,6 +10,8 @@
 #include <unordered_set>
 #include <vector>
 
+namespace Cimom {
+
 class ClassRepository;
 class CimOperationHandler;
 class ProviderManager;
@@ -75,3 +77,5 @@ private:
     SubscriptionOperations* _subscriptions = nullptr;
     std::string _host = "localhost";
 };
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 
 #include <cstring>
 
+namespace Cimom {
+
 namespace {
 
 constexpr size_t maxKeys = 64;
@@ -310,3 +312,5 @@ CimValue InstanceXml::readParamValue(pugi::xml_node paramValue, CMPIType type,
     }
     return CimValue::null(type == CMPI_null ? CMPI_string : type);
 }
+
+} // namespace Cimom

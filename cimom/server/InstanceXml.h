@@ -12,6 +12,8 @@
 #include <set>
 #include <string>
 
+namespace Cimom {
+
 class ClassRepository;
 
 // CIM-XML of instances, paths and values, both ways, in the shapes wbemcli
@@ -45,3 +47,5 @@ public:
     static CimValue readParamValue(pugi::xml_node paramValue, CMPIType type,
                                    std::string const& nameSpace, ClassRepository const* classes);
 };
+
+} // namespace Cimom

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <regex>
 
+namespace Cimom {
+
 ListenerQueue::ListenerQueue(std::string url, Settings settings, Sender sender)
     : _url(std::move(url)), _settings(settings), _sender(std::move(sender)) {
     if (!_sender) {
@@ -127,3 +129,5 @@ std::string ListenerQueue::post(std::string const& url, std::string const& body,
         return "the listener answered with an error";
     return "";
 }
+
+} // namespace Cimom

@@ -11,6 +11,8 @@
 #include <string>
 #include <thread>
 
+namespace Cimom {
+
 // The indications on their way to one listener, sent one after another by a
 // thread of the queue's own as CIM-XML ExportIndication requests, so that
 // a slow or absent listener never holds up the provider that delivers. A
@@ -57,3 +59,5 @@ private:
     unsigned long _nextMessage = 1;
     std::thread _thread;
 };
+
+} // namespace Cimom

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 
+namespace Cimom {
+
 // A MOF problem, always tied to the file and line so start-up errors can name both.
 class MofError : public std::runtime_error {
 public:
@@ -17,3 +19,5 @@ private:
     std::string _file;
     int _line;
 };
+
+} // namespace Cimom

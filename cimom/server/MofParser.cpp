@@ -8,6 +8,8 @@
 #include <sstream>
 #include <strings.h>
 
+namespace Cimom {
+
 namespace {
 
 constexpr int maxIncludeDepth = 16;
@@ -471,3 +473,5 @@ CimClassDecl::Parameter MofParser::_parseParameter() {
         _parseValue();
     return p;
 }
+
+} // namespace Cimom

@@ -9,6 +9,8 @@
 #include <set>
 #include <string>
 
+namespace Cimom {
+
 // Recursive-descent reader for the MOF subset our class files use: class
 // declarations with qualifiers, properties, references, methods and
 // parameters, qualifier declarations, #pragma namespace and #pragma include.
@@ -53,3 +55,5 @@ private:
     std::map<std::string, std::string> _qualifierTypes; // lower-case name -> type
     std::set<std::string> _openFiles;                   // include cycle guard
 };
+
+} // namespace Cimom

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace Cimom {
+
 // One lexical unit of a MOF file; line is 1-based for error messages.
 struct MofToken {
     enum class Kind { Identifier, String, Integer, Real, Char, Punct, Pragma, End };
@@ -11,3 +13,5 @@ struct MofToken {
 
     bool isPunct(char c) const { return kind == Kind::Punct && text.size() == 1 && text[0] == c; }
 };
+
+} // namespace Cimom

@@ -4,6 +4,8 @@
 
 #include <cctype>
 
+namespace Cimom {
+
 MofTokenizer::MofTokenizer(std::string text, std::string fileName)
     : _text(std::move(text)), _fileName(std::move(fileName)) {}
 
@@ -167,3 +169,5 @@ MofToken MofTokenizer::next() {
     }
     _fail(std::string("unexpected character '") + c + "'");
 }
+
+} // namespace Cimom

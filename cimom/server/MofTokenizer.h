@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace Cimom {
+
 // Splits MOF text into tokens. String literals come back unescaped; adjacent
 // string literals are left for the parser to join.
 class MofTokenizer {
@@ -26,3 +28,5 @@ private:
     size_t _pos = 0;
     int _line = 1;
 };
+
+} // namespace Cimom

@@ -14,6 +14,8 @@
 #include <stdexcept>
 #include <vector>
 
+namespace Cimom {
+
 bool PasswordFile::validUserName(std::string const& user) {
     if (user.empty() || user.size() > 64)
         return false;
@@ -109,3 +111,5 @@ void PasswordFile::setUser(std::string const& path, std::string const& user,
         throw std::runtime_error("cannot replace " + path);
     }
 }
+
+} // namespace Cimom

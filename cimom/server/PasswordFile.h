@@ -3,6 +3,8 @@
 #include <map>
 #include <string>
 
+namespace Cimom {
+
 // The users file: one "name:hash" line per user, the hash a crypt(3) string
 // with its own salt (yescrypt by default). Comments start with '#'.
 class PasswordFile {
@@ -26,3 +28,5 @@ public:
 private:
     std::map<std::string, std::string> _users;
 };
+
+} // namespace Cimom

@@ -11,6 +11,8 @@
 #include <charconv>
 #include <optional>
 
+namespace Cimom {
+
 namespace {
 
 constexpr std::size_t largeResult = 1 << 20;
@@ -194,3 +196,5 @@ void PullOperations::_writeBatch(CimXmlWriter& out, EnumerationContexts::Batch c
         out.element("VALUE", batch.context);
     out.close();
 }
+
+} // namespace Cimom

@@ -5,6 +5,8 @@
 #include <chrono>
 #include <cstdint>
 
+namespace Cimom {
+
 class CimOperationHandler;
 class CimRequest;
 class CimXmlWriter;
@@ -46,3 +48,5 @@ private:
     Settings _settings;
     EnumerationContexts _contexts;
 };
+
+} // namespace Cimom

@@ -6,6 +6,8 @@
 #include <ctime>
 #include <mutex>
 
+namespace Cimom {
+
 namespace {
 std::atomic<int> currentLevel{static_cast<int>(ServerLog::Level::Info)};
 std::mutex writeMutex;
@@ -92,3 +94,5 @@ void ServerLog::info(std::string const& line) {
 void ServerLog::debug(std::string const& line) {
     _write(Level::Debug, line);
 }
+
+} // namespace Cimom

@@ -2,6 +2,8 @@
 
 #include <string>
 
+namespace Cimom {
+
 // The object manager's own log lines on stderr. Providers log through their
 // framework; this is only for the host (start-up, refused requests, shutdown).
 class ServerLog {
@@ -22,3 +24,5 @@ public:
 private:
     static void _write(Level level, std::string const& line);
 };
+
+} // namespace Cimom

@@ -12,6 +12,8 @@
 #include <chrono>
 #include <stdexcept>
 
+namespace Cimom {
+
 namespace {
 
 [[noreturn]] void fail(int code, std::string const& what) {
@@ -315,3 +317,5 @@ void SubscriptionOperations::activate() {
         call("disableIndications", [&] { _providers.disableIndications(); });
     _enabled = !active.empty();
 }
+
+} // namespace Cimom

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace Cimom {
+
 class ClassRepository;
 class ProviderManager;
 
@@ -54,3 +56,5 @@ private:
     std::set<std::pair<std::string, std::string>> _activated; // (namespace, class)
     bool _enabled = false;
 };
+
+} // namespace Cimom

@@ -17,6 +17,8 @@
 #include <sstream>
 #include <stdexcept>
 
+namespace Cimom {
+
 using nlohmann::json;
 
 namespace {
@@ -228,3 +230,5 @@ std::vector<SubscriptionStore::Active> SubscriptionStore::active() const {
     }
     return out;
 }
+
+} // namespace Cimom

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace Cimom {
+
 // The indication filters, listener destinations and subscriptions that
 // clients created, kept in a state file so that they outlive a restart.
 // Every change is written (temporary file and rename) before it counts: a
@@ -66,3 +68,5 @@ private:
     std::vector<Destination> _destinations;
     std::vector<Subscription> _subscriptions;
 };
+
+} // namespace Cimom

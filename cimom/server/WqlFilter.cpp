@@ -5,6 +5,8 @@
 #include <regex>
 #include <stdexcept>
 
+namespace Cimom {
+
 WqlFilter WqlFilter::parse(std::string const& query) {
     // Small enough to match whole; a grammar library would be more code than the language.
     static std::regex const form(
@@ -56,3 +58,5 @@ bool WqlFilter::matches(CimInstance const& indication) const {
     }
     return same == _where->equal;
 }
+
+} // namespace Cimom

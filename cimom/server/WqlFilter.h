@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+namespace Cimom {
+
 // The query of an indication filter: "SELECT * FROM <class>", optionally
 // "WHERE <property> = <value>" (or <>), the value a quoted text, a number,
 // TRUE or FALSE. That is the part of WQL that subscribers of alerts use;
@@ -28,3 +30,5 @@ private:
     std::string _className;
     std::optional<Condition> _where;
 };
+
+} // namespace Cimom

@@ -27,6 +27,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Cimom;
+
 namespace {
 
 std::filesystem::path executableDir() {

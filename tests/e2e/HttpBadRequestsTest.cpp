@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <fstream>
 
+using namespace Cimom;
+
 // Bad requests straight over a socket: each must get a proper HTTP or CIM
 // error, and the server must go on answering good requests afterwards.
 namespace {

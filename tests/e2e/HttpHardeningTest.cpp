@@ -19,6 +19,8 @@
 #include <fstream>
 #include <thread>
 
+using namespace Cimom;
+
 // What an attacker or a careless client can do to the HTTP front: hold
 // connections, trickle bytes, pipeline, send text that is not text.
 namespace {

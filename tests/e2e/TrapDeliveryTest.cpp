@@ -22,6 +22,8 @@
 #include <functional>
 #include <memory>
 
+using namespace Cimom;
+
 namespace {
 
 std::string const mib = "QLN-VELDRA-MIB::";

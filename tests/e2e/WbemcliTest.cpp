@@ -13,6 +13,8 @@
 #include <fstream>
 #include <sstream>
 
+using namespace Cimom;
+
 // The real client against veldra-cimd hosting the C test provider through
 // CMPI: every operation wbemcli offers, the errors it must see, typed method
 // arguments, authentication and the provider's unloading at shutdown.

@@ -20,6 +20,8 @@
 #include <cstdlib>
 #include <string>
 
+using namespace Cimom;
+
 namespace {
 
 struct Server {

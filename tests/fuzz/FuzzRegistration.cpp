@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+using namespace Cimom;
+
 extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {
     std::string text(reinterpret_cast<char const*>(data), size);
     try {

@@ -9,6 +9,8 @@
 #include <iostream>
 #include <string>
 
+using namespace Cimom;
+
 namespace {
 
 std::string readPassword(std::string const& prompt) {

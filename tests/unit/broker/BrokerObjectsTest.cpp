@@ -10,6 +10,8 @@
 #include "CimDateTime.h"
 #include "CimError.h"
 
+using namespace Cimom;
+
 namespace {
 
 class BrokerObjectsTest : public ::testing::Test {

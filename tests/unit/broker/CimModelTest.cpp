@@ -9,6 +9,8 @@
 #include "CimObjectPath.h"
 #include "CimValue.h"
 
+using namespace Cimom;
+
 namespace {
 CMPIrc codeOf(std::function<void()> const& f) {
     try {

@@ -14,6 +14,8 @@
 #include "ProviderManager.h"
 #include "RegistrationFile.h"
 
+using namespace Cimom;
+
 namespace {
 
 std::string const registrationFile =

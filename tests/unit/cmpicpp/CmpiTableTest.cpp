@@ -17,6 +17,8 @@
 #include <memory>
 #include <stdexcept>
 
+using namespace Cimom;
+
 using namespace CmpiCpp;
 
 namespace {

@@ -16,6 +16,8 @@
 #include <set>
 #include <string>
 
+using namespace Cimom;
+
 using namespace provider_test;
 using CmpiCpp::CmpiBroker;
 using CmpiCpp::CmpiContext;

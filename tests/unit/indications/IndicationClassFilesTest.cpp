@@ -14,6 +14,8 @@
 #include <map>
 #include <regex>
 
+using namespace Cimom;
+
 namespace {
 
 std::string readText(std::string const& path) {

@@ -6,6 +6,8 @@
 
 #include "CimError.h"
 
+using namespace Cimom;
+
 namespace {
 
 void sendControllerEvent(Logger& logger, CMPIContext const* context, int event,

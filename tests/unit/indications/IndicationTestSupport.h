@@ -21,6 +21,8 @@
 #include <string>
 #include <vector>
 
+using namespace Cimom;
+
 class IndicationTest : public ::testing::Test {
 public:
     IndicationTest() : scope(broker.registry()), context(broker.newContext("root/mwq", 0)->cmpi()) {

@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+using namespace Cimom;
+
 using namespace provider_test;
 
 namespace {

@@ -16,6 +16,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+using namespace Cimom;
+
 using namespace provider_test;
 using CmpiCpp::CmpiBroker;
 using CmpiCpp::CmpiContext;

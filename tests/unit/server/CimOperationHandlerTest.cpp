@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <pugixml.hpp>
 
+using namespace Cimom;
+
 // Table-driven protocol checks: each row pairs a request with the exact
 // status, CIMError header and body the client must see. The instance side is
 // absent here; those operations are covered end to end against a provider.

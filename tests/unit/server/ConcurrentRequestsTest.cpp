@@ -7,6 +7,8 @@
 #include <atomic>
 #include <thread>
 
+using namespace Cimom;
+
 // Request threads share the repository and the handler's table without
 // locks; that holds only while both stay read-only after start-up. Run under
 // the thread sanitizer, this catches any later lazy caching or shared state.

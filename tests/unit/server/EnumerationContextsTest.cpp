@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Cimom;
+
 // The context table on a clock the test moves: batches, ownership, the
 // per-client limit and expiry.
 namespace {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Cimom;
+
 namespace {
 
 char const* mof = R"MOF(

@@ -7,6 +7,8 @@
 #include <fstream>
 #include <unistd.h>
 
+using namespace Cimom;
+
 namespace {
 
 char const* diskMof = R"MOF(

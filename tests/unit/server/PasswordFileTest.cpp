@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <fstream>
 
+using namespace Cimom;
+
 namespace {
 
 struct TempFile {

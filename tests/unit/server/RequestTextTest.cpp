@@ -8,6 +8,8 @@
 
 #include <string>
 
+using namespace Cimom;
+
 namespace {
 
 std::string const fffd = "\xEF\xBF\xBD";

@@ -15,6 +15,8 @@
 #include <thread>
 #include <unistd.h>
 
+using namespace Cimom;
+
 namespace {
 
 using namespace std::chrono_literals;

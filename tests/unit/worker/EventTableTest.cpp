@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Cimom;
+
 using namespace worker_test;
 
 namespace {
