@@ -1,6 +1,6 @@
 // The enclosures of one controller: enclosure, processor, firmware, drive
 // cage and their locations, wired to the controller's package and system.
-#include "QLNVeldraProvider.h"
+#include "GraphBuilder.h"
 
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDArraySystemStorageEnclosureProcessor.h"
@@ -20,10 +20,12 @@
 
 namespace QLN {
 
-void QLNVeldraProvider::_createAllEnclosureInstances(
-    int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
-    QLN_VDPhysicalPackage* physicalPackage, std::vector<VeldraEnclosure> const& enclosures,
-    std::vector<CageEntry>& cages, std::vector<CmpiManagedInstance*>& newInstances) {
+void GraphBuilder::addEnclosures(int number, VeldraController* controller,
+                                 QLN_VDArraySystem* arraySystem,
+                                 QLN_VDPhysicalPackage* physicalPackage,
+                                 std::vector<VeldraEnclosure> const& enclosures,
+                                 std::vector<CageEntry>& cages,
+                                 std::vector<CmpiManagedInstance*>& newInstances) {
     std::string const ns = "root/mwq";
     unsigned int const index = static_cast<unsigned int>(number);
     auto add = [&newInstances](auto* instance) {

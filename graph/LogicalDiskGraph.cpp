@@ -1,6 +1,6 @@
 // The logical disks of one controller: volume and setting, their pool, and
 // the ties to the extents of their member disks and spares.
-#include "QLNVeldraProvider.h"
+#include "GraphBuilder.h"
 
 #include "IdentityHelpers.h"
 #include "QLN_VDArraySystem.h"
@@ -30,12 +30,14 @@ bool matches(VeldraPhysicalDisk const& disk, ExtentEntry const& entry) {
 }
 } // namespace
 
-void QLNVeldraProvider::_createAllLogicalDiskInstances(
-    int number, VeldraController* controller, std::vector<VeldraLogicalDisk> const& logicals,
-    QLN_VDArraySystem* arraySystem, QLN_VDSCSIProtocolController* protocolController,
-    std::vector<PoolEntry> const& pools, std::vector<ExtentEntry> const& sparePaths,
-    std::vector<ExtentEntry> const& nonSparePaths,
-    std::vector<CmpiManagedInstance*>& newInstances) {
+void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
+                                   std::vector<VeldraLogicalDisk> const& logicals,
+                                   QLN_VDArraySystem* arraySystem,
+                                   QLN_VDSCSIProtocolController* protocolController,
+                                   std::vector<PoolEntry> const& pools,
+                                   std::vector<ExtentEntry> const& sparePaths,
+                                   std::vector<ExtentEntry> const& nonSparePaths,
+                                   std::vector<CmpiManagedInstance*>& newInstances) {
     std::string const ns = "root/mwq";
     unsigned int const index = static_cast<unsigned int>(number);
     auto add = [&newInstances](auto* instance) {

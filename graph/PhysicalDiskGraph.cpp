@@ -1,6 +1,6 @@
 // The physical disks of one controller: drive, extent, SAS paths, firmware,
 // package, location and statistics, and the extent lists the volumes use.
-#include "QLNVeldraProvider.h"
+#include "GraphBuilder.h"
 
 #include "QLN_VDArraySystem.h"
 #include "QLN_VDArraySystemDiskDrive.h"
@@ -42,7 +42,7 @@ namespace {
 u32 const carrierAuthenticated = 2;
 } // namespace
 
-void QLNVeldraProvider::_createAllPhysicalDiskInstances(
+void GraphBuilder::addPhysicalDisks(
     int number, VeldraController* controller, std::vector<VeldraPhysicalDisk> const& physicals,
     QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
     std::vector<VeldraCFUArray> const&, std::vector<CageEntry> const& cages,

@@ -1,16 +1,13 @@
 // The host-side view in root/cimv2: made once per controller with the rest of
 // the graph, and its volumes and extents rebuilt when a controller reports a
 // possibly significant change of its disks.
-#include "QLNVeldraProvider.h"
+#include "GraphBuilder.h"
 
 #include "DRSV_VDBattery.h"
 #include "DRSV_VDController.h"
 #include "DRSV_VDControllerFirmware.h"
 #include "DRSV_VDStorageExtent.h"
 #include "DRSV_VDStorageVolume.h"
-
-#include "ProviderLock.h"
-#include "WorkerPass.h"
 
 #include <algorithm>
 
@@ -20,57 +17,34 @@ char const* const viewNameSpace = "root/cimv2";
 
 namespace QLN {
 
-void QLNVeldraProvider::_createViewClassInstances(int number, VeldraController* controller) {
+void GraphBuilder::addViews(int number, VeldraController* controller) {
     _logger.info("_createViewClassInstances");
     if (controller == nullptr) {
         return;
     }
     auto const index = static_cast<unsigned int>(number);
     VeldraControllerData const data = controller->getVDData();
-    _managedInstances.createInstance(
-        new DRSV_VDController(_logger, viewNameSpace, index, controller));
-    _managedInstances.createInstance(
+    _collection.createInstance(new DRSV_VDController(_logger, viewNameSpace, index, controller));
+    _collection.createInstance(
         new DRSV_VDControllerFirmware(_logger, viewNameSpace, index, controller));
     cacheHasBatteryEnum hasBattery = CACHE_BATTERY_ABSENT;
     if (data.getCacheHasBattery(hasBattery) == 0 && hasBattery == CACHE_BATTERY_PRESENT) {
-        _managedInstances.createInstance(
-            new DRSV_VDBattery(_logger, viewNameSpace, index, controller));
+        _collection.createInstance(new DRSV_VDBattery(_logger, viewNameSpace, index, controller));
     }
     std::vector<VeldraLogicalDisk> logicals;
     controller->getLastLogicalDisks(logicals);
     for (std::size_t i = 0; i < logicals.size(); ++i) {
-        _managedInstances.createInstance(new DRSV_VDStorageVolume(
+        _collection.createInstance(new DRSV_VDStorageVolume(
             _logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
     }
     std::vector<VeldraPhysicalDisk> const physicals = controller->getAllPhysicalDisks();
     for (std::size_t i = 0; i < physicals.size(); ++i) {
-        _managedInstances.createInstance(new DRSV_VDStorageExtent(
+        _collection.createInstance(new DRSV_VDStorageExtent(
             _logger, viewNameSpace, index, static_cast<unsigned int>(i), controller));
     }
 }
 
-// The whole rebuild holds the provider's mutex, which every CMPI read takes
-// too. Hiding the old volumes and extents, adding the new ones and deleting
-// the hidden ones are three steps; a client between them would see a
-// controller with no extents, or twice as many. Under the mutex a read sees
-// the view before or after, never between, and cleanup() cannot free an
-// instance a read is still building an answer from. The caller has released
-// the mutex before (a pass never holds it here), so nothing nests. The cost
-// is that reads wait for the fresh disk reads of a rebuild, which happens
-// only when a controller's disks changed.
-void QLNVeldraProvider::_updateViewClassInstances() {
-    _logger.info("::_updateViewClassInstances");
-    ProviderLock lock(_providerMutex);
-
-    std::vector<DRSV_VDController*> rescan;
-    for (DRSV_VDController* controller : _rosterOf().viewControllers) {
-        if (controller->needsRescan()) {
-            rescan.push_back(controller);
-        }
-    }
-    if (rescan.empty()) {
-        return;
-    }
+void GraphBuilder::rebuildViews(std::vector<DRSV_VDController*> const& rescan) {
     auto rescanned = [&rescan](ViewInstance const* instance) {
         return std::any_of(
             rescan.begin(), rescan.end(), [instance](DRSV_VDController const* controller) {
@@ -81,8 +55,8 @@ void QLNVeldraProvider::_updateViewClassInstances() {
     // Extents first, then volumes. A new instance whose DeviceID an old one
     // still holds takes the old one's place in the collection; the rest of
     // the old ones go with cleanup().
-    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-        auto* extent = dynamic_cast<DRSV_VDStorageExtent*>(_managedInstances.getManagedInstance(i));
+    for (unsigned int i = 0; i < _collection.size(); ++i) {
+        auto* extent = dynamic_cast<DRSV_VDStorageExtent*>(_collection.getManagedInstance(i));
         if (extent != nullptr && extent->visible() && rescanned(extent)) {
             extent->setVisible(false);
         }
@@ -91,27 +65,27 @@ void QLNVeldraProvider::_updateViewClassInstances() {
         std::vector<VeldraPhysicalDisk> const physicals =
             controller->getController()->getAllPhysicalDisks();
         for (std::size_t i = 0; i < physicals.size(); ++i) {
-            _managedInstances.createInstance(new DRSV_VDStorageExtent(
+            _collection.createInstance(new DRSV_VDStorageExtent(
                 _logger, viewNameSpace, controller->getControllerIndex(),
                 static_cast<unsigned int>(i), controller->getController()));
         }
     }
 
-    for (unsigned int i = 0; i < _managedInstances.size(); ++i) {
-        auto* volume = dynamic_cast<DRSV_VDStorageVolume*>(_managedInstances.getManagedInstance(i));
+    for (unsigned int i = 0; i < _collection.size(); ++i) {
+        auto* volume = dynamic_cast<DRSV_VDStorageVolume*>(_collection.getManagedInstance(i));
         if (volume != nullptr && volume->visible() && rescanned(volume)) {
             volume->setVisible(false);
         }
     }
     for (DRSV_VDController const* controller : rescan) {
         for (auto const& logical : controller->getController()->getAllLogicalDisks()) {
-            _managedInstances.createInstance(new DRSV_VDStorageVolume(
+            _collection.createInstance(new DRSV_VDStorageVolume(
                 _logger, viewNameSpace, controller->getControllerIndex(),
                 logical.getLogicalVolumeNumber(), controller->getController()));
         }
     }
 
-    _managedInstances.cleanup();
+    _collection.cleanup();
 }
 
 } // namespace QLN

@@ -60,6 +60,43 @@ QLNVeldraProvider::QLNVeldraProvider(CmpiCpp::CmpiBroker const& broker, Logger& 
     _cmpiManagedInstanceFactory();
 }
 
+void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
+    _graph.buildAll(_internalVDControllerMRA, _controllers);
+}
+
+void QLNVeldraProvider::_createAllEnclosureInstances(
+    int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
+    QLN_VDPhysicalPackage* physicalPackage, std::vector<VeldraEnclosure> const& enclosures,
+    std::vector<CageEntry>& cages, std::vector<CmpiManagedInstance*>& newInstances) {
+    _graph.addEnclosures(number, controller, arraySystem, physicalPackage, enclosures, cages,
+                         newInstances);
+}
+
+void QLNVeldraProvider::_createAllPhysicalDiskInstances(
+    int number, VeldraController* controller, std::vector<VeldraPhysicalDisk> const& physicals,
+    QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
+    std::vector<VeldraCFUArray> const& arrays, std::vector<CageEntry> const& cages,
+    std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
+    std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
+    std::vector<CmpiManagedInstance*>& newInstances) {
+    _graph.addPhysicalDisks(number, controller, physicals, arraySystem, pools, arrays, cages,
+                            initiatorEndpoints, sparePaths, nonSparePaths, newInstances);
+}
+
+void QLNVeldraProvider::_createAllLogicalDiskInstances(
+    int number, VeldraController* controller, std::vector<VeldraLogicalDisk> const& logicals,
+    QLN_VDArraySystem* arraySystem, QLN_VDSCSIProtocolController* protocolController,
+    std::vector<PoolEntry> const& pools, std::vector<ExtentEntry> const& sparePaths,
+    std::vector<ExtentEntry> const& nonSparePaths,
+    std::vector<CmpiManagedInstance*>& newInstances) {
+    _graph.addLogicalDisks(number, controller, logicals, arraySystem, protocolController, pools,
+                           sparePaths, nonSparePaths, newInstances);
+}
+
+void QLNVeldraProvider::_createViewClassInstances(int number, VeldraController* controller) {
+    _graph.addViews(number, controller);
+}
+
 QLNVeldraProvider::~QLNVeldraProvider() {
     _logger.info("dxtor() unloading provider");
     delete _internalVDControllerMRA;

@@ -8,7 +8,7 @@
 #include "CmpiInstanceProvider.h"
 #include "CmpiManagedInstanceCollection.h"
 #include "CmpiMethodProvider.h"
-#include "GraphEntries.h"
+#include "GraphBuilder.h"
 #include "InternalVeldraControllerMRA.h"
 #include "Logger.h"
 #include "VeldraCFUArray.h"
@@ -99,10 +99,10 @@ private:
         std::string third;
     };
 
-    // The first instance graph, built by the constructor (graph/).
+    // The first instance graph, built by the constructor, and the device
+    // graphs of one controller, which the worker asks for new devices: these
+    // keep their names and hand the work to the graph's builder.
     void _cmpiManagedInstanceFactory();
-    // The device graphs of one controller: they append what they make to
-    // newInstances, and the caller hands it to the collection.
     void _createAllEnclosureInstances(int number, VeldraController* controller,
                                       QLN_VDArraySystem* arraySystem,
                                       QLN_VDPhysicalPackage* physicalPackage,
@@ -149,6 +149,7 @@ private:
 
     Logger _logger;
     CmpiManagedInstanceCollection _managedInstances;
+    GraphBuilder _graph{_logger, _managedInstances};
     // What the last walk of the collection found for the worker, valid while
     // the collection's generation stays the one it was made at: a quiet pass
     // on a large graph then walks nothing.
@@ -164,9 +165,6 @@ private:
     bool _heartbeatEnabled;
     InternalVeldraControllerMRA* _internalVDControllerMRA;
     mutable pthread_mutex_t _providerMutex;
-    // The volume objects that only lend their paths to cache-pair
-    // associations; not in the collection, so the provider frees them.
-    std::vector<std::unique_ptr<CmpiManagedInstance>> _cachePairEnds;
 };
 
 } // namespace QLN

@@ -1,7 +1,7 @@
 // The first instance graph: every controller the storage root delivers, with
 // its system, controller, ports, firmware, pools and devices, wired by
 // associations, and the storage group over all array systems.
-#include "QLNVeldraProvider.h"
+#include "GraphBuilder.h"
 
 #include "IdentityHelpers.h"
 #include "QLNUtil.h"
@@ -65,19 +65,14 @@ namespace {
 char const* const graphNameSpace = "root/mwq";
 }
 
-void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
+GraphBuilder::GraphBuilder(Logger& logger, CmpiManagedInstanceCollection& collection)
+    : _logger(logger), _collection(collection) {}
+
+void GraphBuilder::buildAll(InternalVeldraControllerMRA* root,
+                            std::vector<VeldraController*>& controllers) {
     std::string const ns = graphNameSpace;
     _logger.info("_cmpiManagedInstanceFactory");
 
-    // Carried from one controller to the next.
-    std::vector<QLN_VDArraySystem*> arraySystems;
-    std::vector<PoolEntry> pools;
-    std::vector<CageEntry> cages;
-    std::vector<QLN_VDISASSCSIProtocolEndpoint*> initiatorEndpoints;
-    std::vector<ExtentEntry> sparePaths;
-    std::vector<ExtentEntry> nonSparePaths;
-    std::vector<VeldraLogicalDisk> cachedVolumes;
-    std::vector<VeldraLogicalDisk> cacheVolumes;
     VeldraCFUArray array;
     int number = 1;
     CmpiCpp::CmpiObjectPath const computerSystemPath = QLNUtil::getComputerSystemPath();
@@ -85,18 +80,18 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
 
     // Hands an instance to the collection and keeps its exact type for wiring.
     auto add = [this](auto* instance) {
-        _managedInstances.createInstance(instance);
+        _collection.createInstance(instance);
         return instance;
     };
 
-    VeldraController* controller = _internalVDControllerMRA->getFirstData();
+    VeldraController* controller = root->getFirstData();
     if (controller == nullptr) {
         _logger.error("failed to _internalVDControllerMRA::getFirstData()");
     }
     while (controller != nullptr) {
         // The baseline: what the worker's first pass compares against, so
         // that it finds no change.
-        _controllers.push_back(controller);
+        controllers.push_back(controller);
         std::vector<VeldraPhysicalDisk> physicals = controller->getAllPhysicalDisks();
         std::vector<VeldraLogicalDisk> logicals = controller->getAllLogicalDisks();
         _logger.info("all logicals right after getFirst: %d", static_cast<int>(logicals.size()));
@@ -115,10 +110,10 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             std::vector<VeldraPhysicalDisk> members = logicals[i].logicalToAllPhysicals(physicals);
             logicals[i].setLastAllPhysicalDisks(members);
             if (logicals[i].getLogicalVolumeType() == 2) {
-                cachedVolumes.push_back(logicals[i]);
+                _cachedVolumes.push_back(logicals[i]);
             }
             if (logicals[i].getLogicalVolumeType() == 3) {
-                cacheVolumes.push_back(logicals[i]);
+                _cacheVolumes.push_back(logicals[i]);
             }
         }
         controller->setLastLogicalDisks(logicals);
@@ -139,7 +134,7 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
 
         // The system and its neighbours.
         auto* arraySystem = add(new QLN_VDArraySystem(_logger, ns, index, controller));
-        arraySystems.push_back(arraySystem);
+        _arraySystems.push_back(arraySystem);
         add(new QLN_VDComputerSystemArraySystem(_logger, ns, computerSystemPath, arraySystem));
         auto* driver = add(new QLN_VDSoftwareIdentityDriver(_logger, ns, index, data));
         add(new QLN_VDInstalledSoftwareIdentityDriver(_logger, ns, arraySystem, driver));
@@ -216,7 +211,7 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             add(new QLN_VDStoragePoolStorageCapabilities(_logger, ns, pool, capabilities));
             add(new QLN_VDArraySystemStoragePool(_logger, ns, arraySystem, pool));
             add(new QLN_VDPrimordialPoolStoragePool(_logger, ns, primordialPool, pool, controller));
-            pools.push_back(PoolEntry{entry.getArrayID(), pool});
+            _pools.push_back(PoolEntry{entry.getArrayID(), pool});
         }
 
         // The initiator ports; a controller that cannot list them has none.
@@ -227,7 +222,7 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
                 add(new QLN_VDArraySystemISASPort(_logger, ns, arraySystem, sasPort));
                 auto* initiator =
                     add(new QLN_VDISASSCSIProtocolEndpoint(_logger, ns, index, controller, port));
-                initiatorEndpoints.push_back(initiator);
+                _initiatorEndpoints.push_back(initiator);
                 add(new QLN_VDArraySystemISASSCSIProtocolEndpoint(_logger, ns, arraySystem,
                                                                   initiator));
                 add(new QLN_VDISASPortISASSCSIProtocolEndpoint(_logger, ns, sasPort, initiator));
@@ -240,7 +235,7 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         auto handOver = [&](bool keep) {
             _logger.info("managedInstances size %d:", static_cast<int>(newInstances.size()));
             for (CmpiManagedInstance* instance : newInstances) {
-                _managedInstances.createInstance(instance);
+                _collection.createInstance(instance);
             }
             newInstances.clear();
             if (keep) {
@@ -248,27 +243,25 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             }
         };
         auto logPathSizes = [&] {
-            _logger.info("spare disk path size: %d", static_cast<int>(sparePaths.size()));
-            _logger.info("non spare disk path size: %d", static_cast<int>(nonSparePaths.size()));
+            _logger.info("spare disk path size: %d", static_cast<int>(_sparePaths.size()));
+            _logger.info("non spare disk path size: %d", static_cast<int>(_nonSparePaths.size()));
         };
         _logger.info("managedInstances size %d:", static_cast<int>(newInstances.size()));
         _logger.info("before _createAllEnclosureInstances");
-        _createAllEnclosureInstances(number, controller, arraySystem, physicalPackage, enclosures,
-                                     cages, newInstances);
+        addEnclosures(number, controller, arraySystem, physicalPackage, enclosures, _cages,
+                      newInstances);
         handOver(true);
         _logger.info("before _createAllPhysicalDiskInstances");
         logPathSizes();
-        _createAllPhysicalDiskInstances(number, controller, physicals, arraySystem, pools, arrays,
-                                        cages, initiatorEndpoints, sparePaths, nonSparePaths,
-                                        newInstances);
+        addPhysicalDisks(number, controller, physicals, arraySystem, _pools, arrays, _cages,
+                         _initiatorEndpoints, _sparePaths, _nonSparePaths, newInstances);
         _logger.info("after _createAllPhysicalDiskInstances");
         logPathSizes();
         handOver(true);
         _logger.info("before _createAllLogicalDiskInstances");
         logPathSizes();
-        _createAllLogicalDiskInstances(number, controller, logicals, arraySystem,
-                                       protocolController, pools, sparePaths, nonSparePaths,
-                                       newInstances);
+        addLogicalDisks(number, controller, logicals, arraySystem, protocolController, _pools,
+                        _sparePaths, _nonSparePaths, newInstances);
         _logger.info("after _createAllLogicalDiskInstances");
         handOver(false);
         logPathSizes();
@@ -276,8 +269,8 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
         // Cache pairs: a cached volume (type 2) names its cache volume (type 3)
         // in the low 16 bits of its related LUN. The two volume objects only
         // lend their paths to the association; the collection never sees them.
-        for (VeldraLogicalDisk const& cached : cachedVolumes) {
-            for (VeldraLogicalDisk const& cache : cacheVolumes) {
+        for (VeldraLogicalDisk const& cached : _cachedVolumes) {
+            for (VeldraLogicalDisk const& cache : _cacheVolumes) {
                 if ((cached.getRelatedLUN() & 0xffff) != cache.getLogicalVolumeNumber()) {
                     continue;
                 }
@@ -289,16 +282,16 @@ void QLNVeldraProvider::_cmpiManagedInstanceFactory() {
             }
         }
 
-        _createViewClassInstances(number, controller);
+        addViews(number, controller);
 
-        controller = _internalVDControllerMRA->getNextData(controller);
+        controller = root->getNextData(controller);
         number += 1;
     }
 
-    if (!arraySystems.empty()) {
+    if (!_arraySystems.empty()) {
         auto* collection = add(new QLN_VDStorageSpecificCollection(_logger, ns));
         add(new QLN_VDStorageGroupHostedCollection(_logger, ns, computerSystemPath, collection));
-        for (QLN_VDArraySystem* arraySystem : arraySystems) {
+        for (QLN_VDArraySystem* arraySystem : _arraySystems) {
             add(new QLN_VDStorageSpecificCollectionArraySystem(_logger, ns, collection,
                                                                arraySystem));
         }
