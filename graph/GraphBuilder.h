@@ -30,27 +30,28 @@ public:
 
     // The device graphs of one controller: they append what they make to
     // newInstances, and the caller hands it to the collection.
-    void addEnclosures(int number, VeldraController* controller,
-                                      QLN_VDArraySystem* arraySystem,
-                                      QLN_VDPhysicalPackage* physicalPackage,
-                                      std::vector<VeldraEnclosure> const& enclosures,
-                                      std::vector<CageEntry>& cages,
-                                      std::vector<CmpiManagedInstance*>& newInstances);
-    void addPhysicalDisks(
-        int number, VeldraController* controller, std::vector<VeldraPhysicalDisk> const& physicals,
-        QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
-        std::vector<VeldraCFUArray> const& arrays, std::vector<CageEntry> const& cages,
-        std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
-        std::vector<ExtentEntry>& sparePaths, std::vector<ExtentEntry>& nonSparePaths,
-        std::vector<CmpiManagedInstance*>& newInstances);
+    void addEnclosures(int number, VeldraController* controller, QLN_VDArraySystem* arraySystem,
+                       QLN_VDPhysicalPackage* physicalPackage,
+                       std::vector<VeldraEnclosure> const& enclosures,
+                       std::vector<CageEntry>& cages,
+                       std::vector<CmpiManagedInstance*>& newInstances);
+    void addPhysicalDisks(int number, VeldraController* controller,
+                          std::vector<VeldraPhysicalDisk> const& physicals,
+                          QLN_VDArraySystem* arraySystem, std::vector<PoolEntry> const& pools,
+                          std::vector<VeldraCFUArray> const& arrays,
+                          std::vector<CageEntry> const& cages,
+                          std::vector<QLN_VDISASSCSIProtocolEndpoint*> const& initiatorEndpoints,
+                          std::vector<ExtentEntry>& sparePaths,
+                          std::vector<ExtentEntry>& nonSparePaths,
+                          std::vector<CmpiManagedInstance*>& newInstances);
     void addLogicalDisks(int number, VeldraController* controller,
-                                        std::vector<VeldraLogicalDisk> const& logicals,
-                                        QLN_VDArraySystem* arraySystem,
-                                        QLN_VDSCSIProtocolController* protocolController,
-                                        std::vector<PoolEntry> const& pools,
-                                        std::vector<ExtentEntry> const& sparePaths,
-                                        std::vector<ExtentEntry> const& nonSparePaths,
-                                        std::vector<CmpiManagedInstance*>& newInstances);
+                         std::vector<VeldraLogicalDisk> const& logicals,
+                         QLN_VDArraySystem* arraySystem,
+                         QLN_VDSCSIProtocolController* protocolController,
+                         std::vector<PoolEntry> const& pools,
+                         std::vector<ExtentEntry> const& sparePaths,
+                         std::vector<ExtentEntry> const& nonSparePaths,
+                         std::vector<CmpiManagedInstance*>& newInstances);
     // The host view of one controller in root/cimv2.
     void addViews(int number, VeldraController* controller);
     // New view volumes and extents for these controllers, in place of theirs.

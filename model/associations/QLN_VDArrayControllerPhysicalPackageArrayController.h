@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArrayControllerPhysicalPackage and
-// QLN_VDArrayController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArrayControllerPhysicalPackageArrayController : public VeldraAssociation {
+class QLN_VDArrayController;
+class QLN_VDArrayControllerPhysicalPackage;
+
+class QLN_VDArrayControllerPhysicalPackageArrayController
+    : public TypedAssociation<QLN_VDArrayControllerPhysicalPackageArrayController,
+                              QLN_VDArrayControllerPhysicalPackage, QLN_VDArrayController> {
 public:
-    QLN_VDArrayControllerPhysicalPackageArrayController(
-        Logger& logger, std::string const& nameSpace,
-        CmpiManagedInstance* arrayControllerPhysicalPackage, CmpiManagedInstance* arrayController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArrayControllerPhysicalPackageArrayController",
+                                 "Antecedent", "Dependent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

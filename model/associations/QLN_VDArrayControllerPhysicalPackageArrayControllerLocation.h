@@ -1,16 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArrayControllerPhysicalPackage and
-// QLN_VDArrayControllerLocation.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArrayControllerPhysicalPackageArrayControllerLocation : public VeldraAssociation {
+class QLN_VDArrayControllerLocation;
+class QLN_VDArrayControllerPhysicalPackage;
+
+class QLN_VDArrayControllerPhysicalPackageArrayControllerLocation
+    : public TypedAssociation<QLN_VDArrayControllerPhysicalPackageArrayControllerLocation,
+                              QLN_VDArrayControllerPhysicalPackage, QLN_VDArrayControllerLocation> {
 public:
-    QLN_VDArrayControllerPhysicalPackageArrayControllerLocation(
-        Logger& logger, std::string const& nameSpace,
-        CmpiManagedInstance* arrayControllerPhysicalPackage,
-        CmpiManagedInstance* arrayControllerLocation);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArrayControllerPhysicalPackageArrayControllerLocation",
+                                 "Element", "PhysicalLocation", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

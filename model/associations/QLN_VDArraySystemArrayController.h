@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDArrayController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemArrayController : public VeldraAssociation {
+class QLN_VDArrayController;
+class QLN_VDArraySystem;
+
+class QLN_VDArraySystemArrayController
+    : public TypedAssociation<QLN_VDArraySystemArrayController, QLN_VDArraySystem,
+                              QLN_VDArrayController> {
 public:
-    QLN_VDArraySystemArrayController(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* arraySystem,
-                                     CmpiManagedInstance* arrayController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemArrayController", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,14 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDDAPort.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemDAPort : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDDAPort;
+
+class QLN_VDArraySystemDAPort
+    : public TypedAssociation<QLN_VDArraySystemDAPort, QLN_VDArraySystem, QLN_VDDAPort> {
 public:
-    QLN_VDArraySystemDAPort(Logger& logger, std::string const& nameSpace,
-                            CmpiManagedInstance* arraySystem, CmpiManagedInstance* daPort);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemDAPort", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,14 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDDiskDrive.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemDiskDrive : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDDiskDrive;
+
+class QLN_VDArraySystemDiskDrive
+    : public TypedAssociation<QLN_VDArraySystemDiskDrive, QLN_VDArraySystem, QLN_VDDiskDrive> {
 public:
-    QLN_VDArraySystemDiskDrive(Logger& logger, std::string const& nameSpace,
-                               CmpiManagedInstance* arraySystem, CmpiManagedInstance* diskDrive);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemDiskDrive", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,14 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDFirmware.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemFirmware : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDFirmware;
+
+class QLN_VDArraySystemFirmware
+    : public TypedAssociation<QLN_VDArraySystemFirmware, QLN_VDArraySystem, QLN_VDFirmware> {
 public:
-    QLN_VDArraySystemFirmware(Logger& logger, std::string const& nameSpace,
-                              CmpiManagedInstance* arraySystem, CmpiManagedInstance* firmware);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemFirmware", "System", "InstalledSoftware",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,14 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDISASPort.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemISASPort : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDISASPort;
+
+class QLN_VDArraySystemISASPort
+    : public TypedAssociation<QLN_VDArraySystemISASPort, QLN_VDArraySystem, QLN_VDISASPort> {
 public:
-    QLN_VDArraySystemISASPort(Logger& logger, std::string const& nameSpace,
-                              CmpiManagedInstance* arraySystem, CmpiManagedInstance* isasPort);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemISASPort", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDISASSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemISASSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDISASSCSIProtocolEndpoint;
+
+class QLN_VDArraySystemISASSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDArraySystemISASSCSIProtocolEndpoint, QLN_VDArraySystem,
+                              QLN_VDISASSCSIProtocolEndpoint> {
 public:
-    QLN_VDArraySystemISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                              CmpiManagedInstance* arraySystem,
-                                              CmpiManagedInstance* isasscsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemISASSCSIProtocolEndpoint", "Antecedent",
+                                 "Dependent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDPortController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemPortController : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDPortController;
+
+class QLN_VDArraySystemPortController
+    : public TypedAssociation<QLN_VDArraySystemPortController, QLN_VDArraySystem,
+                              QLN_VDPortController> {
 public:
-    QLN_VDArraySystemPortController(Logger& logger, std::string const& nameSpace,
-                                    CmpiManagedInstance* arraySystem,
-                                    CmpiManagedInstance* portController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemPortController", "SameElement", "SystemElement",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDPrimordialPool.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemPrimordialPool : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDPrimordialPool;
+
+class QLN_VDArraySystemPrimordialPool
+    : public TypedAssociation<QLN_VDArraySystemPrimordialPool, QLN_VDArraySystem,
+                              QLN_VDPrimordialPool> {
 public:
-    QLN_VDArraySystemPrimordialPool(Logger& logger, std::string const& nameSpace,
-                                    CmpiManagedInstance* arraySystem,
-                                    CmpiManagedInstance* primordialPool);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemPrimordialPool", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDSCSIProtocolController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemSCSIProtocolController : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDSCSIProtocolController;
+
+class QLN_VDArraySystemSCSIProtocolController
+    : public TypedAssociation<QLN_VDArraySystemSCSIProtocolController, QLN_VDArraySystem,
+                              QLN_VDSCSIProtocolController> {
 public:
-    QLN_VDArraySystemSCSIProtocolController(Logger& logger, std::string const& nameSpace,
-                                            CmpiManagedInstance* arraySystem,
-                                            CmpiManagedInstance* scsiProtocolController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemSCSIProtocolController", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDSCSIProtocolEndpoint;
+
+class QLN_VDArraySystemSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDArraySystemSCSIProtocolEndpoint, QLN_VDArraySystem,
+                              QLN_VDSCSIProtocolEndpoint> {
 public:
-    QLN_VDArraySystemSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                          CmpiManagedInstance* arraySystem,
-                                          CmpiManagedInstance* scsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemSCSIProtocolEndpoint", "Antecedent", "Dependent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDStorageEnclosureProcessor.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemStorageEnclosureProcessor : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDStorageEnclosureProcessor;
+
+class QLN_VDArraySystemStorageEnclosureProcessor
+    : public TypedAssociation<QLN_VDArraySystemStorageEnclosureProcessor, QLN_VDArraySystem,
+                              QLN_VDStorageEnclosureProcessor> {
 public:
-    QLN_VDArraySystemStorageEnclosureProcessor(Logger& logger, std::string const& nameSpace,
-                                               CmpiManagedInstance* arraySystem,
-                                               CmpiManagedInstance* storageEnclosureProcessor);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemStorageEnclosureProcessor", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDStorageExtent.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemStorageExtent : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDStorageExtent;
+
+class QLN_VDArraySystemStorageExtent
+    : public TypedAssociation<QLN_VDArraySystemStorageExtent, QLN_VDArraySystem,
+                              QLN_VDStorageExtent> {
 public:
-    QLN_VDArraySystemStorageExtent(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* arraySystem,
-                                   CmpiManagedInstance* storageExtent);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemStorageExtent", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

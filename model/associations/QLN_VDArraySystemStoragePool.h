@@ -1,15 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDStoragePool.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemStoragePool : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDStoragePool;
+
+class QLN_VDArraySystemStoragePool
+    : public TypedAssociation<QLN_VDArraySystemStoragePool, QLN_VDArraySystem, QLN_VDStoragePool> {
 public:
-    QLN_VDArraySystemStoragePool(Logger& logger, std::string const& nameSpace,
-                                 CmpiManagedInstance* arraySystem,
-                                 CmpiManagedInstance* storagePool);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemStoragePool", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

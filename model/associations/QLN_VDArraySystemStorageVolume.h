@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDStorageVolume.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemStorageVolume : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDStorageVolume;
+
+class QLN_VDArraySystemStorageVolume
+    : public TypedAssociation<QLN_VDArraySystemStorageVolume, QLN_VDArraySystem,
+                              QLN_VDStorageVolume> {
 public:
-    QLN_VDArraySystemStorageVolume(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* arraySystem,
-                                   CmpiManagedInstance* storageVolume);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemStorageVolume", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,14 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDTSASPort.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemTSASPort : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDTSASPort;
+
+class QLN_VDArraySystemTSASPort
+    : public TypedAssociation<QLN_VDArraySystemTSASPort, QLN_VDArraySystem, QLN_VDTSASPort> {
 public:
-    QLN_VDArraySystemTSASPort(Logger& logger, std::string const& nameSpace,
-                              CmpiManagedInstance* arraySystem, CmpiManagedInstance* tsasPort);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemTSASPort", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

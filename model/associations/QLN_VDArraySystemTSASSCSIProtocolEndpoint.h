@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDTSASSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDArraySystemTSASSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDTSASSCSIProtocolEndpoint;
+
+class QLN_VDArraySystemTSASSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDArraySystemTSASSCSIProtocolEndpoint, QLN_VDArraySystem,
+                              QLN_VDTSASSCSIProtocolEndpoint> {
 public:
-    QLN_VDArraySystemTSASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                              CmpiManagedInstance* arraySystem,
-                                              CmpiManagedInstance* tsasscsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDArraySystemTSASSCSIProtocolEndpoint", "Antecedent",
+                                 "Dependent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

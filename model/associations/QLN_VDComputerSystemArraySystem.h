@@ -1,15 +1,18 @@
 #pragma once
-// The first end is served by another provider: QLN_ComputerSystem, known by its path.
-// The second end is a QLN_VDArraySystem; the graph code passes that exact class.
-#include "VeldraAssociation.h"
+// The first end, QLN_ComputerSystem, is served by another provider and known by its path.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDComputerSystemArraySystem : public VeldraAssociation {
+class QLN_VDArraySystem;
+
+class QLN_VDComputerSystemArraySystem
+    : public TypedAssociation<QLN_VDComputerSystemArraySystem, CmpiCpp::CmpiObjectPath,
+                              QLN_VDArraySystem> {
 public:
-    QLN_VDComputerSystemArraySystem(Logger& logger, std::string const& nameSpace,
-                                    CmpiCpp::CmpiObjectPath const& computerSystemPath,
-                                    CmpiManagedInstance* arraySystem);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDComputerSystemArraySystem", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The first end is served by another provider: QLN_ComputerSystem, known by its path.
-// The second end is a QLN_VDPortController; the graph code passes that exact class.
-#include "VeldraAssociation.h"
+// The first end, QLN_ComputerSystem, is served by another provider and known by its path.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDComputerSystemPortController : public VeldraAssociation {
+class QLN_VDPortController;
+
+class QLN_VDComputerSystemPortController
+    : public TypedAssociation<QLN_VDComputerSystemPortController, CmpiCpp::CmpiObjectPath,
+                              QLN_VDPortController> {
 public:
-    QLN_VDComputerSystemPortController(Logger& logger, std::string const& nameSpace,
-                                       CmpiCpp::CmpiObjectPath const& computerSystemPath,
-                                       CmpiManagedInstance* portController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDComputerSystemPortController", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

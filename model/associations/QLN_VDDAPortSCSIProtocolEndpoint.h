@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDAPort and
-// QLN_VDSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDAPortSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDDAPort;
+class QLN_VDSCSIProtocolEndpoint;
+
+class QLN_VDDAPortSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDDAPortSCSIProtocolEndpoint, QLN_VDDAPort,
+                              QLN_VDSCSIProtocolEndpoint> {
 public:
-    QLN_VDDAPortSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* daPort,
-                                     CmpiManagedInstance* scsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDAPortSCSIProtocolEndpoint", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,18 +1,23 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDDiskDriveFirmware.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskDriveDiskDriveFirmware : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDDiskDriveFirmware;
+
+class QLN_VDDiskDriveDiskDriveFirmware
+    : public TypedAssociation<QLN_VDDiskDriveDiskDriveFirmware, QLN_VDDiskDrive,
+                              QLN_VDDiskDriveFirmware> {
 public:
-    QLN_VDDiskDriveDiskDriveFirmware(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* diskDrive,
-                                     CmpiManagedInstance* diskDriveFirmware);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskDriveDiskDriveFirmware", "Dependent", "Antecedent",
+                                 WrittenFirst::FirstEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

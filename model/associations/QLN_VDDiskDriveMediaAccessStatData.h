@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDMediaAccessStatData.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskDriveMediaAccessStatData : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDMediaAccessStatData;
+
+class QLN_VDDiskDriveMediaAccessStatData
+    : public TypedAssociation<QLN_VDDiskDriveMediaAccessStatData, QLN_VDDiskDrive,
+                              QLN_VDMediaAccessStatData> {
 public:
-    QLN_VDDiskDriveMediaAccessStatData(Logger& logger, std::string const& nameSpace,
-                                       CmpiManagedInstance* diskDrive,
-                                       CmpiManagedInstance* mediaAccessStatData);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskDriveMediaAccessStatData", "ManagedElement", "Stats",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

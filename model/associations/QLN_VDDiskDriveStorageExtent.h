@@ -1,15 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDStorageExtent.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskDriveStorageExtent : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDStorageExtent;
+
+class QLN_VDDiskDriveStorageExtent
+    : public TypedAssociation<QLN_VDDiskDriveStorageExtent, QLN_VDDiskDrive, QLN_VDStorageExtent> {
 public:
-    QLN_VDDiskDriveStorageExtent(Logger& logger, std::string const& nameSpace,
-                                 CmpiManagedInstance* diskDrive,
-                                 CmpiManagedInstance* storageExtent);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskDriveStorageExtent", "Antecedent", "Dependent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDTSASSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskDriveTSASSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDTSASSCSIProtocolEndpoint;
+
+class QLN_VDDiskDriveTSASSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDDiskDriveTSASSCSIProtocolEndpoint, QLN_VDDiskDrive,
+                              QLN_VDTSASSCSIProtocolEndpoint> {
 public:
-    QLN_VDDiskDriveTSASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                            CmpiManagedInstance* diskDrive,
-                                            CmpiManagedInstance* tsasscsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskDriveTSASSCSIProtocolEndpoint", "ManagedElement",
+                                 "AvailableSAP", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

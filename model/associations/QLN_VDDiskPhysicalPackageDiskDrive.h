@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskPhysicalPackage and
-// QLN_VDDiskDrive.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskPhysicalPackageDiskDrive : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDDiskPhysicalPackage;
+
+class QLN_VDDiskPhysicalPackageDiskDrive
+    : public TypedAssociation<QLN_VDDiskPhysicalPackageDiskDrive, QLN_VDDiskPhysicalPackage,
+                              QLN_VDDiskDrive> {
 public:
-    QLN_VDDiskPhysicalPackageDiskDrive(Logger& logger, std::string const& nameSpace,
-                                       CmpiManagedInstance* diskPhysicalPackage,
-                                       CmpiManagedInstance* diskDrive);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskPhysicalPackageDiskDrive", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskPhysicalPackage and
-// QLN_VDDiskDriveLocation.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDiskPhysicalPackageDiskDriveLocation : public VeldraAssociation {
+class QLN_VDDiskDriveLocation;
+class QLN_VDDiskPhysicalPackage;
+
+class QLN_VDDiskPhysicalPackageDiskDriveLocation
+    : public TypedAssociation<QLN_VDDiskPhysicalPackageDiskDriveLocation, QLN_VDDiskPhysicalPackage,
+                              QLN_VDDiskDriveLocation> {
 public:
-    QLN_VDDiskPhysicalPackageDiskDriveLocation(Logger& logger, std::string const& nameSpace,
-                                               CmpiManagedInstance* diskPhysicalPackage,
-                                               CmpiManagedInstance* diskDriveLocation);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDiskPhysicalPackageDiskDriveLocation", "Element",
+                                 "PhysicalLocation", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDriveCage and
-// QLN_VDDiskPhysicalPackage.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDriveCageDiskPhysicalPackage : public VeldraAssociation {
+class QLN_VDDiskPhysicalPackage;
+class QLN_VDDriveCage;
+
+class QLN_VDDriveCageDiskPhysicalPackage
+    : public TypedAssociation<QLN_VDDriveCageDiskPhysicalPackage, QLN_VDDriveCage,
+                              QLN_VDDiskPhysicalPackage> {
 public:
-    QLN_VDDriveCageDiskPhysicalPackage(Logger& logger, std::string const& nameSpace,
-                                       CmpiManagedInstance* driveCage,
-                                       CmpiManagedInstance* diskPhysicalPackage);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDriveCageDiskPhysicalPackage", "GroupComponent",
+                                 "PartComponent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

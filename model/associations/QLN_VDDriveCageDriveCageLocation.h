@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDriveCage and
-// QLN_VDDriveCageLocation.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDDriveCageDriveCageLocation : public VeldraAssociation {
+class QLN_VDDriveCage;
+class QLN_VDDriveCageLocation;
+
+class QLN_VDDriveCageDriveCageLocation
+    : public TypedAssociation<QLN_VDDriveCageDriveCageLocation, QLN_VDDriveCage,
+                              QLN_VDDriveCageLocation> {
 public:
-    QLN_VDDriveCageDriveCageLocation(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* driveCage,
-                                     CmpiManagedInstance* driveCageLocation);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDDriveCageDriveCageLocation", "Element", "PhysicalLocation",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,18 +1,23 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDSoftwareIdentityDriver and
-// QLN_VDArraySystem.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDElementSoftwareIdentityDriver : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDSoftwareIdentityDriver;
+
+class QLN_VDElementSoftwareIdentityDriver
+    : public TypedAssociation<QLN_VDElementSoftwareIdentityDriver, QLN_VDSoftwareIdentityDriver,
+                              QLN_VDArraySystem> {
 public:
-    QLN_VDElementSoftwareIdentityDriver(Logger& logger, std::string const& nameSpace,
-                                        CmpiManagedInstance* softwareIdentityDriver,
-                                        CmpiManagedInstance* arraySystem);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDElementSoftwareIdentityDriver", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

@@ -1,17 +1,22 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDFirmware and
-// QLN_VDArraySystem.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDFirmwareArraySystem : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDFirmware;
+
+class QLN_VDFirmwareArraySystem
+    : public TypedAssociation<QLN_VDFirmwareArraySystem, QLN_VDFirmware, QLN_VDArraySystem> {
 public:
-    QLN_VDFirmwareArraySystem(Logger& logger, std::string const& nameSpace,
-                              CmpiManagedInstance* firmware, CmpiManagedInstance* arraySystem);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDFirmwareArraySystem", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

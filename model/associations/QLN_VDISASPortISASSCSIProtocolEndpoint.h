@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDISASPort and
-// QLN_VDISASSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDISASPortISASSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDISASPort;
+class QLN_VDISASSCSIProtocolEndpoint;
+
+class QLN_VDISASPortISASSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDISASPortISASSCSIProtocolEndpoint, QLN_VDISASPort,
+                              QLN_VDISASSCSIProtocolEndpoint> {
 public:
-    QLN_VDISASPortISASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                           CmpiManagedInstance* isasPort,
-                                           CmpiManagedInstance* isasscsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDISASPortISASSCSIProtocolEndpoint", "Antecedent",
+                                 "Dependent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

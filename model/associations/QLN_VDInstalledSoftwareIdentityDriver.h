@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDArraySystem and
-// QLN_VDSoftwareIdentityDriver.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDInstalledSoftwareIdentityDriver : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDSoftwareIdentityDriver;
+
+class QLN_VDInstalledSoftwareIdentityDriver
+    : public TypedAssociation<QLN_VDInstalledSoftwareIdentityDriver, QLN_VDArraySystem,
+                              QLN_VDSoftwareIdentityDriver> {
 public:
-    QLN_VDInstalledSoftwareIdentityDriver(Logger& logger, std::string const& nameSpace,
-                                          CmpiManagedInstance* arraySystem,
-                                          CmpiManagedInstance* softwareIdentityDriver);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDInstalledSoftwareIdentityDriver", "System",
+                                 "InstalledSoftware", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,18 +1,23 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDLumenDriveCarrierAppFirmware and
-// QLN_VDDiskDrive.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDLumenDrvCarrierAppElementFirmwareIdentity : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDLumenDriveCarrierAppFirmware;
+
+class QLN_VDLumenDrvCarrierAppElementFirmwareIdentity
+    : public TypedAssociation<QLN_VDLumenDrvCarrierAppElementFirmwareIdentity,
+                              QLN_VDLumenDriveCarrierAppFirmware, QLN_VDDiskDrive> {
 public:
-    QLN_VDLumenDrvCarrierAppElementFirmwareIdentity(
-        Logger& logger, std::string const& nameSpace,
-        CmpiManagedInstance* lumenDriveCarrierAppFirmware, CmpiManagedInstance* diskDrive);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDLumenDrvCarrierAppElementFirmwareIdentity", "Dependent",
+                                 "Antecedent", WrittenFirst::FirstEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

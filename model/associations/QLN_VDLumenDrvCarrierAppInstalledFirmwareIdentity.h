@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDLumenDriveCarrierAppFirmware.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDLumenDriveCarrierAppFirmware;
+
+class QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity
+    : public TypedAssociation<QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity, QLN_VDDiskDrive,
+                              QLN_VDLumenDriveCarrierAppFirmware> {
 public:
-    QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity(
-        Logger& logger, std::string const& nameSpace, CmpiManagedInstance* diskDrive,
-        CmpiManagedInstance* lumenDriveCarrierAppFirmware);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDLumenDrvCarrierAppInstalledFirmwareIdentity", "System",
+                                 "InstalledSoftware", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,18 +1,23 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDLumenDriveCarrierBootldrFirmware and
-// QLN_VDDiskDrive.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDLumenDriveCarrierBootldrFirmware;
+
+class QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity
+    : public TypedAssociation<QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity,
+                              QLN_VDLumenDriveCarrierBootldrFirmware, QLN_VDDiskDrive> {
 public:
-    QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity(
-        Logger& logger, std::string const& nameSpace,
-        CmpiManagedInstance* lumenDriveCarrierBootldrFirmware, CmpiManagedInstance* diskDrive);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDLumenDrvCarrierBootldrElementFirmwareIdentity", "Dependent",
+                                 "Antecedent", WrittenFirst::FirstEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDDiskDrive and
-// QLN_VDLumenDriveCarrierBootldrFirmware.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity : public VeldraAssociation {
+class QLN_VDDiskDrive;
+class QLN_VDLumenDriveCarrierBootldrFirmware;
+
+class QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity
+    : public TypedAssociation<QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity,
+                              QLN_VDDiskDrive, QLN_VDLumenDriveCarrierBootldrFirmware> {
 public:
-    QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity(
-        Logger& logger, std::string const& nameSpace, CmpiManagedInstance* diskDrive,
-        CmpiManagedInstance* lumenDriveCarrierBootldrFirmware);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDLumenDrvCarrierBootldrInstalledFirmwareIdentity", "System",
+                                 "InstalledSoftware", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

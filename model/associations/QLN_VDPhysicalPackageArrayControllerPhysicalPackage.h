@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPhysicalPackage and
-// QLN_VDArrayControllerPhysicalPackage.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackageArrayControllerPhysicalPackage : public VeldraAssociation {
+class QLN_VDArrayControllerPhysicalPackage;
+class QLN_VDPhysicalPackage;
+
+class QLN_VDPhysicalPackageArrayControllerPhysicalPackage
+    : public TypedAssociation<QLN_VDPhysicalPackageArrayControllerPhysicalPackage,
+                              QLN_VDPhysicalPackage, QLN_VDArrayControllerPhysicalPackage> {
 public:
-    QLN_VDPhysicalPackageArrayControllerPhysicalPackage(
-        Logger& logger, std::string const& nameSpace, CmpiManagedInstance* physicalPackage,
-        CmpiManagedInstance* arrayControllerPhysicalPackage);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPhysicalPackageArrayControllerPhysicalPackage",
+                                 "GroupComponent", "PartComponent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPhysicalPackage and
-// QLN_VDArraySystem.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackageArraySystem : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDPhysicalPackage;
+
+class QLN_VDPhysicalPackageArraySystem
+    : public TypedAssociation<QLN_VDPhysicalPackageArraySystem, QLN_VDPhysicalPackage,
+                              QLN_VDArraySystem> {
 public:
-    QLN_VDPhysicalPackageArraySystem(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* physicalPackage,
-                                     CmpiManagedInstance* arraySystem);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPhysicalPackageArraySystem", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

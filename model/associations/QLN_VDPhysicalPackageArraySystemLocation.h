@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPhysicalPackage and
-// QLN_VDArraySystemLocation.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackageArraySystemLocation : public VeldraAssociation {
+class QLN_VDArraySystemLocation;
+class QLN_VDPhysicalPackage;
+
+class QLN_VDPhysicalPackageArraySystemLocation
+    : public TypedAssociation<QLN_VDPhysicalPackageArraySystemLocation, QLN_VDPhysicalPackage,
+                              QLN_VDArraySystemLocation> {
 public:
-    QLN_VDPhysicalPackageArraySystemLocation(Logger& logger, std::string const& nameSpace,
-                                             CmpiManagedInstance* physicalPackage,
-                                             CmpiManagedInstance* arraySystemLocation);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPhysicalPackageArraySystemLocation", "Element",
+                                 "PhysicalLocation", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPhysicalPackage and
-// QLN_VDPortController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackagePortController : public VeldraAssociation {
+class QLN_VDPhysicalPackage;
+class QLN_VDPortController;
+
+class QLN_VDPhysicalPackagePortController
+    : public TypedAssociation<QLN_VDPhysicalPackagePortController, QLN_VDPhysicalPackage,
+                              QLN_VDPortController> {
 public:
-    QLN_VDPhysicalPackagePortController(Logger& logger, std::string const& nameSpace,
-                                        CmpiManagedInstance* physicalPackage,
-                                        CmpiManagedInstance* portController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPhysicalPackagePortController", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPhysicalPackage and
-// QLN_VDStorageEnclosure.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPhysicalPackageStorageEnclosure : public VeldraAssociation {
+class QLN_VDPhysicalPackage;
+class QLN_VDStorageEnclosure;
+
+class QLN_VDPhysicalPackageStorageEnclosure
+    : public TypedAssociation<QLN_VDPhysicalPackageStorageEnclosure, QLN_VDPhysicalPackage,
+                              QLN_VDStorageEnclosure> {
 public:
-    QLN_VDPhysicalPackageStorageEnclosure(Logger& logger, std::string const& nameSpace,
-                                          CmpiManagedInstance* physicalPackage,
-                                          CmpiManagedInstance* storageEnclosure);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPhysicalPackageStorageEnclosure", "GroupComponent",
+                                 "PartComponent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPortController and
-// QLN_VDISASPort.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPortControllerISASPort : public VeldraAssociation {
+class QLN_VDISASPort;
+class QLN_VDPortController;
+
+class QLN_VDPortControllerISASPort
+    : public TypedAssociation<QLN_VDPortControllerISASPort, QLN_VDPortController, QLN_VDISASPort> {
 public:
-    QLN_VDPortControllerISASPort(Logger& logger, std::string const& nameSpace,
-                                 CmpiManagedInstance* portController,
-                                 CmpiManagedInstance* isasPort);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPortControllerISASPort", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

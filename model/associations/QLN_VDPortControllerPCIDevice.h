@@ -1,15 +1,18 @@
 #pragma once
-// The first end is served by another provider: QLN_PCIDevice, known by its path.
-// The second end is a QLN_VDPortController; the graph code passes that exact class.
-#include "VeldraAssociation.h"
+// The first end, QLN_PCIDevice, is served by another provider and known by its path.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPortControllerPCIDevice : public VeldraAssociation {
+class QLN_VDPortController;
+
+class QLN_VDPortControllerPCIDevice
+    : public TypedAssociation<QLN_VDPortControllerPCIDevice, CmpiCpp::CmpiObjectPath,
+                              QLN_VDPortController> {
 public:
-    QLN_VDPortControllerPCIDevice(Logger& logger, std::string const& nameSpace,
-                                  CmpiCpp::CmpiObjectPath const& pciDevicePath,
-                                  CmpiManagedInstance* portController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPortControllerPCIDevice", "SystemElement", "SameElement",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

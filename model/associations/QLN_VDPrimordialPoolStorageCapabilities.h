@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDPrimordialPool and
-// QLN_VDStorageCapabilities.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDPrimordialPoolStorageCapabilities : public VeldraAssociation {
+class QLN_VDPrimordialPool;
+class QLN_VDStorageCapabilities;
+
+class QLN_VDPrimordialPoolStorageCapabilities
+    : public TypedAssociation<QLN_VDPrimordialPoolStorageCapabilities, QLN_VDPrimordialPool,
+                              QLN_VDStorageCapabilities> {
 public:
-    QLN_VDPrimordialPoolStorageCapabilities(Logger& logger, std::string const& nameSpace,
-                                            CmpiManagedInstance* primordialPool,
-                                            CmpiManagedInstance* storageCapabilities);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDPrimordialPoolStorageCapabilities", "ManagedElement",
+                                 "Capabilities", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

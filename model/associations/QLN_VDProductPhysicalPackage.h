@@ -1,15 +1,17 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDProduct and
-// QLN_VDPhysicalPackage.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDProductPhysicalPackage : public VeldraAssociation {
+class QLN_VDPhysicalPackage;
+class QLN_VDProduct;
+
+class QLN_VDProductPhysicalPackage
+    : public TypedAssociation<QLN_VDProductPhysicalPackage, QLN_VDProduct, QLN_VDPhysicalPackage> {
 public:
-    QLN_VDProductPhysicalPackage(Logger& logger, std::string const& nameSpace,
-                                 CmpiManagedInstance* product,
-                                 CmpiManagedInstance* physicalPackage);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDProductPhysicalPackage", "GroupComponent", "PartComponent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDSCSIProtocolEndpoint and
-// QLN_VDSCSIProtocolController.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDSCSIProtocolEndpointSCSIProtocolController : public VeldraAssociation {
+class QLN_VDSCSIProtocolController;
+class QLN_VDSCSIProtocolEndpoint;
+
+class QLN_VDSCSIProtocolEndpointSCSIProtocolController
+    : public TypedAssociation<QLN_VDSCSIProtocolEndpointSCSIProtocolController,
+                              QLN_VDSCSIProtocolEndpoint, QLN_VDSCSIProtocolController> {
 public:
-    QLN_VDSCSIProtocolEndpointSCSIProtocolController(Logger& logger, std::string const& nameSpace,
-                                                     CmpiManagedInstance* scsiProtocolEndpoint,
-                                                     CmpiManagedInstance* scsiProtocolController);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDSCSIProtocolEndpointSCSIProtocolController", "AvailableSAP",
+                                 "ManagedElement", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageEnclosure and
-// QLN_VDDriveCage.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageEnclosureDriveCage : public VeldraAssociation {
+class QLN_VDDriveCage;
+class QLN_VDStorageEnclosure;
+
+class QLN_VDStorageEnclosureDriveCage
+    : public TypedAssociation<QLN_VDStorageEnclosureDriveCage, QLN_VDStorageEnclosure,
+                              QLN_VDDriveCage> {
 public:
-    QLN_VDStorageEnclosureDriveCage(Logger& logger, std::string const& nameSpace,
-                                    CmpiManagedInstance* storageEnclosure,
-                                    CmpiManagedInstance* driveCage);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageEnclosureDriveCage", "GroupComponent",
+                                 "PartComponent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageEnclosure and
-// QLN_VDStorageEnclosureLocation.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageEnclosureEnclosureLocation : public VeldraAssociation {
+class QLN_VDStorageEnclosure;
+class QLN_VDStorageEnclosureLocation;
+
+class QLN_VDStorageEnclosureEnclosureLocation
+    : public TypedAssociation<QLN_VDStorageEnclosureEnclosureLocation, QLN_VDStorageEnclosure,
+                              QLN_VDStorageEnclosureLocation> {
 public:
-    QLN_VDStorageEnclosureEnclosureLocation(Logger& logger, std::string const& nameSpace,
-                                            CmpiManagedInstance* storageEnclosure,
-                                            CmpiManagedInstance* storageEnclosureLocation);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageEnclosureEnclosureLocation", "Element",
+                                 "PhysicalLocation", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

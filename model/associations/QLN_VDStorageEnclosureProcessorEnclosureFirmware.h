@@ -1,18 +1,23 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageEnclosureProcessor and
-// QLN_VDEnclosureFirmware.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageEnclosureProcessorEnclosureFirmware : public VeldraAssociation {
+class QLN_VDEnclosureFirmware;
+class QLN_VDStorageEnclosureProcessor;
+
+class QLN_VDStorageEnclosureProcessorEnclosureFirmware
+    : public TypedAssociation<QLN_VDStorageEnclosureProcessorEnclosureFirmware,
+                              QLN_VDStorageEnclosureProcessor, QLN_VDEnclosureFirmware> {
 public:
-    QLN_VDStorageEnclosureProcessorEnclosureFirmware(Logger& logger, std::string const& nameSpace,
-                                                     CmpiManagedInstance* storageEnclosureProcessor,
-                                                     CmpiManagedInstance* enclosureFirmware);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageEnclosureProcessorEnclosureFirmware", "Dependent",
+                                 "Antecedent", WrittenFirst::FirstEnd};
 
 protected:
-    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;
+    void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override {
+        _addFirmwarePairProperties(instance);
+    }
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageEnclosure and
-// QLN_VDStorageEnclosureProcessor.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageEnclosureStorageEnclosureProcessor : public VeldraAssociation {
+class QLN_VDStorageEnclosure;
+class QLN_VDStorageEnclosureProcessor;
+
+class QLN_VDStorageEnclosureStorageEnclosureProcessor
+    : public TypedAssociation<QLN_VDStorageEnclosureStorageEnclosureProcessor,
+                              QLN_VDStorageEnclosure, QLN_VDStorageEnclosureProcessor> {
 public:
-    QLN_VDStorageEnclosureStorageEnclosureProcessor(Logger& logger, std::string const& nameSpace,
-                                                    CmpiManagedInstance* storageEnclosure,
-                                                    CmpiManagedInstance* storageEnclosureProcessor);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageEnclosureStorageEnclosureProcessor", "Antecedent",
+                                 "Dependent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageExtent and
-// QLN_VDStorageVolume.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageExtentStorageVolume : public VeldraAssociation {
+class QLN_VDStorageExtent;
+class QLN_VDStorageVolume;
+
+class QLN_VDStorageExtentStorageVolume
+    : public TypedAssociation<QLN_VDStorageExtentStorageVolume, QLN_VDStorageExtent,
+                              QLN_VDStorageVolume> {
 public:
-    QLN_VDStorageExtentStorageVolume(Logger& logger, std::string const& nameSpace,
-                                     CmpiManagedInstance* storageExtent,
-                                     CmpiManagedInstance* storageVolume);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageExtentStorageVolume", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

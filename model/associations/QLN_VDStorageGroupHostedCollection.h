@@ -1,15 +1,18 @@
 #pragma once
-// The first end is served by another provider: QLN_ComputerSystem, known by its path.
-// The second end is a QLN_VDStorageSpecificCollection; the graph code passes that exact class.
-#include "VeldraAssociation.h"
+// The first end, QLN_ComputerSystem, is served by another provider and known by its path.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageGroupHostedCollection : public VeldraAssociation {
+class QLN_VDStorageSpecificCollection;
+
+class QLN_VDStorageGroupHostedCollection
+    : public TypedAssociation<QLN_VDStorageGroupHostedCollection, CmpiCpp::CmpiObjectPath,
+                              QLN_VDStorageSpecificCollection> {
 public:
-    QLN_VDStorageGroupHostedCollection(Logger& logger, std::string const& nameSpace,
-                                       CmpiCpp::CmpiObjectPath const& computerSystemPath,
-                                       CmpiManagedInstance* storageSpecificCollection);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageGroupHostedCollection", "Antecedent", "Dependent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStoragePool and
-// QLN_VDStorageCapabilities.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStoragePoolStorageCapabilities : public VeldraAssociation {
+class QLN_VDStorageCapabilities;
+class QLN_VDStoragePool;
+
+class QLN_VDStoragePoolStorageCapabilities
+    : public TypedAssociation<QLN_VDStoragePoolStorageCapabilities, QLN_VDStoragePool,
+                              QLN_VDStorageCapabilities> {
 public:
-    QLN_VDStoragePoolStorageCapabilities(Logger& logger, std::string const& nameSpace,
-                                         CmpiManagedInstance* storagePool,
-                                         CmpiManagedInstance* storageCapabilities);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStoragePoolStorageCapabilities", "ManagedElement",
+                                 "Capabilities", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStoragePool and
-// QLN_VDStorageExtent.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStoragePoolStorageExtent : public VeldraAssociation {
+class QLN_VDStorageExtent;
+class QLN_VDStoragePool;
+
+class QLN_VDStoragePoolStorageExtent
+    : public TypedAssociation<QLN_VDStoragePoolStorageExtent, QLN_VDStoragePool,
+                              QLN_VDStorageExtent> {
 public:
-    QLN_VDStoragePoolStorageExtent(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* storagePool,
-                                   CmpiManagedInstance* storageExtent);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStoragePoolStorageExtent", "GroupComponent",
+                                 "PartComponent", WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

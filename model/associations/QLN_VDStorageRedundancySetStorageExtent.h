@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageRedundancySet and
-// QLN_VDStorageExtent.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageRedundancySetStorageExtent : public VeldraAssociation {
+class QLN_VDStorageExtent;
+class QLN_VDStorageRedundancySet;
+
+class QLN_VDStorageRedundancySetStorageExtent
+    : public TypedAssociation<QLN_VDStorageRedundancySetStorageExtent, QLN_VDStorageRedundancySet,
+                              QLN_VDStorageExtent> {
 public:
-    QLN_VDStorageRedundancySetStorageExtent(Logger& logger, std::string const& nameSpace,
-                                            CmpiManagedInstance* storageRedundancySet,
-                                            CmpiManagedInstance* storageExtent);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageRedundancySetStorageExtent", "Collection", "Member",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageSpecificCollection and
-// QLN_VDArraySystem.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageSpecificCollectionArraySystem : public VeldraAssociation {
+class QLN_VDArraySystem;
+class QLN_VDStorageSpecificCollection;
+
+class QLN_VDStorageSpecificCollectionArraySystem
+    : public TypedAssociation<QLN_VDStorageSpecificCollectionArraySystem,
+                              QLN_VDStorageSpecificCollection, QLN_VDArraySystem> {
 public:
-    QLN_VDStorageSpecificCollectionArraySystem(Logger& logger, std::string const& nameSpace,
-                                               CmpiManagedInstance* storageSpecificCollection,
-                                               CmpiManagedInstance* arraySystem);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageSpecificCollectionArraySystem", "Collection",
+                                 "Member", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDTSASPort and
-// QLN_VDTSASSCSIProtocolEndpoint.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDTSASPortTSASSCSIProtocolEndpoint : public VeldraAssociation {
+class QLN_VDTSASPort;
+class QLN_VDTSASSCSIProtocolEndpoint;
+
+class QLN_VDTSASPortTSASSCSIProtocolEndpoint
+    : public TypedAssociation<QLN_VDTSASPortTSASSCSIProtocolEndpoint, QLN_VDTSASPort,
+                              QLN_VDTSASSCSIProtocolEndpoint> {
 public:
-    QLN_VDTSASPortTSASSCSIProtocolEndpoint(Logger& logger, std::string const& nameSpace,
-                                           CmpiManagedInstance* tsasPort,
-                                           CmpiManagedInstance* tsasscsiProtocolEndpoint);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDTSASPortTSASSCSIProtocolEndpoint", "Antecedent",
+                                 "Dependent", WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

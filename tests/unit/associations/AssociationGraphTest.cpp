@@ -37,16 +37,16 @@ class ControllerGraph : public ::testing::Test {
 protected:
     void SetUp() override {
         assoctest::pinHostName();
-        system = add(new End("QLN_VDArraySystem", "PSER0001"));
-        controller = add(new End("QLN_VDArrayController", "PSER0001"));
-        portController = add(new End("QLN_VDPortController", "PSER0001"));
-        daPort = add(new End("QLN_VDDAPort", "PSER0001"));
-        firmware = add(new End("QLN_VDFirmware", "PSER0001"));
-        driver = add(new End("QLN_VDSoftwareIdentityDriver", "PSER0001"));
-        package = add(new End("QLN_VDPhysicalPackage", "PSER0001"));
-        primordial = add(new End("QLN_VDPrimordialPool", "PSER0001"));
-        pool = add(new End("QLN_VDStoragePool", "PSER0001-1"));
-        group = add(new End("QLN_VDStorageSpecificCollection", "group"));
+        system = add(new QLN::QLN_VDArraySystem("PSER0001"));
+        controller = add(new QLN::QLN_VDArrayController("PSER0001"));
+        portController = add(new QLN::QLN_VDPortController("PSER0001"));
+        daPort = add(new QLN::QLN_VDDAPort("PSER0001"));
+        firmware = add(new QLN::QLN_VDFirmware("PSER0001"));
+        driver = add(new QLN::QLN_VDSoftwareIdentityDriver("PSER0001"));
+        package = add(new QLN::QLN_VDPhysicalPackage("PSER0001"));
+        primordial = add(new QLN::QLN_VDPrimordialPool("PSER0001"));
+        pool = add(new QLN::QLN_VDStoragePool("PSER0001-1"));
+        group = add(new QLN::QLN_VDStorageSpecificCollection("group"));
         CmpiObjectPath const host = QLN::QLNUtil::getComputerSystemPath();
         std::string const ns = "root/mwq";
 
@@ -85,16 +85,16 @@ protected:
 
     Logger logger{"assoc-test"};
     QLN::CmpiManagedInstanceCollection collection{logger};
-    End* system = nullptr;
-    End* controller = nullptr;
-    End* portController = nullptr;
-    End* daPort = nullptr;
-    End* firmware = nullptr;
-    End* driver = nullptr;
-    End* package = nullptr;
-    End* primordial = nullptr;
-    End* pool = nullptr;
-    End* group = nullptr;
+    QLN::QLN_VDArraySystem* system = nullptr;
+    QLN::QLN_VDArrayController* controller = nullptr;
+    QLN::QLN_VDPortController* portController = nullptr;
+    QLN::QLN_VDDAPort* daPort = nullptr;
+    QLN::QLN_VDFirmware* firmware = nullptr;
+    QLN::QLN_VDSoftwareIdentityDriver* driver = nullptr;
+    QLN::QLN_VDPhysicalPackage* package = nullptr;
+    QLN::QLN_VDPrimordialPool* primordial = nullptr;
+    QLN::QLN_VDStoragePool* pool = nullptr;
+    QLN::QLN_VDStorageSpecificCollection* group = nullptr;
 };
 
 std::set<std::string> classes(std::map<std::string, std::set<std::string>> const& byClass) {

@@ -63,6 +63,11 @@ protected:
     void SetUp() override { assoctest::pinHostName(); }
 
     Logger logger{"assoc-test"};
+    QLN::QLN_VDDiskDrive drive{"1"};
+    QLN::QLN_VDDiskDriveFirmware driveFirmware{"2"};
+    QLN::QLN_VDSoftwareIdentityDriver driver{"1"};
+    QLN::QLN_VDArraySystem system{"2"};
+    // For the classes whose ends are not typed.
     End first{"QLN_VDFirst", "1"};
     End second{"QLN_VDSecond", "2"};
 };
@@ -70,9 +75,9 @@ protected:
 } // namespace
 
 TEST_F(AssociationProperties, FirmwarePairReportsCurrentInstalledAndNoUpgrade) {
-    QLN::QLN_VDDiskDriveDiskDriveFirmware disk(logger, "root/mwq", &first, &second);
-    QLN::QLN_VDElementSoftwareIdentityDriver driver(logger, "root/mwq", &first, &second);
-    for (CmpiInstance const& instance : {disk.getInstance(), driver.getInstance()}) {
+    QLN::QLN_VDDiskDriveDiskDriveFirmware disk(logger, "root/mwq", &drive, &driveFirmware);
+    QLN::QLN_VDElementSoftwareIdentityDriver element(logger, "root/mwq", &driver, &system);
+    for (CmpiInstance const& instance : {disk.getInstance(), element.getInstance()}) {
         ASSERT_EQ(instance.getPropertyCount(), 4u);
         EXPECT_EQ(instance.getPropertyNameAt(2).str(), "ElementSoftwareStatus");
         CmpiCpp::CmpiData const& status = instance.getProperty("ElementSoftwareStatus");

@@ -6,6 +6,7 @@
 #include "FrameworkConfig.h"
 #include "QLNUtil.h"
 #include "QLN_VDArraySystemArrayController.h"
+#include "QLN_VDArraySystemDAPort.h"
 #include "QLN_VDArraySystemSCSIProtocolEndpoint.h"
 #include "QLN_VDCacheVolumeStorageVolume.h"
 #include "QLN_VDComputerSystemArraySystem.h"
@@ -19,6 +20,7 @@
 #include <fstream>
 #include <memory>
 #include <sstream>
+#include <type_traits>
 #include <unistd.h>
 
 using assoctest::End;
@@ -42,11 +44,11 @@ protected:
     void SetUp() override { assoctest::pinHostName(); }
 
     Logger logger{"assoc-test"};
-    End arraySystem{"QLN_VDArraySystem", "PSER0001"};
-    End arrayController{"QLN_VDArrayController", "PSER0001"};
-    End package{"QLN_VDPhysicalPackage", "PSER0001"};
-    End endpoint{"QLN_VDSCSIProtocolEndpoint", "PSER0001"};
-    End stranger{"QLN_VDArraySystem", "SOMEONE-ELSE"};
+    QLN::QLN_VDArraySystem arraySystem{"PSER0001"};
+    QLN::QLN_VDArrayController arrayController{"PSER0001"};
+    QLN::QLN_VDPhysicalPackage package{"PSER0001"};
+    QLN::QLN_VDSCSIProtocolEndpoint endpoint{"PSER0001"};
+    QLN::QLN_VDArraySystem stranger{"SOMEONE-ELSE"};
 };
 
 std::vector<std::string> keyNames(CmpiObjectPath const& path) {
@@ -111,13 +113,13 @@ TEST_F(AssociationShape, EndServedElsewhereIsKeptAsOwnCopyOfItsPath) {
     EXPECT_EQ(association->otherEnd(arraySystem.getPath()), QLN::QLNUtil::getComputerSystemPath());
 
     // The hosted collection is the one path-of class whose outside end leads.
-    End group{"QLN_VDStorageSpecificCollection", "group"};
+    QLN::QLN_VDStorageSpecificCollection group{"group"};
     QLN::QLN_VDStorageGroupHostedCollection hosted(logger, "root/mwq",
                                                    QLN::QLNUtil::getComputerSystemPath(), &group);
     EXPECT_EQ(keyNames(hosted.getPath()), (std::vector<std::string>{"Antecedent", "Dependent"}));
 
-    End pci{"QLN_PCIDevice", "MWQ:QLN_PCIDevice:0000:1a:12.0"};
-    End portController{"QLN_VDPortController", "PSER0001"};
+    QLN::QLN_PCIDevice pci{"MWQ:QLN_PCIDevice:0000:1a:12.0"};
+    QLN::QLN_VDPortController portController{"PSER0001"};
     QLN::QLN_VDPortControllerPCIDevice identity(logger, "root/mwq", pci.getPath(), &portController);
     EXPECT_EQ(keyNames(identity.getPath()),
               (std::vector<std::string>{"SystemElement", "SameElement"}));
@@ -145,17 +147,17 @@ TEST_F(AssociationShape, SelfAssociationAnswersByRoleOrder) {
     EXPECT_EQ(pair.otherEnd(cache.getPath()), cached.getPath());
     EXPECT_EQ(pair.otherEnd(cached.getPath()), cache.getPath());
 
-    QLN::QLN_VDArraySystemArrayController same(logger, "root/mwq", &arraySystem, &arraySystem);
-    EXPECT_EQ(same.otherEnd(arraySystem.getPath()), arraySystem.getPath());
+    QLN::QLN_VDCacheVolumeStorageVolume same(logger, "root/mwq", &cache, &cache);
+    EXPECT_EQ(same.otherEnd(cache.getPath()), cache.getPath());
 }
 
 // The collection indexes associations by their reference keys and walks
 // otherEnd: a wrong role or a path without host breaks what clients see.
 TEST_F(AssociationShape, CollectionAnswersReferencesAndAssociatorsThroughTheClasses) {
     QLN::CmpiManagedInstanceCollection collection(logger);
-    End* system = new End("QLN_VDArraySystem", "PSER0001");
-    End* controller = new End("QLN_VDArrayController", "PSER0001");
-    End* physical = new End("QLN_VDPhysicalPackage", "PSER0001");
+    auto* system = new QLN::QLN_VDArraySystem("PSER0001");
+    auto* controller = new QLN::QLN_VDArrayController("PSER0001");
+    auto* physical = new QLN::QLN_VDPhysicalPackage("PSER0001");
     collection.createInstance(system);
     collection.createInstance(controller);
     collection.createInstance(physical);
@@ -205,8 +207,8 @@ TEST(AssociationLog, ConstructionAndDestructionAreLoggedUnderTheClassName) {
     QLN::FrameworkConfig::reload();
     {
         Logger logger{"QLNVeldra"};
-        End system{"QLN_VDArraySystem", "A"};
-        End controller{"QLN_VDArrayController", "A"};
+        QLN::QLN_VDArraySystem system{"A"};
+        QLN::QLN_VDArrayController controller{"A"};
         QLN::QLN_VDArraySystemArrayController association(logger, "root/mwq", &system, &controller);
     }
     ::setenv("VELDRA_LOG", "stderr", 1);
@@ -221,3 +223,11 @@ TEST(AssociationLog, ConstructionAndDestructionAreLoggedUnderTheClassName) {
     ASSERT_NE(cxtor, std::string::npos) << all;
     EXPECT_NE(all.find("dxtor()", cxtor), std::string::npos) << all;
 }
+
+// The ends are typed: swapped or foreign ends do not compile.
+static_assert(std::is_constructible_v<QLN::QLN_VDArraySystemDAPort, Logger&, std::string const&,
+                                      QLN::QLN_VDArraySystem*, QLN::QLN_VDDAPort*>);
+static_assert(!std::is_constructible_v<QLN::QLN_VDArraySystemDAPort, Logger&, std::string const&,
+                                       QLN::QLN_VDDAPort*, QLN::QLN_VDArraySystem*>);
+static_assert(!std::is_constructible_v<QLN::QLN_VDArraySystemDAPort, Logger&, std::string const&,
+                                       QLN::CmpiManagedInstance*, QLN::CmpiManagedInstance*>);

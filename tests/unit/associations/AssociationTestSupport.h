@@ -35,3 +35,27 @@ inline void pinHostName() {
 }
 
 } // namespace assoctest
+
+// This test binary links no model class, so each end class that the typed
+// associations name is a stand-in here: an End with its class name.
+#define ASSOCTEST_END(Name)                                                                        \
+    namespace QLN {                                                                                \
+    class Name : public assoctest::End {                                                           \
+    public:                                                                                        \
+        explicit Name(std::string key) : End(#Name, std::move(key)) {}                             \
+    };                                                                                             \
+    }
+ASSOCTEST_END(QLN_PCIDevice)
+ASSOCTEST_END(QLN_VDArrayController)
+ASSOCTEST_END(QLN_VDArraySystem)
+ASSOCTEST_END(QLN_VDDAPort)
+ASSOCTEST_END(QLN_VDFirmware)
+ASSOCTEST_END(QLN_VDPhysicalPackage)
+ASSOCTEST_END(QLN_VDPortController)
+ASSOCTEST_END(QLN_VDPrimordialPool)
+ASSOCTEST_END(QLN_VDSCSIProtocolEndpoint)
+ASSOCTEST_END(QLN_VDSoftwareIdentityDriver)
+ASSOCTEST_END(QLN_VDStoragePool)
+ASSOCTEST_END(QLN_VDStorageSpecificCollection)
+ASSOCTEST_END(QLN_VDDiskDrive)
+ASSOCTEST_END(QLN_VDDiskDriveFirmware)
