@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageVolume (the cache volume) and
-// QLN_VDStorageVolume (the cached volume).
-#include "VeldraAssociation.h"
+// The first end is the cache volume, the second the volume it caches.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDCacheVolumeStorageVolume : public VeldraAssociation {
+class QLN_VDStorageVolume;
+
+class QLN_VDCacheVolumeStorageVolume
+    : public TypedAssociation<QLN_VDCacheVolumeStorageVolume, QLN_VDStorageVolume,
+                              QLN_VDStorageVolume> {
 public:
-    QLN_VDCacheVolumeStorageVolume(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* cacheVolume,
-                                   CmpiManagedInstance* cachedVolume);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDCacheVolumeStorageVolume", "Dependent", "Antecedent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

@@ -3,18 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace {
-char const* const className = "QLN_VDPrimordialPoolStoragePool";
-}
-
 namespace QLN {
-
-QLN_VDPrimordialPoolStoragePool::QLN_VDPrimordialPoolStoragePool(
-    Logger& logger, std::string const& nameSpace, CmpiManagedInstance* primordialPool,
-    CmpiManagedInstance* storagePool, VeldraController* controller)
-    : VeldraAssociation({className, "Antecedent", "Dependent", WrittenFirst::SecondEnd}, logger,
-                        nameSpace, primordialPool, storagePool),
-      _controller(controller) {}
 
 // Summed over every disk of the controller's stored snapshot at the moment of
 // the request, so the figure follows the worker's passes without a copy here.

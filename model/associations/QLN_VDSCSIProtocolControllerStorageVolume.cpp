@@ -2,18 +2,7 @@
 
 #include <string>
 
-namespace {
-char const* const className = "QLN_VDSCSIProtocolControllerStorageVolume";
-}
-
 namespace QLN {
-
-QLN_VDSCSIProtocolControllerStorageVolume::QLN_VDSCSIProtocolControllerStorageVolume(
-    Logger& logger, std::string const& nameSpace, CmpiManagedInstance* scsiProtocolController,
-    CmpiManagedInstance* storageVolume, unsigned int deviceNumber)
-    : VeldraAssociation({className, "Antecedent", "Dependent", WrittenFirst::SecondEnd}, logger,
-                        nameSpace, scsiProtocolController, storageVolume),
-      _deviceNumber(deviceNumber) {}
 
 void QLN_VDSCSIProtocolControllerStorageVolume::_addExtraProperties(
     CmpiCpp::CmpiInstance& instance) const {

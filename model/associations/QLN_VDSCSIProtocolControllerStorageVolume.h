@@ -1,16 +1,25 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDSCSIProtocolController and
-// QLN_VDStorageVolume.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDSCSIProtocolControllerStorageVolume : public VeldraAssociation {
+class QLN_VDSCSIProtocolController;
+class QLN_VDStorageVolume;
+
+class QLN_VDSCSIProtocolControllerStorageVolume
+    : public TypedAssociation<QLN_VDSCSIProtocolControllerStorageVolume,
+                              QLN_VDSCSIProtocolController, QLN_VDStorageVolume> {
 public:
+    static constexpr Shape shape{"QLN_VDSCSIProtocolControllerStorageVolume", "Antecedent",
+                                 "Dependent", WrittenFirst::SecondEnd};
+
+    // A template only so that it is compiled where the ends are complete.
+    template <int = 0>
     QLN_VDSCSIProtocolControllerStorageVolume(Logger& logger, std::string const& nameSpace,
-                                              CmpiManagedInstance* scsiProtocolController,
-                                              CmpiManagedInstance* storageVolume,
-                                              unsigned int deviceNumber);
+                                              QLN_VDSCSIProtocolController* first,
+                                              QLN_VDStorageVolume* second,
+                                              unsigned int deviceNumber)
+        : TypedAssociation(logger, nameSpace, first, second), _deviceNumber(deviceNumber) {}
 
 protected:
     void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;

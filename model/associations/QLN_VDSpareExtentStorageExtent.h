@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageExtent (a spare) and
-// QLN_VDStorageExtent.
-#include "VeldraAssociation.h"
+// The first end is the spare, the second the extent it stands by for.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDSpareExtentStorageExtent : public VeldraAssociation {
+class QLN_VDStorageExtent;
+
+class QLN_VDSpareExtentStorageExtent
+    : public TypedAssociation<QLN_VDSpareExtentStorageExtent, QLN_VDStorageExtent,
+                              QLN_VDStorageExtent> {
 public:
-    QLN_VDSpareExtentStorageExtent(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* spareExtent,
-                                   CmpiManagedInstance* storageExtent);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDSpareExtentStorageExtent", "Antecedent", "Dependent",
+                                 WrittenFirst::FirstEnd};
 };
 
 } // namespace QLN

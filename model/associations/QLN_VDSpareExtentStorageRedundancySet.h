@@ -1,15 +1,19 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageExtent (a spare) and
-// QLN_VDStorageRedundancySet.
-#include "VeldraAssociation.h"
+// The first end is a spare extent.
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDSpareExtentStorageRedundancySet : public VeldraAssociation {
+class QLN_VDStorageExtent;
+class QLN_VDStorageRedundancySet;
+
+class QLN_VDSpareExtentStorageRedundancySet
+    : public TypedAssociation<QLN_VDSpareExtentStorageRedundancySet, QLN_VDStorageExtent,
+                              QLN_VDStorageRedundancySet> {
 public:
-    QLN_VDSpareExtentStorageRedundancySet(Logger& logger, std::string const& nameSpace,
-                                          CmpiManagedInstance* spareExtent,
-                                          CmpiManagedInstance* storageRedundancySet);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDSpareExtentStorageRedundancySet", "Antecedent", "Dependent",
+                                 WrittenFirst::SecondEnd};
 };
 
 } // namespace QLN

@@ -3,20 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace {
-char const* const className = "QLN_VDStoragePoolStorageVolume";
-}
-
 namespace QLN {
-
-QLN_VDStoragePoolStorageVolume::QLN_VDStoragePoolStorageVolume(Logger& logger,
-                                                               std::string const& nameSpace,
-                                                               CmpiManagedInstance* storagePool,
-                                                               CmpiManagedInstance* storageVolume,
-                                                               VeldraController* controller)
-    : VeldraAssociation({className, "Antecedent", "Dependent", WrittenFirst::FirstEnd}, logger,
-                        nameSpace, storagePool, storageVolume),
-      _controller(controller) {}
 
 // Summed over the controller's stored volume snapshot at the moment of the request.
 void QLN_VDStoragePoolStorageVolume::_addExtraProperties(CmpiCpp::CmpiInstance& instance) const {

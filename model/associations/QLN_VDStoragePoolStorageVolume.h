@@ -1,17 +1,25 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStoragePool and
-// QLN_VDStorageVolume.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 #include "VeldraController.h"
 
 namespace QLN {
 
-class QLN_VDStoragePoolStorageVolume : public VeldraAssociation {
+class QLN_VDStoragePool;
+class QLN_VDStorageVolume;
+
+class QLN_VDStoragePoolStorageVolume
+    : public TypedAssociation<QLN_VDStoragePoolStorageVolume, QLN_VDStoragePool,
+                              QLN_VDStorageVolume> {
 public:
+    static constexpr Shape shape{"QLN_VDStoragePoolStorageVolume", "Antecedent", "Dependent",
+                                 WrittenFirst::FirstEnd};
+
+    // A template only so that it is compiled where the ends are complete.
+    template <int = 0>
     QLN_VDStoragePoolStorageVolume(Logger& logger, std::string const& nameSpace,
-                                   CmpiManagedInstance* storagePool,
-                                   CmpiManagedInstance* storageVolume,
-                                   VeldraController* controller);
+                                   QLN_VDStoragePool* first, QLN_VDStorageVolume* second,
+                                   VeldraController* controller)
+        : TypedAssociation(logger, nameSpace, first, second), _controller(controller) {}
 
 protected:
     void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;

@@ -1,15 +1,18 @@
 #pragma once
-// The graph code passes the exact end classes: QLN_VDStorageVolume and
-// QLN_VDStorageSetting.
-#include "VeldraAssociation.h"
+#include "TypedAssociation.h"
 
 namespace QLN {
 
-class QLN_VDStorageVolumeStorageSetting : public VeldraAssociation {
+class QLN_VDStorageSetting;
+class QLN_VDStorageVolume;
+
+class QLN_VDStorageVolumeStorageSetting
+    : public TypedAssociation<QLN_VDStorageVolumeStorageSetting, QLN_VDStorageVolume,
+                              QLN_VDStorageSetting> {
 public:
-    QLN_VDStorageVolumeStorageSetting(Logger& logger, std::string const& nameSpace,
-                                      CmpiManagedInstance* storageVolume,
-                                      CmpiManagedInstance* storageSetting);
+    using TypedAssociation::TypedAssociation;
+    static constexpr Shape shape{"QLN_VDStorageVolumeStorageSetting", "ManagedElement",
+                                 "SettingData", WrittenFirst::FirstEnd};
 
 protected:
     void _addExtraProperties(CmpiCpp::CmpiInstance& instance) const override;

@@ -67,9 +67,11 @@ protected:
     QLN::QLN_VDDiskDriveFirmware driveFirmware{"2"};
     QLN::QLN_VDSoftwareIdentityDriver driver{"1"};
     QLN::QLN_VDArraySystem system{"2"};
-    // For the classes whose ends are not typed.
-    End first{"QLN_VDFirst", "1"};
-    End second{"QLN_VDSecond", "2"};
+    QLN::QLN_VDSCSIProtocolController protocolController{"1"};
+    QLN::QLN_VDStorageVolume volume{"2"};
+    QLN::QLN_VDStorageSetting setting{"3"};
+    QLN::QLN_VDPrimordialPool primordial{"1"};
+    QLN::QLN_VDStoragePool pool{"2"};
 };
 
 } // namespace
@@ -94,16 +96,16 @@ TEST_F(AssociationProperties, FirmwarePairReportsCurrentInstalledAndNoUpgrade) {
 }
 
 TEST_F(AssociationProperties, VolumeMappingAndSettingCarryTheirValues) {
-    QLN::QLN_VDSCSIProtocolControllerStorageVolume mapping(logger, "root/mwq", &first, &second,
-                                                           4097u);
+    QLN::QLN_VDSCSIProtocolControllerStorageVolume mapping(logger, "root/mwq", &protocolController,
+                                                           &volume, 4097u);
     CmpiInstance const mapped = mapping.getInstance();
     EXPECT_EQ(mapped.getProperty("DeviceAccess").getType(), CMPI_uint16);
     EXPECT_EQ(mapped.getProperty("DeviceAccess").getUint16(), 2);
     EXPECT_EQ(mapped.getProperty("DeviceNumber").getType(), CMPI_string);
     EXPECT_EQ(mapped.getProperty("DeviceNumber").getString(), "4097");
 
-    QLN::QLN_VDStorageVolumeStorageSetting setting(logger, "root/mwq", &first, &second);
-    CmpiInstance const set = setting.getInstance();
+    QLN::QLN_VDStorageVolumeStorageSetting settingData(logger, "root/mwq", &volume, &setting);
+    CmpiInstance const set = settingData.getInstance();
     EXPECT_EQ(set.getProperty("IsCurrent").getType(), CMPI_uint16);
     EXPECT_EQ(set.getProperty("IsCurrent").getUint16(), 1);
     EXPECT_EQ(set.getProperty("IsDefault").getUint16(), 1);
@@ -117,8 +119,8 @@ TEST_F(AssociationProperties, SpaceConsumedSumsTheStoredSnapshots) {
     VeldraController* controller = root.getFirstData();
     ASSERT_NE(controller, nullptr);
 
-    QLN::QLN_VDPrimordialPoolStoragePool disks(logger, "root/mwq", &first, &second, controller);
-    QLN::QLN_VDStoragePoolStorageVolume volumes(logger, "root/mwq", &first, &second, controller);
+    QLN::QLN_VDPrimordialPoolStoragePool disks(logger, "root/mwq", &primordial, &pool, controller);
+    QLN::QLN_VDStoragePoolStorageVolume volumes(logger, "root/mwq", &pool, &volume, controller);
 
     // Nothing stored yet: the live disks do not count.
     EXPECT_EQ(disks.getInstance().getProperty("SpaceConsumed").getUint64(), 0u);
@@ -143,7 +145,7 @@ TEST_F(AssociationProperties, SpaceConsumedOfControllerWithoutDisksIsZero) {
     std::vector<VeldraPhysicalDisk> none = controller->getAllPhysicalDisks();
     ASSERT_TRUE(none.empty());
     controller->setLastAllPhysicalDisks(none);
-    QLN::QLN_VDPrimordialPoolStoragePool disks(logger, "root/mwq", &first, &second, controller);
+    QLN::QLN_VDPrimordialPoolStoragePool disks(logger, "root/mwq", &primordial, &pool, controller);
     CmpiCpp::CmpiData const consumed = disks.getInstance().getProperty("SpaceConsumed");
     EXPECT_EQ(consumed.getType(), CMPI_uint64);
     EXPECT_EQ(consumed.getUint64(), 0u);

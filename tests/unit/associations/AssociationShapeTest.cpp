@@ -140,8 +140,8 @@ TEST_F(AssociationShape, OtherEndWalksBothWaysAndGivesEmptyPathToStranger) {
 // role is written second (the cached volume, Antecedent) is tried first, so
 // the walk lands on the cache volume's side.
 TEST_F(AssociationShape, SelfAssociationAnswersByRoleOrder) {
-    End cache{"QLN_VDStorageVolume", "600508B1"};
-    End cached{"QLN_VDStorageVolume", "600508B2"};
+    QLN::QLN_VDStorageVolume cache{"600508B1"};
+    QLN::QLN_VDStorageVolume cached{"600508B2"};
     QLN::QLN_VDCacheVolumeStorageVolume pair(logger, "root/mwq", &cache, &cached);
     EXPECT_EQ(keyNames(pair.getPath()), (std::vector<std::string>{"Dependent", "Antecedent"}));
     EXPECT_EQ(pair.otherEnd(cache.getPath()), cached.getPath());
