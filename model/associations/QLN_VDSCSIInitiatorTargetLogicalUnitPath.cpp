@@ -20,11 +20,10 @@ char const* const logicalUnitRole = "LogicalUnit";
 namespace QLN {
 
 QLN_VDSCSIInitiatorTargetLogicalUnitPath::QLN_VDSCSIInitiatorTargetLogicalUnitPath(
-    Logger& logger, std::string const& nameSpace, CmpiManagedInstance* initiator,
-    CmpiManagedInstance* target, CmpiManagedInstance* logicalUnit, VeldraController*,
+    Ends ends, Logger& logger, std::string const& nameSpace, VeldraController*,
     StateReader targetState)
-    : _namespace(nameSpace), _logger(logger), _initiator(initiator), _target(target),
-      _logicalUnit(logicalUnit), _targetState(std::move(targetState)) {
+    : _namespace(nameSpace), _logger(logger), _initiator(ends.initiator), _target(ends.target),
+      _logicalUnit(ends.logicalUnit), _targetState(std::move(targetState)) {
     _logger.appendLogSource(":");
     _logger.appendLogSource(className);
     _logger.info("cxtor()");

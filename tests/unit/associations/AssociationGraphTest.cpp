@@ -23,7 +23,6 @@
 #include <map>
 #include <set>
 
-using assoctest::End;
 using CmpiCpp::CmpiObjectPath;
 
 namespace {

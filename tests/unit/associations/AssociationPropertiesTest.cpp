@@ -19,7 +19,6 @@
 #include <memory>
 #include <unistd.h>
 
-using assoctest::End;
 using CmpiCpp::CmpiInstance;
 using CmpiCpp::CmpiObjectPath;
 
@@ -152,10 +151,10 @@ TEST_F(AssociationProperties, SpaceConsumedOfControllerWithoutDisksIsZero) {
 }
 
 TEST_F(AssociationProperties, ThreeEndedPathWalksInRoleOrderAndReadsTargetState) {
-    End initiator{"QLN_VDISASSCSIProtocolEndpoint", "PSER0001-1I"};
-    End target{"QLN_VDTSASSCSIProtocolEndpoint", "MD0001-1I"};
-    End unit{"QLN_VDStorageExtent", "MD0001"};
-    End stranger{"QLN_VDStorageExtent", "MD0009"};
+    QLN::QLN_VDISASSCSIProtocolEndpoint initiator{"PSER0001-1I"};
+    QLN::QLN_VDTSASSCSIProtocolEndpoint target{"MD0001-1I"};
+    QLN::QLN_VDStorageExtent unit{"MD0001"};
+    QLN::QLN_VDStorageExtent stranger{"MD0009"};
     std::uint32_t state = 2;
     QLN::QLN_VDSCSIInitiatorTargetLogicalUnitPath path(logger, "root/mwq", &initiator, &target,
                                                        &unit, nullptr, [&state] { return state; });

@@ -23,7 +23,6 @@
 #include <type_traits>
 #include <unistd.h>
 
-using assoctest::End;
 using CmpiCpp::CmpiObjectPath;
 
 namespace {
