@@ -1,34 +1,13 @@
 #include "IndicationPrinter.h"
 
+#include "XmlText.h"
+
 #include <nlohmann/json.hpp>
 #include <pugixml.hpp>
 
 #include <stdexcept>
 
 namespace {
-
-std::string escapedXml(std::string const& text) {
-    std::string out;
-    for (char c : text) {
-        switch (c) {
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '&':
-            out += "&amp;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        default:
-            out += c;
-        }
-    }
-    return out;
-}
 
 // Text for one line: quotes and backslashes escaped, line breaks written out.
 std::string quoted(std::string const& text) {

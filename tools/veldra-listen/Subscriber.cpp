@@ -1,5 +1,7 @@
 #include "Subscriber.h"
 
+#include "XmlText.h"
+
 #include <httplib.h>
 #include <pugixml.hpp>
 
@@ -8,32 +10,9 @@
 
 namespace {
 
-std::string escaped(std::string const& text) {
-    std::string out;
-    for (char c : text) {
-        switch (c) {
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '&':
-            out += "&amp;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        default:
-            out += c;
-        }
-    }
-    return out;
-}
-
 std::string property(char const* name, std::string const& value) {
-    return std::string("<PROPERTY NAME=\"") + name + "\" TYPE=\"string\"><VALUE>" + escaped(value) +
-           "</VALUE></PROPERTY>";
+    return std::string("<PROPERTY NAME=\"") + name + "\" TYPE=\"string\"><VALUE>" +
+           escapedXml(value) + "</VALUE></PROPERTY>";
 }
 
 std::string reference(char const* name, char const* type, std::string const& instanceName) {
