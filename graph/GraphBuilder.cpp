@@ -296,6 +296,20 @@ void GraphBuilder::buildAll(InternalVeldraControllerMRA* root,
                                                                arraySystem));
         }
     }
+    _releaseCarriedLists();
+}
+
+void GraphBuilder::_releaseCarriedLists() {
+    // Only the first build reads them; on a large system the paths they copy
+    // would otherwise stay for the provider's life.
+    _arraySystems = {};
+    _pools = {};
+    _cages = {};
+    _initiatorEndpoints = {};
+    _sparePaths = {};
+    _nonSparePaths = {};
+    _cachedVolumes = {};
+    _cacheVolumes = {};
 }
 
 } // namespace QLN

@@ -58,6 +58,8 @@ public:
     void rebuildViews(std::vector<DRSV_VDController*> const& rescan);
 
 private:
+    void _releaseCarriedLists();
+
     Logger& _logger;
     CmpiManagedInstanceCollection& _collection;
     // Carried from one controller to the next while the first graph is built.
