@@ -11,21 +11,7 @@ namespace QLN {
 
 ViewInstance::ViewInstance(Logger& logger, char const* className, std::string const& nameSpace,
                            unsigned int controllerIndex, VeldraController* controller)
-    : _namespace(nameSpace), _controllerIndex(controllerIndex), _controller(controller),
-      _className(className) {
-    _logger = logger;
-    _logger.appendLogSource(":");
-    _logger.appendLogSource(className);
-    _logger.info("cxtor()");
-}
-
-ViewInstance::~ViewInstance() {
-    _logger.info("dxtor()");
-}
-
-CmpiCpp::CmpiName ViewInstance::getClassName() const {
-    return CmpiCpp::CmpiName(_className);
-}
+    : ControllerManagedInstance(logger, className, nameSpace, controllerIndex, controller) {}
 
 std::uint64_t ViewInstance::sizeInGB(std::uint64_t totalBlocks, std::uint64_t blockSize) {
     return (totalBlocks >> 20) * blockSize >> 10;
@@ -37,14 +23,14 @@ std::string ViewInstance::_drvd(bool onWord) const {
 
 CmpiCpp::CmpiObjectPath ViewInstance::_emptyPath() const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
-    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _className);
+    CmpiCpp::CmpiObjectPath path = CmpiCpp::makeCmpiObjectPath(broker, _namespace, _cimClassName());
     path.setHost(QLNUtil::getHostName());
     return path;
 }
 
 CmpiCpp::CmpiObjectPath ViewInstance::_devicePath(std::string const& deviceId) const {
     CmpiCpp::CmpiObjectPath path = _emptyPath();
-    path.addKey("CreationClassName", _className);
+    path.addKey("CreationClassName", _cimClassName());
     path.addKey("DeviceID", deviceId);
     path.addKey("SystemCreationClassName", hostSystemClass);
     path.addKey("SystemName", QLNUtil::getHostName());
@@ -54,7 +40,7 @@ CmpiCpp::CmpiObjectPath ViewInstance::_devicePath(std::string const& deviceId) c
 CmpiCpp::CmpiInstance ViewInstance::_deviceInstance(std::string const& deviceId) const {
     CmpiCpp::CmpiBroker broker(QLNUtil::getBroker());
     CmpiCpp::CmpiInstance instance = CmpiCpp::makeCmpiInstance(broker, _devicePath(deviceId));
-    instance.addProperty("CreationClassName", _className);
+    instance.addProperty("CreationClassName", _cimClassName());
     instance.addProperty("DeviceID", deviceId);
     instance.addProperty("SystemCreationClassName", hostSystemClass);
     instance.addProperty("SystemName", QLNUtil::getHostName());

@@ -1,25 +1,16 @@
 #pragma once
-// What the host-side view classes share: one controller and its index, the
-// namespace their paths live in, a logger named after the class, and the
-// "DRVD" naming of the host view. Unlike the main model they read the
+// What the host-side view classes share beyond a controller's instance: the
+// "DRVD" naming of the host view and its device paths. Unlike the main model they read the
 // storage access afresh on every request and keep no snapshot.
-#include "CmpiManagedInstance.h"
-#include "Logger.h"
-#include "VeldraController.h"
+#include "ControllerManagedInstance.h"
 
 #include <cstdint>
 #include <string>
 
 namespace QLN {
 
-class ViewInstance : public CmpiManagedInstance {
+class ViewInstance : public ControllerManagedInstance {
 public:
-    ~ViewInstance() override;
-
-    CmpiCpp::CmpiName getClassName() const override;
-
-    unsigned int getControllerIndex() const { return _controllerIndex; }
-    VeldraController* getController() const { return _controller; }
     bool isMyControllerIndex(unsigned int index) const { return index == _controllerIndex; }
 
 protected:
@@ -38,12 +29,6 @@ protected:
     CmpiCpp::CmpiObjectPath _devicePath(std::string const& deviceId) const;
     // The instance skeleton with the four keys of _devicePath as properties.
     CmpiCpp::CmpiInstance _deviceInstance(std::string const& deviceId) const;
-
-    std::string const _namespace;
-    unsigned int const _controllerIndex;
-    VeldraController* const _controller;
-    Logger _logger;
-    char const* const _className;
 };
 
 } // namespace QLN
