@@ -192,19 +192,8 @@ void GraphBuilder::buildAll(InternalVeldraControllerMRA* root,
         // The one concrete pool: every controller has exactly one, array id "1".
         array.setArrayID("1");
         std::vector<VeldraCFUArray> arrays{array};
-        std::vector<VeldraPhysicalDisk> dataDisks;
-        std::vector<VeldraPhysicalDisk> spareDisks;
+        stampArrayDisks(arrays, physicals);
         for (VeldraCFUArray& entry : arrays) {
-            for (VeldraPhysicalDisk const& disk : physicals) {
-                if (disk.getConfiguration() == PD_CONFIG_DATA) {
-                    dataDisks.push_back(disk);
-                }
-                if (disk.getConfiguration() == PD_CONFIG_SPARE) {
-                    spareDisks.push_back(disk);
-                }
-            }
-            entry.setLastDataDisks(dataDisks);
-            entry.setLastSpareDisks(spareDisks);
             auto* pool = add(new QLN_VDStoragePool(_logger, ns, index, entry, controller));
             auto* capabilities =
                 add(new QLN_VDStorageCapabilities(_logger, ns, index, entry, controller));
@@ -297,6 +286,26 @@ void GraphBuilder::buildAll(InternalVeldraControllerMRA* root,
         }
     }
     _releaseCarriedLists();
+}
+
+void GraphBuilder::stampArrayDisks(std::vector<VeldraCFUArray>& arrays,
+                                   std::vector<VeldraPhysicalDisk> const& physicals) {
+    // The lists grow across the arrays, so a later array also holds the
+    // earlier ones' disks; with the one array of today that is the same.
+    std::vector<VeldraPhysicalDisk> dataDisks;
+    std::vector<VeldraPhysicalDisk> spareDisks;
+    for (VeldraCFUArray& entry : arrays) {
+        for (VeldraPhysicalDisk const& disk : physicals) {
+            if (disk.getConfiguration() == PD_CONFIG_DATA) {
+                dataDisks.push_back(disk);
+            }
+            if (disk.getConfiguration() == PD_CONFIG_SPARE) {
+                spareDisks.push_back(disk);
+            }
+        }
+        entry.setLastDataDisks(dataDisks);
+        entry.setLastSpareDisks(spareDisks);
+    }
 }
 
 void GraphBuilder::_releaseCarriedLists() {

@@ -52,6 +52,10 @@ public:
                          std::vector<ExtentEntry> const& sparePaths,
                          std::vector<ExtentEntry> const& nonSparePaths,
                          std::vector<CmpiManagedInstance*>& newInstances);
+    // Gives each array its data and spare disks from `physicals`, as the
+    // first build and every worker pass do.
+    static void stampArrayDisks(std::vector<VeldraCFUArray>& arrays,
+                                std::vector<VeldraPhysicalDisk> const& physicals);
     // The host view of one controller in root/cimv2.
     void addViews(int number, VeldraController* controller);
     // New view volumes and extents for these controllers, in place of theirs.

@@ -4,6 +4,7 @@
 #include "QLNVeldraProvider.h"
 
 #include "DRSV_VDController.h"
+#include "GraphBuilder.h"
 #include "QLNUtil.h"
 #include "QLN_VDArrayController.h"
 #include "QLN_VDArraySystem.h"
@@ -165,20 +166,7 @@ void QLNVeldraProvider::_handleController(WorkerPass& pass, QLN_VDArrayControlle
     VeldraCFUArray array;
     array.setArrayID("1");
     pass.arrays.push_back(array);
-    std::vector<VeldraPhysicalDisk> dataDisks;
-    std::vector<VeldraPhysicalDisk> spareDisks;
-    for (VeldraCFUArray& entry : pass.arrays) {
-        for (VeldraPhysicalDisk const& disk : pass.currentPhysicals) {
-            if (disk.getConfiguration() == PD_CONFIG_DATA) {
-                dataDisks.push_back(disk);
-            }
-            if (disk.getConfiguration() == PD_CONFIG_SPARE) {
-                spareDisks.push_back(disk);
-            }
-        }
-        entry.setLastDataDisks(dataDisks);
-        entry.setLastSpareDisks(spareDisks);
-    }
+    GraphBuilder::stampArrayDisks(pass.arrays, pass.currentPhysicals);
 
     // Config, spare and path changes alone never need the scan: they only
     // move associations, which the two steps after it handle.
