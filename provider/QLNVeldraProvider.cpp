@@ -148,8 +148,8 @@ void QLNVeldraProvider::associators(CmpiContext const& context, CmpiObjectPath c
     // Far ends of other providers are asked for after the unlock: the object
     // manager may route such a request back into this provider.
     _managedInstances.resolveElsewhere(answer, context, properties);
-    for (auto const& each : answer.found) {
-        result.returnInstance(each);
+    for (auto& each : answer.found) {
+        result.returnInstance(std::move(each));
     }
 }
 

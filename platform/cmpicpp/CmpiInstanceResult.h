@@ -10,6 +10,11 @@ class CmpiInstanceResult {
 public:
     virtual ~CmpiInstanceResult();
     virtual void returnInstance(CmpiInstance const& instance) = 0;
+    // For a caller done with its instance: a result that keeps instances
+    // takes it without a copy.
+    virtual void returnInstance(CmpiInstance&& instance) {
+        returnInstance(static_cast<CmpiInstance const&>(instance));
+    }
     // The end of the result; the function tables call it themselves after the
     // operation, so providers need not.
     virtual void returnDone() {}

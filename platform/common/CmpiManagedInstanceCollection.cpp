@@ -143,6 +143,29 @@ void CmpiManagedInstanceCollection::_unindex(Entry* entry) {
     entry->references.clear();
 }
 
+template <typename Visit>
+void CmpiManagedInstanceCollection::_forClass(CmpiName const& className, Visit&& visit) const {
+    if (className.empty()) {
+        for (auto const& entry : _entries) {
+            visit(*entry);
+        }
+        return;
+    }
+    auto found = _byClass.find(lowered(className));
+    if (found != _byClass.end()) {
+        for (Entry const* entry : found->second) {
+            visit(*entry);
+        }
+    }
+}
+
+void CmpiManagedInstanceCollection::_rebuildClassLists() {
+    _byClass.clear();
+    for (auto const& entry : _entries) {
+        _byClass[lowered(entry->className)].push_back(entry.get());
+    }
+}
+
 std::size_t CmpiManagedInstanceCollection::_positionOf(Entry const* entry) const {
     for (std::size_t i = 0; i < _entries.size(); ++i) {
         if (_entries[i].get() == entry) {
@@ -193,6 +216,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         }
         auto existing = entry->key.empty() ? _byPath.end() : _byPath.find(entry->key);
         if (existing == _byPath.end()) {
+            _byClass[lowered(entry->className)].push_back(entry.get());
             _entries.push_back(std::move(entry));
             _index(_entries.back().get(), ends);
             return true;
@@ -202,6 +226,12 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         replaced = std::move(_entries[position]);
         _entries[position] = std::move(entry);
         _index(_entries[position].get(), ends);
+        if (replaced->className == _entries[position]->className) {
+            auto& list = _byClass[lowered(replaced->className)];
+            std::replace(list.begin(), list.end(), replaced.get(), _entries[position].get());
+        } else {
+            _rebuildClassLists();
+        }
     }
     _logger.warn("createInstance: %s replaces an instance with the same path",
                  replaced->key.c_str());
@@ -222,6 +252,10 @@ bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
         _unindex(found->second);
         gone = std::move(_entries[position]);
         _entries.erase(_entries.begin() + static_cast<std::ptrdiff_t>(position));
+        auto list = _byClass.find(lowered(gone->className));
+        if (list != _byClass.end()) {
+            std::erase(list->second, gone.get());
+        }
     }
     // The destructor runs outside the lock: it may log, and may be slow.
     gone.reset();
@@ -274,8 +308,10 @@ unsigned int CmpiManagedInstanceCollection::cleanup() {
             }
         }
         _entries = std::move(kept);
-        if (!gone.empty())
+        if (!gone.empty()) {
             ++_generation;
+            _rebuildClassLists();
+        }
     }
     return static_cast<unsigned int>(gone.size());
 }
@@ -300,17 +336,17 @@ void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& resu
     std::vector<CmpiObjectPath> found;
     {
         std::shared_lock lock(_mutex);
-        for (auto const& entry : _entries) {
-            if (!fits(className, entry->className) || !entry->instance->visible()) {
-                continue;
+        _forClass(className, [&](Entry const& entry) {
+            if (!entry.instance->visible()) {
+                return;
             }
             try {
-                found.push_back(entry->instance->getPath());
+                found.push_back(entry.instance->getPath());
             } catch (std::exception const& e) {
                 _logger.warn("enumInstanceNames: skipped an instance of %s, getPath failed: %s",
-                             entry->className.c_str(), e.what());
+                             entry.className.c_str(), e.what());
             }
-        }
+        });
     }
     for (auto const& each : found) {
         result.returnObjectPath(each);
@@ -324,18 +360,15 @@ void CmpiManagedInstanceCollection::enumInstances(CmpiInstanceResult& result, Cm
     std::vector<CmpiInstance> found;
     {
         std::shared_lock lock(_mutex);
-        for (auto const& entry : _entries) {
-            if (!fits(className, entry->className) || !entry->instance->visible()) {
-                continue;
-            }
+        _forClass(className, [&](Entry const& entry) {
             CmpiInstance instance;
-            if (_instanceOf(entry.get(), instance, "enumInstances")) {
+            if (entry.instance->visible() && _instanceOf(&entry, instance, "enumInstances")) {
                 found.push_back(properties ? instance.filtered(properties) : std::move(instance));
             }
-        }
+        });
     }
-    for (auto const& each : found) {
-        result.returnInstance(each);
+    for (auto& each : found) {
+        result.returnInstance(std::move(each));
     }
 }
 
@@ -475,8 +508,8 @@ void CmpiManagedInstanceCollection::associators(
     Associators answer =
         findAssociators(path, assocClass, resultClass, role, resultRole, properties);
     resolveElsewhere(answer, context, properties);
-    for (auto const& each : answer.found) {
-        result.returnInstance(each);
+    for (auto& each : answer.found) {
+        result.returnInstance(std::move(each));
     }
 }
 
@@ -512,8 +545,8 @@ void CmpiManagedInstanceCollection::references(CmpiInstanceResult& result, CmpiC
             }
         }
     }
-    for (auto const& each : found) {
-        result.returnInstance(each);
+    for (auto& each : found) {
+        result.returnInstance(std::move(each));
     }
 }
 

@@ -148,6 +148,11 @@ private:
 
     void _index(Entry* entry, std::vector<NamedEnd>& ends);
     void _unindex(Entry* entry);
+    // Visits the entries of one class (all of them for an empty name) in the
+    // collection's order.
+    template <typename Visit>
+    void _forClass(CmpiCpp::CmpiName const& className, Visit&& visit) const;
+    void _rebuildClassLists();
     std::size_t _positionOf(Entry const* entry) const;
     std::vector<Entry const*> _fittingAssociations(CmpiCpp::CmpiObjectPath const& path,
                                                    CmpiCpp::CmpiName const& assocClass,
@@ -169,6 +174,10 @@ private:
     // instance would be a tenth of the graph's memory.
     std::unordered_map<std::string_view, Entry*> _byPath;
     std::unordered_map<std::string, End> _byEnd;
+    // Each class's entries by lower-cased class name: an enumeration of one
+    // class would otherwise walk the whole graph, some forty entries for
+    // each one it answers with.
+    std::unordered_map<std::string, std::vector<Entry*>> _byClass;
     // Lower-cased names of every class this collection has held. A missing
     // end of one of them is gone (or never was), and asking the object
     // manager would only route the request back here.
