@@ -68,9 +68,17 @@ CMPIResultFT const resultTable = {CMPICurrentVersion, release,          clone,  
 BrokerResult::BrokerResult(ObjectRegistry& registry)
     : EncapsulatedObject(registry), _cmpi{this, &resultTable} {}
 
-void BrokerResult::addInstance(CimInstance inst) {
+void BrokerResult::setInstanceSink(InstanceSink sink) {
     std::lock_guard<std::mutex> lock(_mutex);
-    _instances.push_back(std::move(inst));
+    _sink = std::move(sink);
+}
+
+void BrokerResult::addInstance(CimInstance const& inst) {
+    std::lock_guard<std::mutex> lock(_mutex);
+    if (_sink)
+        _sink(inst);
+    else
+        _instances.push_back(inst);
 }
 
 void BrokerResult::addPath(CimObjectPath path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -12,7 +13,9 @@
 namespace Cimom {
 
 // CMPIResult that copies whatever a provider returns into C++ vectors, so
-// the results outlive the call's objects.
+// the results outlive the call's objects; or, with a sink, hands each
+// instance on as it comes, so that an answer is written without holding all
+// of it twice.
 class BrokerResult : public EncapsulatedObject {
 public:
     explicit BrokerResult(ObjectRegistry& registry);
@@ -20,7 +23,12 @@ public:
     CMPIResult* cmpi() { return &_cmpi; }
     char const* cmpiTypeName() const override { return "CMPIResult"; }
 
-    void addInstance(CimInstance inst);
+    using InstanceSink = std::function<void(CimInstance const&)>;
+    // From now on instances go to the sink instead of the vector. The sink
+    // runs on the provider's thread; what it throws fails that return.
+    void setInstanceSink(InstanceSink sink);
+
+    void addInstance(CimInstance const& inst);
     void addPath(CimObjectPath path);
     void addData(CimValue value);
     void markDone();
@@ -36,6 +44,7 @@ private:
     CMPIResult _cmpi;
     mutable std::mutex _mutex; // a provider may return from threads of its own
     std::vector<CimInstance> _instances;
+    InstanceSink _sink;
     std::vector<CimObjectPath> _paths;
     std::vector<CimValue> _data;
     bool _done = false;

@@ -324,19 +324,24 @@ void ProviderManager::_complete(CimObjectPath const& request, CimObjectPath& pat
     }
 }
 
+void ProviderManager::_finish(CimObjectPath const& request, CimInstance& inst,
+                              PropertyList const* propertyList) {
+    // Most paths are complete already; only an incomplete one is copied.
+    if (inst.path().nameSpace().empty()) {
+        CimObjectPath path = inst.path();
+        _complete(request, path);
+        inst.setPath(std::move(path));
+    }
+    if (propertyList != nullptr) {
+        inst = inst.filtered(propertyList);
+    }
+}
+
 std::vector<CimInstance> ProviderManager::_finish(CimObjectPath const& request,
                                                   std::vector<CimInstance> found,
                                                   PropertyList const* propertyList) {
     for (CimInstance& inst : found) {
-        // Most paths are complete already; only an incomplete one is copied.
-        if (inst.path().nameSpace().empty()) {
-            CimObjectPath path = inst.path();
-            _complete(request, path);
-            inst.setPath(std::move(path));
-        }
-        if (propertyList != nullptr) {
-            inst = inst.filtered(propertyList);
-        }
+        _finish(request, inst, propertyList);
     }
     return found;
 }
@@ -358,15 +363,34 @@ std::vector<CimObjectPath> ProviderManager::enumerateInstanceNames(CimObjectPath
 
 std::vector<CimInstance> ProviderManager::enumerateInstances(CimObjectPath const& classPath,
                                                              PropertyList const* propertyList) {
+    std::vector<CimInstance> found;
+    enumerateInstances(classPath, propertyList,
+                       [&found](CimInstance const& instance) { found.push_back(instance); });
+    return found;
+}
+
+void ProviderManager::enumerateInstances(CimObjectPath const& classPath,
+                                         PropertyList const* propertyList,
+                                         InstanceSink const& sink) {
     CallGuard guard(*this);
     LoadedProvider* p =
         _requireProvider(Role::Instance, classPath.nameSpace(), classPath.className());
     ProviderCall call(*_broker, classPath);
+    call.result->setInstanceSink([&](CimInstance const& instance) {
+        // Most instances go on as they are; only an incomplete one, or one
+        // with more than was asked for, is copied.
+        if (!instance.path().nameSpace().empty() && propertyList == nullptr) {
+            sink(instance);
+            return;
+        }
+        CimInstance finished = instance;
+        _finish(classPath, finished, propertyList);
+        sink(finished);
+    });
     PropertyArray props(propertyList);
     _check(required(p->instanceMI()->ft->enumerateInstances, *p, "enumerateInstances")(
                p->instanceMI(), call.ctx, call.result->cmpi(), call.op, props.get()),
            *p, "enumerateInstances");
-    return _finish(classPath, call.result->takeInstances(), propertyList);
 }
 
 CimInstance ProviderManager::getInstance(CimObjectPath const& path,

@@ -20,6 +20,7 @@
 // shutdown waits for calls in flight and refuses new ones.
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <shared_mutex>
 #include <string>
@@ -68,6 +69,11 @@ public:
     std::vector<CimObjectPath> enumerateInstanceNames(CimObjectPath const& classPath) override;
     std::vector<CimInstance> enumerateInstances(CimObjectPath const& classPath,
                                                 PropertyList const* propertyList) override;
+    // The same, each instance handed to `sink` as the provider returns it
+    // (complete and cut to the property list), none kept.
+    using InstanceSink = std::function<void(CimInstance const&)>;
+    void enumerateInstances(CimObjectPath const& classPath, PropertyList const* propertyList,
+                            InstanceSink const& sink);
     CimInstance getInstance(CimObjectPath const& path, PropertyList const* propertyList) override;
     // An empty assocClass asks every association provider of the namespace.
     std::vector<CimInstance> associators(CimObjectPath const& path, std::string const& assocClass,
@@ -127,6 +133,9 @@ private:
                      std::string const& className, bool edge);
     void _switchCall(SwitchEntry entry, char const* operation);
     static void _complete(CimObjectPath const& request, CimObjectPath& path);
+    // Completes the path's namespace and cuts to the property list.
+    static void _finish(CimObjectPath const& request, CimInstance& inst,
+                        PropertyList const* propertyList);
     static std::vector<CimInstance> _finish(CimObjectPath const& request,
                                             std::vector<CimInstance> found,
                                             PropertyList const* propertyList);

@@ -1,10 +1,13 @@
 #include "CimHttpConnection.h"
 
+#include "CimOperationError.h"
 #include "PasswordFile.h"
 #include "ServerLog.h"
 
 #include <openssl/evp.h>
 
+#include <algorithm>
+#include <cctype>
 #include <malloc.h>
 #include <strings.h>
 
@@ -299,8 +302,29 @@ template <class Stream> void CimHttpConnection<Stream>::_dispatch(Request reques
         _shared.started(exchange.cimMethod.value_or("(no method)") + " on " +
                         exchange.cimObject.value_or("(no object)") + " from " + _client);
     _socket().expires_never();
+    // HTTP/1.1 clients read chunked answers; a long answer then goes out as
+    // it is written instead of being held whole.
+    bool const inParts = request.version() >= 11;
+    _parts.reset();
+    if (inParts) {
+        _parts.emplace();
+        _parts->close = close;
+        std::string te(request[http::field::te]);
+        std::transform(te.begin(), te.end(), te.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+        _parts->trailers = te.find("trailers") != std::string::npos;
+    }
     asio::post(_shared.workers, [self = this->shared_from_this(), exchange = std::move(exchange),
-                                 id, close]() mutable {
+                                 id, close, inParts]() mutable {
+        std::size_t partBytes = 0;
+        if (inParts) {
+            exchange.sendPart = [&self, &partBytes](std::string&& part) {
+                partBytes += part.size();
+                asio::post(self->_stream.get_executor(), [self, part = std::move(part)]() mutable {
+                    self->_queuePart(std::move(part));
+                });
+            };
+        }
         try {
             self->_shared.handler(exchange);
         } catch (std::exception const& e) {
@@ -309,16 +333,130 @@ template <class Stream> void CimHttpConnection<Stream>::_dispatch(Request reques
             exchange.status = 500;
             exchange.responseBody.clear();
             exchange.cimError.clear();
+            if (partBytes > 0 && exchange.failedAfterParts == 0) {
+                exchange.failedAfterParts = CimOperationError::failed;
+                exchange.failedDescription = "request failed";
+            }
         }
-        std::size_t const bytes = exchange.responseBody.size();
-        Response response = responseOf(std::move(exchange));
-        asio::post(self->_stream.get_executor(),
-                   [self, response = std::move(response), id, close]() mutable {
-                       self->_answering = id;
-                       self->_answer(std::move(response), close);
-                   });
+        exchange.sendPart = nullptr;
+        std::size_t const bytes = partBytes + exchange.responseBody.size();
+        if (partBytes > 0) {
+            asio::post(self->_stream.get_executor(),
+                       [self, rest = std::move(exchange.responseBody),
+                        failed = exchange.failedAfterParts,
+                        description = std::move(exchange.failedDescription), id]() mutable {
+                           self->_answering = id;
+                           self->_endParts(std::move(rest), failed, std::move(description));
+                       });
+        } else {
+            Response response = responseOf(std::move(exchange));
+            asio::post(self->_stream.get_executor(),
+                       [self, response = std::move(response), id, close]() mutable {
+                           self->_parts.reset();
+                           self->_answering = id;
+                           self->_answer(std::move(response), close);
+                       });
+        }
         self->_shared.trimWhenQuiet(bytes);
     });
+}
+
+template <class Stream> void CimHttpConnection<Stream>::_queuePart(std::string part) {
+    if (!_parts || _parts->broken)
+        return;
+    if (!_parts->header) {
+        bool stopping;
+        {
+            std::lock_guard lock(_shared.mutex);
+            stopping = _shared.stopping;
+        }
+        _parts->close = _parts->close || stopping;
+        auto& header = _parts->header.emplace(http::status::ok, 11);
+        header.set("CIMOperation", "MethodResponse");
+        header.set(http::field::content_type, "application/xml; charset=\"utf-8\"");
+        if (_parts->trailers)
+            header.set(http::field::trailer, "CIMStatusCode, CIMStatusCodeDescription");
+        header.keep_alive(!_parts->close);
+        header.chunked(true);
+        _parts->serializer.emplace(header);
+    }
+    _parts->queue.push_back(std::move(part));
+    _pumpParts();
+}
+
+template <class Stream>
+void CimHttpConnection<Stream>::_endParts(std::string rest, int failed, std::string description) {
+    if (!_parts)
+        return _close();
+    if (!rest.empty())
+        _parts->queue.push_back(std::move(rest));
+    _parts->ending = true;
+    _parts->failed = failed;
+    _parts->description = std::move(description);
+    _pumpParts();
+}
+
+template <class Stream> void CimHttpConnection<Stream>::_pumpParts() {
+    Parts& parts = *_parts;
+    if (parts.writing)
+        return;
+    if (parts.broken) {
+        if (parts.ending)
+            _partsDone(false);
+        return;
+    }
+    auto done = [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
+        Parts& parts = *self->_parts;
+        parts.writing = false;
+        parts.inFlight = std::string();
+        if (ec) {
+            parts.broken = true;
+            parts.queue.clear();
+        }
+        parts.headerSent = true;
+        self->_pumpParts();
+    };
+    _socket().expires_after(std::chrono::seconds(_shared.settings.timeoutSeconds));
+    if (!parts.headerSent) {
+        parts.writing = true;
+        return http::async_write_header(_stream, *parts.serializer, std::move(done));
+    }
+    if (!parts.queue.empty()) {
+        parts.writing = true;
+        parts.inFlight = std::move(parts.queue.front());
+        parts.queue.pop_front();
+        return asio::async_write(_stream, http::make_chunk(asio::buffer(parts.inFlight)),
+                                 std::move(done));
+    }
+    if (!parts.ending)
+        return;
+    if (parts.failed != 0 && !parts.trailers) {
+        // Without a trailer the failure cannot be told; the answer is cut
+        // short, so that the client cannot take a part for the whole.
+        ServerLog::warn("cut an answer to " + _client + " short: " + std::to_string(parts.failed) +
+                        " " + parts.description);
+        return _partsDone(false);
+    }
+    if (parts.trailers) {
+        parts.trailer.set("CIMStatusCode", std::to_string(parts.failed));
+        if (parts.failed != 0)
+            parts.trailer.set("CIMStatusCodeDescription", parts.description);
+    }
+    parts.writing = true;
+    asio::async_write(_stream, http::make_chunk_last(parts.trailer),
+                      [self = this->shared_from_this()](beast::error_code ec, std::size_t) {
+                          self->_partsDone(!ec);
+                      });
+}
+
+template <class Stream> void CimHttpConnection<Stream>::_partsDone(bool whole) {
+    bool const keep = whole && !_parts->close;
+    _parts.reset();
+    if (_answering)
+        _shared.finished(*std::exchange(_answering, std::nullopt));
+    if (!keep)
+        return _close();
+    _awaitRequest();
 }
 
 template <class Stream> void CimHttpConnection<Stream>::_answer(Response response, bool close) {

@@ -15,6 +15,7 @@
 
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -85,6 +86,13 @@ private:
     void _onBody(boost::beast::error_code ec);
     void _dispatch(Request request);
     void _answer(Response response, bool close);
+    // An answer in parts (chunked): the header goes with the first part,
+    // each part as it comes, and the end (with the status as a trailer when
+    // the client takes trailers) once the handler is done.
+    void _queuePart(std::string part);
+    void _endParts(std::string rest, int failed, std::string description);
+    void _pumpParts();
+    void _partsDone(bool whole);
     void _refuse(boost::beast::http::status status, std::string const& why);
     void _close();
     void _linger(std::size_t drained);
@@ -96,6 +104,24 @@ private:
     std::optional<boost::beast::http::request_parser<boost::beast::http::string_body>> _parser;
     std::shared_ptr<Response> _response;
     std::optional<std::uint64_t> _answering; // the running request being answered
+    struct Parts {
+        bool close = false;
+        bool trailers = false; // the client said it takes them (TE: trailers)
+        std::optional<boost::beast::http::response<boost::beast::http::empty_body>> header;
+        std::optional<boost::beast::http::response_serializer<boost::beast::http::empty_body>>
+            serializer;
+        std::deque<std::string> queue;
+        std::string inFlight;
+        boost::beast::http::fields trailer;
+        bool writing = false;
+        bool headerSent = false;
+        bool ending = false;
+        bool broken = false;
+        int failed = 0;
+        std::string description;
+    };
+    // Set while a request may answer in parts; only the connection's strand touches it.
+    std::optional<Parts> _parts;
     static constexpr char const* _continue = "HTTP/1.1 100 Continue\r\n\r\n";
 };
 

@@ -35,6 +35,11 @@ void openEnvelope(CimXmlWriter& out, std::string const& messageId) {
     out.open("SIMPLERSP");
 }
 
+// Parts of an answer that goes out as it is written: large enough that
+// sending costs little per byte, small enough to stay in the worker's cache
+// and arena.
+constexpr std::size_t partBytes = 256 * 1024;
+
 } // namespace
 
 CimOperationHandler::CimOperationHandler(ClassRepository const& classes, Settings settings)
@@ -185,6 +190,8 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
             ServerLog::debug("request " + request.methodName() + " in " + request.nameSpace());
 
         CimXmlWriter out;
+        if (exchange.sendPart)
+            out.sendPartsTo(exchange.sendPart, partBytes);
         openEnvelope(out, request.messageId());
         char const* responseTag = request.intrinsic() ? "IMETHODRESPONSE" : "METHODRESPONSE";
         out.open(responseTag, {{"NAME", request.methodName()}});
@@ -196,6 +203,16 @@ void CimOperationHandler::handle(CimHttpExchange& exchange) const {
         } catch (CimOperationError const& e) {
             ServerLog::debug(request.methodName() + " in " + request.nameSpace() + ": " +
                              CimError::codeName(e.code()) + ": " + e.what());
+            if (!out.canRollback(start)) {
+                // Part of the answer is out: it is ended as it stands and
+                // the failure goes with its end.
+                exchange.failedAfterParts = e.code();
+                exchange.failedDescription = CimXmlWriter::xmlSafe(e.what());
+                while (!out.balanced())
+                    out.close();
+                exchange.responseBody = out.take();
+                return;
+            }
             out.rollback(start);
             std::string const code = std::to_string(e.code());
             // The description may quote the request, which need not be valid text.

@@ -176,10 +176,23 @@ CimXmlWriter& CimXmlWriter::element(std::string_view tag, std::string_view conte
 }
 
 void CimXmlWriter::rollback(Mark const& mark) {
-    if (mark.length > _out.size() || mark.depth > _open.size())
+    if (mark.length > _sent + _out.size() || mark.depth > _open.size())
         throw std::logic_error("CimXmlWriter: rollback past what was written");
-    _out.resize(mark.length);
+    if (!canRollback(mark))
+        throw std::logic_error("CimXmlWriter: rollback into a part already sent");
+    _out.resize(mark.length - _sent);
     _open.resize(mark.depth);
+    while (_spans && !_spans->empty() && _spans->back().begin >= mark.length)
+        _spans->pop_back();
+}
+
+void CimXmlWriter::_sendPart() {
+    std::string part = std::move(_out);
+    // The next part is about as long; room for it at once spares regrowing.
+    _out = std::string();
+    _out.reserve(part.size() + part.size() / 8);
+    _sent += part.size();
+    _send(std::move(part));
 }
 
 std::string CimXmlWriter::take() {

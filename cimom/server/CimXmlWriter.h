@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -75,14 +76,33 @@ public:
         _spanDepth = depth;
     }
 
-    Mark mark() const { return {_out.size(), _open.size()}; }
+    // Positions count everything written, sent parts included.
+    Mark mark() const { return {_sent + _out.size(), _open.size()}; }
+    // Whether what was written since the mark is still here to take back.
+    bool canRollback(Mark const& mark) const { return mark.length >= _sent; }
     // Drops everything written since the mark.
     void rollback(Mark const& mark);
+
+    // An answer that goes out in parts: once `partBytes` are written, the
+    // next commit() hands them to `send` and the writer starts afresh, so a
+    // long answer is never held whole. Without it, commit() does nothing.
+    using PartSink = std::function<void(std::string&&)>;
+    void sendPartsTo(PartSink send, std::size_t partBytes) {
+        _send = std::move(send);
+        _partBytes = partBytes;
+    }
+    // A point where what is written may go: between two whole elements.
+    void commit() {
+        if (_send && _out.size() >= _partBytes)
+            _sendPart();
+    }
+    // How much has gone out in parts.
+    std::size_t sent() const { return _sent; }
 
     // Room for this many more characters, so that a long answer grows once.
     void reserve(std::size_t more) { _out.reserve(_out.size() + more); }
     std::string const& str() const { return _out; }
-    // Hands the text over; the writer is empty afterwards.
+    // Hands the text not sent yet over; the writer is empty afterwards.
     std::string take();
     bool balanced() const { return _open.empty(); }
 
@@ -96,11 +116,15 @@ public:
 private:
     void _startTag(std::string_view tag, Attributes const& attributes);
     void _escapeInto(std::string_view content);
+    void _sendPart();
 
     std::string _out;
     std::vector<std::string_view> _open;
     std::vector<Span>* _spans = nullptr;
     std::size_t _spanDepth = 0;
+    PartSink _send;
+    std::size_t _partBytes = 0;
+    std::size_t _sent = 0;
 };
 
 } // namespace Cimom

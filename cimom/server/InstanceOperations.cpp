@@ -253,36 +253,44 @@ void InstanceOperations::enumerateInstances(CimRequest const& request, CimXmlWri
         options.propertyList = std::move(own);
     }
     auto providerList = toList(options.propertyList);
+    std::vector<std::string> served;
+    for (std::string const& cls : _classes.selfAndDescendants(request.nameSpace(), className))
+        if (_providers.hasInstanceProvider(request.nameSpace(), cls))
+            served.push_back(cls);
+    // Only instances of several classes can meet twice; one class's
+    // provider names each of its instances once.
     PathSet seen;
+    bool const dedupe = served.size() > 1;
     out.open("IRETURNVALUE");
-    for (std::string const& cls : _classes.selfAndDescendants(request.nameSpace(), className)) {
-        if (!_providers.hasInstanceProvider(request.nameSpace(), cls))
-            continue;
-        std::vector<CimInstance> instances;
+    for (std::string const& cls : served) {
+        // A class that fails takes back what it had written, unless part
+        // of it has gone out already.
+        CimXmlWriter::Mark const before = out.mark();
         try {
-            instances = _providers.enumerateInstances(CimObjectPath(request.nameSpace(), cls),
-                                                      providerList ? &*providerList : nullptr);
+            _providers.enumerateInstances(
+                CimObjectPath(request.nameSpace(), cls), providerList ? &*providerList : nullptr,
+                [&](CimInstance const& instance) {
+                    if (dedupe && !seen.insert(instance.path()).second)
+                        return;
+                    // One class answers with its own instances; the class is
+                    // looked up again only when an instance of another comes.
+                    if (!options.cls || !CimName::equal(options.cls->name, instance.className()))
+                        options.cls = _classes.find(request.nameSpace(), instance.className());
+                    out.open(form == Form::classic ? "VALUE.NAMEDINSTANCE"
+                                                   : "VALUE.INSTANCEWITHPATH");
+                    _writeName(out, instance.path(), request.nameSpace(), form);
+                    InstanceXml::writeInstance(out, instance, options);
+                    out.close();
+                    out.commit();
+                });
         } catch (CimError const& e) {
             if (!skippable(e))
                 fail(static_cast<int>(e.code()), e.description());
-        }
-        for (std::size_t i = 0; i < instances.size(); ++i) {
-            CimInstance const& instance = instances[i];
-            if (!seen.insert(instance.path()).second)
-                continue;
-            std::size_t const before = out.str().size();
-            // One class answers with its own instances; the class is looked
-            // up again only when an instance of another one comes.
-            if (!options.cls || !CimName::equal(options.cls->name, instance.className()))
-                options.cls = _classes.find(request.nameSpace(), instance.className());
-            out.open(form == Form::classic ? "VALUE.NAMEDINSTANCE" : "VALUE.INSTANCEWITHPATH");
-            _writeName(out, instance.path(), request.nameSpace(), form);
-            InstanceXml::writeInstance(out, instance, options);
-            out.close();
-            // Instances of one class are about the same size: room for the
-            // rest at once spares the answer repeated growing and copying.
-            if (i == 0)
-                out.reserve((out.str().size() - before) * (instances.size() - 1) * 9 / 8);
+            // Whole instances already sent stay; the class ends there.
+            if (out.canRollback(before))
+                out.rollback(before);
+            else if (out.mark().depth != before.depth)
+                fail(static_cast<int>(e.code()), e.description());
         }
     }
     out.close();
