@@ -194,6 +194,24 @@ TEST_F(CmpiTable, ThrownExceptionsBecomeStatusesWithMessages) {
         CMPI_RC_ERR_NOT_SUPPORTED);
 }
 
+// Catches: a provider that fails half-way through an enumeration handing
+// the object manager a part of its answer as if it were the whole.
+TEST_F(CmpiTable, AFailedEnumerationHandsOverNothing) {
+    provider.instances = {disk("0:1"), disk("0:2")};
+    provider.after = [] { throw CmpiStatus(CMPI_RC_ERR_FAILED, "lost the controller"); };
+    CMPIInstanceMI* mi = provider.getInstanceMI();
+    BrokerResult* all = newResult();
+    CMPIStatus st = mi->ft->enumerateInstances(mi, ctx, all->cmpi(), diskClassPath(), nullptr);
+    EXPECT_EQ(st.rc, CMPI_RC_ERR_FAILED);
+    EXPECT_EQ(textOf(st), "lost the controller");
+    EXPECT_TRUE(all->takeInstances().empty());
+    EXPECT_FALSE(all->done());
+    BrokerResult* names = newResult();
+    st = mi->ft->enumerateInstanceNames(mi, ctx, names->cmpi(), diskClassPath());
+    EXPECT_EQ(st.rc, CMPI_RC_ERR_FAILED);
+    EXPECT_TRUE(names->takePaths().empty());
+}
+
 // Catches: association filters swapped or a null filter turned into a
 // garbage name, and the association results not reaching the object manager.
 TEST_F(CmpiTable, AssociationCallsPassFiltersAndReturnResults) {

@@ -23,6 +23,8 @@ public:
 
     // Run at the start of every operation; a test sets it to throw.
     std::function<void()> before = [] {};
+    // Run after an enumeration has returned everything.
+    std::function<void()> after = [] {};
     std::vector<CmpiCpp::CmpiInstance> instances;
     std::vector<std::string> calls;
     CmpiCpp::CmpiObjectPath lastPath;
@@ -48,6 +50,7 @@ public:
         _enter("enumInstanceNames", path);
         for (auto const& inst : instances)
             result.returnObjectPath(inst.getPath());
+        after();
     }
     void enumInstances(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const& path,
                        char const** properties, CmpiCpp::CmpiInstanceResult& result) override {
@@ -55,6 +58,7 @@ public:
         lastProperties = properties;
         for (auto const& inst : instances)
             result.returnInstance(inst);
+        after();
     }
     void getInstance(CmpiCpp::CmpiContext const&, CmpiCpp::CmpiObjectPath const& path,
                      char const** properties, CmpiCpp::CmpiInstanceResult& result) override {

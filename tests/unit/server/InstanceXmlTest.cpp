@@ -212,3 +212,27 @@ TEST_F(InstanceXmlTest, WritesInstancesInTheClientsShape) {
         InstanceXml::readInstanceName(node.child("INSTANCENAME"), "root/mwq", &repo);
     EXPECT_EQ(back, link);
 }
+
+// Catches: a part sent before its last element was closed, a part taken
+// back after it went out, or text lost between the parts and the rest.
+TEST(CimXmlWriterParts, PartsGoOnlyAtCommitsAndCannotBeTakenBack) {
+    std::string sent;
+    CimXmlWriter w(false);
+    w.sendPartsTo([&sent](std::string&& part) { sent += "|" + part; }, 20);
+    w.open("IRETURNVALUE");
+    CimXmlWriter::Mark const first = w.mark();
+    w.element("VALUE", "one");
+    w.commit(); // 32 characters written: they go
+    EXPECT_EQ(sent, "|<IRETURNVALUE><VALUE>one</VALUE>");
+    EXPECT_FALSE(w.canRollback(first));
+    EXPECT_THROW(w.rollback(first), std::logic_error);
+    CimXmlWriter::Mark const second = w.mark();
+    w.element("VALUE", "two");
+    w.commit(); // 18 more: not yet
+    w.rollback(second);
+    w.element("VALUE", "three");
+    w.close();
+    EXPECT_EQ(sent + "|" + w.take(),
+              "|<IRETURNVALUE><VALUE>one</VALUE>|<VALUE>three</VALUE></IRETURNVALUE>");
+    EXPECT_EQ(w.sent(), 32u);
+}
