@@ -25,8 +25,20 @@ namespace QLN {
 namespace {
 u32 const noReplacedDisk = 0xFFFFFFFF;
 
-bool matches(VeldraPhysicalDisk const& disk, ExtentEntry const& entry) {
-    return isSamePhysicalDisk(disk, entry.serialNumber, entry.enclosureBoxNumber, entry.bay);
+// A volume's member disk as the extent searches meet it: the carried extent
+// lists grow with every controller, so the member is read once, not at
+// every comparison.
+struct Member {
+    explicit Member(VeldraPhysicalDisk const& disk)
+        : serial(disk.getSerialNumber()), box(disk.getEnclosureBoxNumber()), bay(disk.getBay()) {}
+    std::string serial;
+    int box;
+    int bay;
+};
+
+bool matches(Member const& member, ExtentEntry const& entry) {
+    return isSamePhysicalDisk(member.serial, member.box, member.bay, entry.serialNumber,
+                              entry.enclosureBoxNumber, entry.bay);
 }
 } // namespace
 
@@ -56,6 +68,7 @@ void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
         VeldraLogicalDisk const& logical = logicals[k];
         int const logicalIndex = static_cast<int>(k);
         std::vector<VeldraPhysicalDisk> const members = logical.getLastAllPhysicalDisks();
+        std::vector<Member> const keys(members.begin(), members.end());
         _logger.info("previous physical disks for logical in create %d size %d:", logicalIndex,
                      static_cast<int>(members.size()));
 
@@ -77,7 +90,7 @@ void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
         for (std::size_t e = 0; e < nonSparePaths.size(); ++e) {
             ExtentEntry const& entry = nonSparePaths[e];
             for (std::size_t d = 0; d < members.size(); ++d) {
-                if (!matches(members[d], entry)) {
+                if (!matches(keys[d], entry)) {
                     continue;
                 }
                 _logger.info("non spare %d match phys %d:", static_cast<int>(e),
@@ -93,8 +106,9 @@ void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
         // One redundancy set at most, made when the first spare member shows up.
         QLN_VDStorageRedundancySet* redundancySet = nullptr;
         for (ExtentEntry const& spare : sparePaths) {
-            for (VeldraPhysicalDisk const& member : members) {
-                if (!matches(member, spare)) {
+            for (std::size_t d = 0; d < members.size(); ++d) {
+                VeldraPhysicalDisk const& member = members[d];
+                if (!matches(keys[d], spare)) {
                     continue;
                 }
                 if (redundancySet == nullptr) {
@@ -110,12 +124,12 @@ void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
                 _logger.info(
                     "spared disk id %d for disk %d for logical %d:", static_cast<int>(replaced),
                     static_cast<int>(member.getId()), logicalIndex);
-                for (VeldraPhysicalDisk const& stoodIn : members) {
-                    if (stoodIn.getId() != replaced) {
+                for (std::size_t s = 0; s < members.size(); ++s) {
+                    if (members[s].getId() != replaced) {
                         continue;
                     }
                     for (ExtentEntry const& data : nonSparePaths) {
-                        if (matches(stoodIn, data)) {
+                        if (matches(keys[s], data)) {
                             add(new QLN_VDSpareExtentStorageExtent(_logger, ns, spare.extent,
                                                                    data.extent));
                             break;
@@ -126,7 +140,7 @@ void GraphBuilder::addLogicalDisks(int number, VeldraController* controller,
         }
         if (redundancySet != nullptr) {
             for (ExtentEntry const& entry : nonSparePaths) {
-                for (VeldraPhysicalDisk const& member : members) {
+                for (Member const& member : keys) {
                     if (matches(member, entry)) {
                         add(new QLN_VDStorageRedundancySetStorageExtent(_logger, ns, redundancySet,
                                                                         entry.extent));

@@ -9,8 +9,13 @@ namespace CmpiCpp {
 
 namespace {
 void appendFolded(std::string& out, std::string const& name) {
-    for (char c : name)
-        out += (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+    std::size_t const at = out.size();
+    out += name;
+    for (std::size_t i = at; i < out.size(); ++i) {
+        char const c = out[i];
+        if (c >= 'A' && c <= 'Z')
+            out[i] = static_cast<char>(c - 'A' + 'a');
+    }
 }
 } // namespace
 
@@ -134,15 +139,29 @@ std::string CmpiObjectPath::canonicalKey() const {
 }
 
 void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
-    // Keys in folded-name order; a path never holds one name twice.
-    std::vector<std::size_t> order(_keys.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = i;
-    std::sort(order.begin(), order.end(),
-              [&](std::size_t a, std::size_t b) { return _keys[a].first < _keys[b].first; });
+    // Keys in folded-name order; a path never holds one name twice. Paths
+    // have a handful of keys: they are sorted in place on the stack, since
+    // a graph build makes hundreds of thousands of these keys.
+    constexpr std::size_t few = 16;
+    std::size_t onStack[few];
+    std::vector<std::size_t> onHeap;
+    std::size_t* order = onStack;
+    if (_keys.size() > few) {
+        onHeap.resize(_keys.size());
+        order = onHeap.data();
+    }
+    for (std::size_t i = 0; i < _keys.size(); ++i) {
+        std::size_t j = i;
+        while (j > 0 && _keys[i].first < _keys[order[j - 1]].first) {
+            order[j] = order[j - 1];
+            --j;
+        }
+        order[j] = i;
+    }
     appendFolded(out, _className.str());
     char sep = '.';
-    for (std::size_t i : order) {
+    for (std::size_t k = 0; k < _keys.size(); ++k) {
+        std::size_t const i = order[k];
         out += sep;
         sep = ',';
         appendFolded(out, _keys[i].first.str());

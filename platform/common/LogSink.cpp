@@ -18,20 +18,6 @@ std::string lower(std::string text) {
     return text;
 }
 
-std::string timestamp() {
-    auto now = std::chrono::system_clock::now();
-    std::time_t seconds = std::chrono::system_clock::to_time_t(now);
-    auto millis =
-        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() %
-        1000;
-    std::tm utc{};
-    gmtime_r(&seconds, &utc);
-    char buf[40];
-    std::size_t n = std::strftime(buf, sizeof buf, "%Y-%m-%dT%H:%M:%S", &utc);
-    std::snprintf(buf + n, sizeof buf - n, ".%03dZ", static_cast<int>(millis));
-    return buf;
-}
-
 } // namespace
 
 LogSink& LogSink::instance() {
@@ -123,6 +109,24 @@ void LogSink::_configure() {
     }
 }
 
+void LogSink::_appendTimestamp(std::string& out) {
+    auto const now = std::chrono::system_clock::now();
+    auto const millis =
+        std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count();
+    long long const second = millis / 1000;
+    if (second != _stampSecond) {
+        std::time_t const seconds = static_cast<std::time_t>(second);
+        std::tm utc{};
+        gmtime_r(&seconds, &utc);
+        std::strftime(_stamp, sizeof _stamp, "%Y-%m-%dT%H:%M:%S", &utc);
+        _stampSecond = second;
+    }
+    char fraction[8];
+    std::snprintf(fraction, sizeof fraction, ".%03dZ", static_cast<int>(millis % 1000));
+    out += _stamp;
+    out += fraction;
+}
+
 void LogSink::write(LogLevel level, std::string const& source, std::string const& text) {
     _configureIfStale();
     std::lock_guard<std::mutex> lock(_mutex);
@@ -150,8 +154,16 @@ void LogSink::_emit(LogLevel level, std::string const& source, std::string const
     case Destination::File:
     case Destination::Stderr: {
         std::FILE* out = _file ? _file : stderr;
-        std::string line = timestamp() + " " + levelName(level) + " " + source + ": " + text + "\n";
-        std::fputs(line.c_str(), out);
+        _line.clear();
+        _appendTimestamp(_line);
+        _line += ' ';
+        _line += levelName(level);
+        _line += ' ';
+        _line += source;
+        _line += ": ";
+        _line += text;
+        _line += '\n';
+        std::fwrite(_line.data(), 1, _line.size(), out);
         std::fflush(out);
         return;
     }

@@ -27,10 +27,16 @@ private:
     void _configure();
     void _closeDestination();
     void _emit(LogLevel level, std::string const& source, std::string const& text);
+    void _appendTimestamp(std::string& out);
 
     std::mutex _mutex;
     std::atomic<unsigned long> _generation{~0UL};
     std::atomic<int> _minLevel{0};
     Destination _destination = Destination::Stderr;
     std::FILE* _file = nullptr;
+    // A graph build logs hundreds of thousands of lines: each is put
+    // together in one reused buffer, and the date part is made once a second.
+    std::string _line;
+    long long _stampSecond = -1;
+    char _stamp[24] = {};
 };

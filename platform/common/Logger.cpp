@@ -3,11 +3,21 @@
 #include "LogSink.h"
 
 #include <cstdio>
+#include <mutex>
+#include <unordered_set>
 #include <vector>
 
-Logger::Logger() = default;
+std::string const* Logger::_intern(std::string name) {
+    // Never destroyed: loggers of objects torn down at exit still point here.
+    static auto* names = new std::unordered_set<std::string>();
+    static auto* mutex = new std::mutex();
+    std::lock_guard<std::mutex> lock(*mutex);
+    return &*names->insert(std::move(name)).first;
+}
 
-Logger::Logger(std::string const& name) : _source(name) {}
+Logger::Logger() : _source(_intern(std::string())) {}
+
+Logger::Logger(std::string const& name) : _source(_intern(name)) {}
 
 Logger::Logger(Logger const& other) = default;
 
@@ -16,7 +26,7 @@ Logger& Logger::operator=(Logger const& other) = default;
 Logger::~Logger() = default;
 
 void Logger::appendLogSource(std::string const& text) {
-    _source += text;
+    _source = _intern(*_source + text);
 }
 
 void Logger::_log(int level, char const* format, va_list args) const {
@@ -44,7 +54,7 @@ void Logger::_log(int level, char const* format, va_list args) const {
     while (!text.empty() && text.back() == '\n') {
         text.pop_back();
     }
-    sink.write(logLevel, _source, text);
+    sink.write(logLevel, *_source, text);
 }
 
 void Logger::info(char const* format, ...) const {

@@ -7,7 +7,9 @@
 // (VELDRA_LOG: "stderr", "syslog" or a file path; VELDRA_LOG_LEVEL: "info",
 // "warn" or "error"). A line carries time, level, source and text:
 //   2026-11-23T00:38:16.123Z WARN QLNVeldra:QLN_VDArraySystem: text
-// Loggers are cheap values; all of them share one thread-safe sink.
+// Loggers are cheap values; all of them share one thread-safe sink. The
+// source names are kept once for the process: every instance of the model
+// has a logger, and they share a few hundred names.
 #include <cstdarg>
 #include <string>
 
@@ -20,7 +22,7 @@ public:
     ~Logger();
 
     void appendLogSource(std::string const& text);
-    std::string const& getLogSource() const { return _source; }
+    std::string const& getLogSource() const { return *_source; }
 
     void info(char const* format, ...) const __attribute__((format(printf, 2, 3)));
     void warn(char const* format, ...) const __attribute__((format(printf, 2, 3)));
@@ -28,6 +30,7 @@ public:
 
 private:
     void _log(int level, char const* format, va_list args) const;
+    static std::string const* _intern(std::string name);
 
-    std::string _source;
+    std::string const* _source;
 };

@@ -190,20 +190,27 @@ CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure co
     return path;
 }
 
-bool isEnclosureBox(VeldraEnclosure enclosure, int box) {
+bool isEnclosureBox(VeldraEnclosure const& enclosure, int box) {
     return enclosure.getEnclosureBoxNumber() == static_cast<u32>(box);
 }
 
-bool isSamePhysicalDisk(VeldraPhysicalDisk disk, std::string serial, int box, int bay) {
-    std::string own = disk.getSerialNumber();
+bool isSamePhysicalDisk(VeldraPhysicalDisk const& disk, std::string const& serial, int box,
+                        int bay) {
+    return isSamePhysicalDisk(disk.getSerialNumber(), disk.getEnclosureBoxNumber(), disk.getBay(),
+                              serial, box, bay);
+}
+
+bool isSamePhysicalDisk(std::string const& own, int ownBox, int ownBay, std::string const& serial,
+                        int box, int bay) {
     if (!serial.empty()) {
         return serial == own;
     }
     // Only a disk without a serial number is known by its place.
-    return own.empty() && disk.getEnclosureBoxNumber() == box && disk.getBay() == bay;
+    return own.empty() && ownBox == box && ownBay == bay;
 }
 
-bool isPhysicalDiskAtPort(VeldraPhysicalDisk disk, std::string port, int box, int bay) {
+bool isPhysicalDiskAtPort(VeldraPhysicalDisk const& disk, std::string const& port, int box,
+                          int bay) {
     return isPortInPaths(port, disk.getLastAllPhysicalPaths()) &&
            disk.getEnclosureBoxNumber() == box && disk.getBay() == bay;
 }

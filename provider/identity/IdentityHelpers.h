@@ -64,9 +64,16 @@ CmpiCpp::CmpiObjectPath makeDiskDrivePath(VeldraControllerData const& data, int 
 CmpiCpp::CmpiObjectPath makeStorageEnclosurePath(int index, VeldraEnclosure const& enclosure);
 CmpiCpp::CmpiObjectPath makeEnclosureProcessorPath(int index, VeldraEnclosure const& enclosure);
 
-// The comparison steps of the worker's linear searches.
-bool isEnclosureBox(VeldraEnclosure enclosure, int box);
-bool isSamePhysicalDisk(VeldraPhysicalDisk disk, std::string serial, int box, int bay);
-bool isPhysicalDiskAtPort(VeldraPhysicalDisk disk, std::string port, int box, int bay);
+// The comparison steps of the worker's linear searches. They run for every
+// pair of a search, so they look at the records in place.
+bool isEnclosureBox(VeldraEnclosure const& enclosure, int box);
+bool isSamePhysicalDisk(VeldraPhysicalDisk const& disk, std::string const& serial, int box,
+                        int bay);
+// The same rule for a disk whose serial number and place were read once:
+// a search that meets one disk many times reads them only once.
+bool isSamePhysicalDisk(std::string const& own, int ownBox, int ownBay, std::string const& serial,
+                        int box, int bay);
+bool isPhysicalDiskAtPort(VeldraPhysicalDisk const& disk, std::string const& port, int box,
+                          int bay);
 
 } // namespace QLN

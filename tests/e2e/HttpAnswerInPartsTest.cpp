@@ -31,8 +31,8 @@ protected:
         }
     }
     std::string ask(std::string const& extraHeaders = "", bool http10 = false) {
-        std::string request = post("EnumerateInstances", body("EnumerateInstances", ""),
-                                   extraHeaders);
+        std::string request =
+            post("EnumerateInstances", body("EnumerateInstances", ""), extraHeaders);
         if (http10)
             request.replace(request.find("HTTP/1.1"), 8, "HTTP/1.0");
         return rawExchange(_port, request);
