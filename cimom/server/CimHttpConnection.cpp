@@ -1,4 +1,5 @@
 #include "CimHttpConnection.h"
+#include "FreedMemory.h"
 
 #include "CimOperationError.h"
 #include "PasswordFile.h"
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <malloc.h>
 #include <strings.h>
 
 namespace Cimom {
@@ -137,7 +137,7 @@ void CimHttpServer::Shared::trimWhenQuiet(std::size_t answerBytes) {
         trimTimer.async_wait([this](beast::error_code ec) {
             if (ec)
                 return;
-            asio::post(workers, [] { malloc_trim(0); });
+            asio::post(workers, [] { giveBackFreedMemory(); });
         });
     });
 }

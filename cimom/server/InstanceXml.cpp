@@ -157,11 +157,27 @@ void InstanceXml::writeInstance(CimXmlWriter& out, CimInstance const& instance,
             out.close();
         }
     }
-    for (auto const& p : instance.properties()) {
+    if (options.declarationsOf != options.cls) {
+        options.declarations.clear();
+        options.declarationsOf = options.cls;
+    }
+    auto const& properties = instance.properties();
+    for (std::size_t i = 0; i < properties.size(); ++i) {
+        auto const& p = properties[i];
         if (options.propertyList && !options.propertyList->count(CimName::lower(p.name)))
             continue;
-        CimClassDecl::Property const* decl =
-            options.cls ? options.cls->findProperty(p.name) : nullptr;
+        CimClassDecl::Property const* decl = nullptr;
+        if (options.cls) {
+            if (i < options.declarations.size() && options.declarations[i] &&
+                CimName::equal(options.declarations[i]->name, p.name)) {
+                decl = options.declarations[i];
+            } else {
+                decl = options.cls->findProperty(p.name);
+                if (i >= options.declarations.size())
+                    options.declarations.resize(i + 1, nullptr);
+                options.declarations[i] = decl;
+            }
+        }
         CimValue const& v = p.value;
         CimXmlWriter::Attributes attributes{{"NAME", p.name}};
         char const* tag;

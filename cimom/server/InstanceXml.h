@@ -11,6 +11,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 namespace Cimom {
 
@@ -25,6 +26,11 @@ public:
         bool includeQualifiers = false;
         bool includeClassOrigin = false;
         std::optional<std::set<std::string>> propertyList; // lower-case names
+        // The declarations found for the last instance's properties, by
+        // position: instances of one class set their properties in one
+        // order, so the next instance mostly finds them without a search.
+        mutable std::vector<CimClassDecl::Property const*> declarations;
+        mutable CimClassDecl const* declarationsOf = nullptr;
     };
 
     static void writeInstanceName(CimXmlWriter& out, CimObjectPath const& path);

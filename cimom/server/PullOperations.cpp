@@ -1,12 +1,11 @@
 #include "PullOperations.h"
+#include "FreedMemory.h"
 
 #include "CimOperationError.h"
 #include "CimOperationHandler.h"
 #include "CimRequest.h"
 #include "CimXmlWriter.h"
 #include "InstanceOperations.h"
-
-#include <malloc.h>
 
 #include <charconv>
 #include <optional>
@@ -161,7 +160,7 @@ void PullOperations::_open(CimRequest const& request, CimXmlWriter& out, Kind ki
         // several times that freed in this worker's malloc arena, and the
         // small first answer would not have it handed back.
         results.text.shrink_to_fit();
-        malloc_trim(0);
+        giveBackFreedMemory();
     }
     _writeBatch(out, _contexts.open({request.client(), request.nameSpace()}, std::move(results),
                                     timeout, max));
