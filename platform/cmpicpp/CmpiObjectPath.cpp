@@ -138,26 +138,30 @@ std::string CmpiObjectPath::canonicalKey() const {
     return scratch;
 }
 
-void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
-    // Keys in folded-name order; a path never holds one name twice. Paths
-    // have a handful of keys: they are sorted in place on the stack, since
-    // a graph build makes hundreds of thousands of these keys.
-    constexpr std::size_t few = 16;
-    std::size_t onStack[few];
-    std::vector<std::size_t> onHeap;
-    std::size_t* order = onStack;
-    if (_keys.size() > few) {
-        onHeap.resize(_keys.size());
-        order = onHeap.data();
-    }
-    for (std::size_t i = 0; i < _keys.size(); ++i) {
+namespace {
+// Sorts positions by the folded names they give, in place: paths have a
+// handful of keys, and a graph build makes hundreds of thousands of keys.
+template <typename NameAt> void sortByName(std::size_t* order, std::size_t count, NameAt nameAt) {
+    for (std::size_t i = 0; i < count; ++i) {
         std::size_t j = i;
-        while (j > 0 && _keys[i].first < _keys[order[j - 1]].first) {
+        while (j > 0 && nameAt(i) < nameAt(order[j - 1])) {
             order[j] = order[j - 1];
             --j;
         }
         order[j] = i;
     }
+}
+
+constexpr std::size_t fewKeys = 16;
+} // namespace
+
+void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
+    // Keys in folded-name order; a path never holds one name twice.
+    std::size_t onStack[fewKeys];
+    std::vector<std::size_t> onHeap(_keys.size() > fewKeys ? _keys.size() : 0);
+    std::size_t* order = onHeap.empty() ? onStack : onHeap.data();
+    sortByName(order, _keys.size(),
+               [this](std::size_t i) -> CmpiName const& { return _keys[i].first; });
     appendFolded(out, _className.str());
     char sep = '.';
     for (std::size_t k = 0; k < _keys.size(); ++k) {
@@ -167,6 +171,26 @@ void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
         appendFolded(out, _keys[i].first.str());
         out += '=';
         _keys[i].second.appendKeyText(out);
+    }
+}
+
+void CmpiObjectPath::appendCanonicalKey(std::string& out, CmpiName const& className,
+                                        ReferenceKey const* keys, std::size_t count) {
+    std::size_t onStack[fewKeys];
+    std::vector<std::size_t> onHeap(count > fewKeys ? count : 0);
+    std::size_t* order = onHeap.empty() ? onStack : onHeap.data();
+    sortByName(order, count, [keys](std::size_t i) -> CmpiName const& { return *keys[i].name; });
+    appendFolded(out, className.str());
+    char sep = '.';
+    for (std::size_t k = 0; k < count; ++k) {
+        ReferenceKey const& key = keys[order[k]];
+        out += sep;
+        sep = ',';
+        appendFolded(out, key.name->str());
+        // As CmpiData::appendKeyText writes a reference.
+        out += "={";
+        out += *key.target;
+        out += '}';
     }
 }
 

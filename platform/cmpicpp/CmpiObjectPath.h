@@ -60,6 +60,15 @@ public:
     // to index paths.
     std::string canonicalKey() const;
     void appendCanonicalKey(std::string& out) const;
+    // The canonical key of a path whose keys are all references, made from
+    // its class, its key names and the canonical keys of what they point
+    // at: the text appendCanonicalKey gives for that path, without the path.
+    struct ReferenceKey {
+        CmpiName const* name;
+        std::string const* target; // the target's canonical key
+    };
+    static void appendCanonicalKey(std::string& out, CmpiName const& className,
+                                   ReferenceKey const* keys, std::size_t count);
     std::size_t hash() const;
 
     bool operator==(CmpiObjectPath const& other) const;

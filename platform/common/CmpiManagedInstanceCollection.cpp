@@ -21,6 +21,8 @@ using CmpiCpp::CmpiObjectPathResult;
 namespace QLN {
 
 namespace {
+// Associations have two or three ends; one with more keeps its key text.
+constexpr std::size_t maxReferenceKeys = 8;
 
 bool fits(CmpiName const& filter, CmpiName const& name) {
     return filter.empty() || filter == name;
@@ -93,10 +95,10 @@ CmpiManagedInstanceCollection::~CmpiManagedInstanceCollection() {
 }
 
 void CmpiManagedInstanceCollection::_index(Entry* entry, std::vector<NamedEnd>& ends) {
-    if (entry->key.empty()) {
+    if (!entry->reachable) {
         return;
     }
-    _byPath[entry->key] = entry;
+    _byPath.emplace(entry->keyHash, entry);
     entry->references.clear();
     for (auto& named : ends) {
         auto [at, added] = _byEnd.try_emplace(std::move(named.key));
@@ -114,12 +116,15 @@ void CmpiManagedInstanceCollection::_index(Entry* entry, std::vector<NamedEnd>& 
 }
 
 void CmpiManagedInstanceCollection::_unindex(Entry* entry) {
-    if (entry->key.empty()) {
+    if (!entry->reachable) {
         return;
     }
-    auto byPath = _byPath.find(entry->key);
-    if (byPath != _byPath.end() && byPath->second == entry) {
-        _byPath.erase(byPath);
+    auto [first, last] = _byPath.equal_range(entry->keyHash);
+    for (auto at = first; at != last; ++at) {
+        if (at->second == entry) {
+            _byPath.erase(at);
+            break;
+        }
     }
     auto const& references = entry->references;
     for (std::size_t i = 0; i < references.size(); ++i) {
@@ -141,6 +146,38 @@ void CmpiManagedInstanceCollection::_unindex(Entry* entry) {
     }
     // The ends may be gone now; the entry is on its way out.
     entry->references.clear();
+}
+
+CmpiManagedInstanceCollection::Entry*
+CmpiManagedInstanceCollection::_find(std::string_view key) const {
+    auto [first, last] = _byPath.equal_range(std::hash<std::string_view>{}(key));
+    std::string scratch;
+    for (auto at = first; at != last; ++at) {
+        if (_keyText(at->second, scratch) == key) {
+            return at->second;
+        }
+    }
+    return nullptr;
+}
+
+std::string_view CmpiManagedInstanceCollection::_keyText(Entry const* entry,
+                                                         std::string& scratch) const {
+    if (!entry->keyFromReferences) {
+        return entry->key;
+    }
+    CmpiObjectPath::ReferenceKey keys[maxReferenceKeys];
+    std::size_t const count = std::min(entry->references.size(), maxReferenceKeys);
+    for (std::size_t i = 0; i < count; ++i) {
+        keys[i] = {&entry->references[i].role, entry->references[i].end->key};
+    }
+    scratch.clear();
+    CmpiObjectPath::appendCanonicalKey(scratch, entry->className, keys, count);
+    return scratch;
+}
+
+std::string CmpiManagedInstanceCollection::_describe(Entry const* entry) const {
+    std::string scratch;
+    return std::string(_keyText(entry, scratch));
 }
 
 template <typename Visit>
@@ -185,10 +222,11 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     std::vector<NamedEnd> ends;
     // Path and references are read before the lock: nobody else sees the
     // instance yet, and getPath() of an association asks its ends.
+    std::string key;
     try {
         CmpiObjectPath path = instance->getPath();
         entry->className = instance->getClassName();
-        entry->key = path.canonicalKey();
+        key = path.canonicalKey();
         if (isAssociation(instance)) {
             for (unsigned int i = 0; i < path.getKeyCount(); ++i) {
                 auto const& value = path.getKeyAt(i);
@@ -198,9 +236,18 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
                 }
             }
         }
+        entry->keyHash = std::hash<std::string_view>{}(key);
+        entry->reachable = true;
+        entry->keyFromReferences =
+            !ends.empty() && ends.size() == path.getKeyCount() && ends.size() <= maxReferenceKeys;
+        if (!entry->keyFromReferences) {
+            entry->key = key;
+        }
     } catch (std::exception const& e) {
         // Ownership was handed over, so the instance stays (and is freed with
         // the collection), but without a path nobody can find it.
+        entry->reachable = false;
+        entry->keyFromReferences = false;
         entry->key.clear();
         ends.clear();
         _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s",
@@ -211,18 +258,18 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     {
         std::unique_lock lock(_mutex);
         ++_generation;
-        if (!entry->key.empty()) {
+        if (entry->reachable) {
             _servedClasses.insert(lowered(entry->className));
         }
-        auto existing = entry->key.empty() ? _byPath.end() : _byPath.find(entry->key);
-        if (existing == _byPath.end()) {
+        Entry* existing = entry->reachable ? _find(key) : nullptr;
+        if (existing == nullptr) {
             _byClass[lowered(entry->className)].push_back(entry.get());
             _entries.push_back(std::move(entry));
             _index(_entries.back().get(), ends);
             return true;
         }
-        std::size_t position = _positionOf(existing->second);
-        _unindex(existing->second);
+        std::size_t position = _positionOf(existing);
+        _unindex(existing);
         replaced = std::move(_entries[position]);
         _entries[position] = std::move(entry);
         _index(_entries[position].get(), ends);
@@ -233,8 +280,7 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
             _rebuildClassLists();
         }
     }
-    _logger.warn("createInstance: %s replaces an instance with the same path",
-                 replaced->key.c_str());
+    _logger.warn("createInstance: %s replaces an instance with the same path", key.c_str());
     return false;
 }
 
@@ -243,13 +289,13 @@ bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
     std::unique_ptr<Entry> gone;
     {
         std::unique_lock lock(_mutex);
-        auto found = _byPath.find(key);
-        if (found == _byPath.end()) {
+        Entry* found = _find(key);
+        if (found == nullptr) {
             return false;
         }
         ++_generation;
-        std::size_t position = _positionOf(found->second);
-        _unindex(found->second);
+        std::size_t position = _positionOf(found);
+        _unindex(found);
         gone = std::move(_entries[position]);
         _entries.erase(_entries.begin() + static_cast<std::ptrdiff_t>(position));
         auto list = _byClass.find(lowered(gone->className));
@@ -266,16 +312,16 @@ CmpiManagedInstance*
 CmpiManagedInstanceCollection::getManagedInstance(CmpiObjectPath const& path) const {
     std::string key = path.canonicalKey();
     std::shared_lock lock(_mutex);
-    auto found = _byPath.find(key);
-    return found == _byPath.end() ? nullptr : found->second->instance.get();
+    Entry const* found = _find(key);
+    return found == nullptr ? nullptr : found->instance.get();
 }
 
 std::shared_ptr<CmpiManagedInstance>
 CmpiManagedInstanceCollection::shareManagedInstance(CmpiObjectPath const& path) const {
     std::string key = path.canonicalKey();
     std::shared_lock lock(_mutex);
-    auto found = _byPath.find(key);
-    return found == _byPath.end() ? nullptr : found->second->instance;
+    Entry const* found = _find(key);
+    return found == nullptr ? nullptr : found->instance;
 }
 
 CmpiManagedInstance* CmpiManagedInstanceCollection::getManagedInstance(unsigned int index) const {
@@ -322,9 +368,10 @@ bool CmpiManagedInstanceCollection::_instanceOf(Entry const* entry, CmpiInstance
         out = entry->instance->getInstance();
         return true;
     } catch (std::exception const& e) {
-        _logger.warn("%s: skipped %s, getInstance failed: %s", what, entry->key.c_str(), e.what());
+        _logger.warn("%s: skipped %s, getInstance failed: %s", what, _describe(entry).c_str(),
+                     e.what());
     } catch (...) {
-        _logger.warn("%s: skipped %s, getInstance failed", what, entry->key.c_str());
+        _logger.warn("%s: skipped %s, getInstance failed", what, _describe(entry).c_str());
     }
     return false;
 }
@@ -379,12 +426,12 @@ bool CmpiManagedInstanceCollection::getInstance(CmpiInstanceResult& result, Cmpi
     CmpiInstance instance;
     {
         std::shared_lock lock(_mutex);
-        auto found = _byPath.find(key);
-        if (found == _byPath.end() || !found->second->instance->visible()) {
+        Entry const* found = _find(key);
+        if (found == nullptr || !found->instance->visible()) {
             return false;
         }
         // A failure here is the caller's to see: one instance was asked for.
-        instance = found->second->instance->getInstance();
+        instance = found->instance->getInstance();
     }
     result.returnInstance(instance.filtered(properties));
     return true;
@@ -450,8 +497,7 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
                     !classFilter.fits(end->path.getClassName()) || seen.count(end)) {
                     continue;
                 }
-                auto served = _byPath.find(*end->key);
-                Entry const* entry = served == _byPath.end() ? nullptr : served->second;
+                Entry const* entry = _find(*end->key);
                 if (entry && !entry->instance->visible()) {
                     continue;
                 }
@@ -562,7 +608,7 @@ void CmpiManagedInstanceCollection::referenceNames(CmpiObjectPathResult& result,
                 found.push_back(association->instance->getPath());
             } catch (std::exception const& e) {
                 _logger.warn("referenceNames: skipped %s, getPath failed: %s",
-                             association->key.c_str(), e.what());
+                             _describe(association).c_str(), e.what());
             }
         }
     }

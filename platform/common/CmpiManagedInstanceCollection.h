@@ -136,7 +136,13 @@ private:
     struct Entry {
         std::shared_ptr<CmpiManagedInstance> instance;
         CmpiCpp::CmpiName className;
-        std::string key;                   // empty when getPath() failed at insertion
+        // The path's canonical key text, kept unless the references make it
+        // again: most of the graph is associations whose keys are all
+        // references, and their text would be a fifth of its memory.
+        std::string key;
+        std::size_t keyHash = 0;
+        bool reachable = false;            // getPath() worked at insertion
+        bool keyFromReferences = false;    // `key` is left empty
         std::vector<Reference> references; // reference keys, for associations only
     };
     // A far end that fits the filters: its path, and the entry serving it
@@ -147,6 +153,12 @@ private:
     };
 
     void _index(Entry* entry, std::vector<NamedEnd>& ends);
+    // The entry whose path has this canonical key text, or null.
+    Entry* _find(std::string_view key) const;
+    // An entry's canonical key text: its own, or made into `scratch`.
+    std::string_view _keyText(Entry const* entry, std::string& scratch) const;
+    // For log lines: the key text, made for the line when not kept.
+    std::string _describe(Entry const* entry) const;
     void _unindex(Entry* entry);
     // Visits the entries of one class (all of them for an empty name) in the
     // collection's order.
@@ -169,10 +181,10 @@ private:
     mutable std::shared_mutex _mutex;
     std::vector<std::unique_ptr<Entry>> _entries;
     std::uint64_t _generation = 0;
-    // Keyed by views of the entries' own key texts: an entry never changes
-    // its key and leaves this index before it is deleted. A copy per
-    // instance would be a tenth of the graph's memory.
-    std::unordered_map<std::string_view, Entry*> _byPath;
+    // By the hash of the entries' key texts; the texts decide between
+    // entries that share a hash. An entry never changes its key and leaves
+    // this index before it is deleted.
+    std::unordered_multimap<std::size_t, Entry*> _byPath;
     std::unordered_map<std::string, End> _byEnd;
     // Each class's entries by lower-cased class name: an enumeration of one
     // class would otherwise walk the whole graph, some forty entries for

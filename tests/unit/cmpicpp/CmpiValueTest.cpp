@@ -95,6 +95,30 @@ TEST(CmpiObjectPath, ReferenceKeysCompareAsPaths) {
     EXPECT_EQ(index.count(assocC), 0u);
 }
 
+// Catches: the key an association's index entry makes from its ends
+// differing from the key of the association's own path, so that a request
+// naming the path no longer finds it.
+TEST(CmpiObjectPath, ReferenceKeysMakeTheSameCanonicalKeyAsThePath) {
+    CmpiObjectPath assoc("root/mwq", "QLN_VDStoragePoolStorageExtent");
+    CmpiObjectPath pool("root/mwq", "QLN_VDStoragePool");
+    pool.addKey("InstanceID", "0:pool");
+    assoc.addKey("PartComponent", diskPath("0:1:2"));
+    assoc.addKey("GroupComponent", pool);
+    std::string const diskKey = diskPath("0:1:2").canonicalKey();
+    std::string const poolKey = pool.canonicalKey();
+    CmpiName const part("PartComponent"), group("GroupComponent");
+    // In the path's order and the other way round: the text sorts by name.
+    for (bool swapped : {false, true}) {
+        CmpiObjectPath::ReferenceKey keys[2] = {{&part, &diskKey}, {&group, &poolKey}};
+        if (swapped)
+            std::swap(keys[0], keys[1]);
+        std::string made;
+        CmpiObjectPath::appendCanonicalKey(made, CmpiName("QLN_VDStoragePoolStorageExtent"), keys,
+                                           2);
+        EXPECT_EQ(made, assoc.canonicalKey());
+    }
+}
+
 // Catches: a duplicated key on re-add, lost key order, a wrong text form and
 // a lookup of a missing key that returns garbage instead of throwing.
 TEST(CmpiObjectPath, KeysReplaceInPlaceAndRenderInOrder) {
