@@ -111,7 +111,7 @@ void CmpiManagedInstanceCollection::_index(Entry* entry, std::vector<NamedEnd>& 
             end.associations.end()) {
             end.associations.push_back(entry);
         }
-        entry->references.push_back({std::move(named.role), &end});
+        entry->references.push_back({_intern(named.role), &end});
     }
 }
 
@@ -168,10 +168,10 @@ std::string_view CmpiManagedInstanceCollection::_keyText(Entry const* entry,
     CmpiObjectPath::ReferenceKey keys[maxReferenceKeys];
     std::size_t const count = std::min(entry->references.size(), maxReferenceKeys);
     for (std::size_t i = 0; i < count; ++i) {
-        keys[i] = {&entry->references[i].role, entry->references[i].end->key};
+        keys[i] = {entry->references[i].role, entry->references[i].end->key};
     }
     scratch.clear();
-    CmpiObjectPath::appendCanonicalKey(scratch, entry->className, keys, count);
+    CmpiObjectPath::appendCanonicalKey(scratch, *entry->className, keys, count);
     return scratch;
 }
 
@@ -199,8 +199,12 @@ void CmpiManagedInstanceCollection::_forClass(CmpiName const& className, Visit&&
 void CmpiManagedInstanceCollection::_rebuildClassLists() {
     _byClass.clear();
     for (auto const& entry : _entries) {
-        _byClass[lowered(entry->className)].push_back(entry.get());
+        _byClass[lowered(*entry->className)].push_back(entry.get());
     }
+}
+
+CmpiName const* CmpiManagedInstanceCollection::_intern(CmpiName const& name) {
+    return &_names.try_emplace(name.str(), name).first->second;
 }
 
 std::size_t CmpiManagedInstanceCollection::_positionOf(Entry const* entry) const {
@@ -223,9 +227,10 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     // Path and references are read before the lock: nobody else sees the
     // instance yet, and getPath() of an association asks its ends.
     std::string key;
+    CmpiName className;
     try {
         CmpiObjectPath path = instance->getPath();
-        entry->className = instance->getClassName();
+        className = instance->getClassName();
         key = path.canonicalKey();
         if (isAssociation(instance)) {
             for (unsigned int i = 0; i < path.getKeyCount(); ++i) {
@@ -258,12 +263,13 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
     {
         std::unique_lock lock(_mutex);
         ++_generation;
+        entry->className = _intern(className);
         if (entry->reachable) {
-            _servedClasses.insert(lowered(entry->className));
+            _servedClasses.insert(lowered(className));
         }
         Entry* existing = entry->reachable ? _find(key) : nullptr;
         if (existing == nullptr) {
-            _byClass[lowered(entry->className)].push_back(entry.get());
+            _byClass[lowered(className)].push_back(entry.get());
             _entries.push_back(std::move(entry));
             _index(_entries.back().get(), ends);
             return true;
@@ -273,8 +279,8 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         replaced = std::move(_entries[position]);
         _entries[position] = std::move(entry);
         _index(_entries[position].get(), ends);
-        if (replaced->className == _entries[position]->className) {
-            auto& list = _byClass[lowered(replaced->className)];
+        if (*replaced->className == *_entries[position]->className) {
+            auto& list = _byClass[lowered(className)];
             std::replace(list.begin(), list.end(), replaced.get(), _entries[position].get());
         } else {
             _rebuildClassLists();
@@ -298,7 +304,7 @@ bool CmpiManagedInstanceCollection::deleteInstance(CmpiObjectPath const& path) {
         _unindex(found);
         gone = std::move(_entries[position]);
         _entries.erase(_entries.begin() + static_cast<std::ptrdiff_t>(position));
-        auto list = _byClass.find(lowered(gone->className));
+        auto list = _byClass.find(lowered(*gone->className));
         if (list != _byClass.end()) {
             std::erase(list->second, gone.get());
         }
@@ -391,7 +397,7 @@ void CmpiManagedInstanceCollection::enumInstanceNames(CmpiObjectPathResult& resu
                 found.push_back(entry.instance->getPath());
             } catch (std::exception const& e) {
                 _logger.warn("enumInstanceNames: skipped an instance of %s, getPath failed: %s",
-                             entry.className.c_str(), e.what());
+                             entry.className->c_str(), e.what());
             }
         });
     }
@@ -455,12 +461,12 @@ CmpiManagedInstanceCollection::_fittingAssociations(CmpiObjectPath const& path,
     End const* source = &found->second;
     ClassFilter classFilter(assocClass, path.getNameSpace().str(), _classTest, _logger);
     for (Entry const* entry : found->second.associations) {
-        if (!classFilter.fits(entry->className) || !entry->instance->visible()) {
+        if (!classFilter.fits(*entry->className) || !entry->instance->visible()) {
             continue;
         }
         bool named =
             std::any_of(entry->references.begin(), entry->references.end(),
-                        [&](Reference const& r) { return r.end == source && fits(role, r.role); });
+                        [&](Reference const& r) { return r.end == source && fits(role, *r.role); });
         if (named) {
             fitting.push_back(entry);
         }
@@ -487,13 +493,13 @@ CmpiManagedInstanceCollection::_farEnds(CmpiObjectPath const& path, CmpiName con
     for (Entry const* association : _fittingAssociations(path, assocClass, role)) {
         auto const& references = association->references;
         for (std::size_t near = 0; near < references.size(); ++near) {
-            if (references[near].end != source || !fits(role, references[near].role)) {
+            if (references[near].end != source || !fits(role, *references[near].role)) {
                 continue;
             }
             for (std::size_t far = 0; far < references.size(); ++far) {
                 Reference const& reference = references[far];
                 End const* end = reference.end;
-                if (far == near || !fits(resultRole, reference.role) ||
+                if (far == near || !fits(resultRole, *reference.role) ||
                     !classFilter.fits(end->path.getClassName()) || seen.count(end)) {
                     continue;
                 }

@@ -124,8 +124,8 @@ private:
         std::vector<Entry*> associations; // each at most once
     };
     struct Reference {
-        CmpiCpp::CmpiName role;
-        End const* end; // valid while the entry is indexed
+        CmpiCpp::CmpiName const* role; // one of _names
+        End const* end;                // valid while the entry is indexed
     };
     // A reference as read from an association's path, before it is indexed.
     struct NamedEnd {
@@ -135,7 +135,7 @@ private:
     };
     struct Entry {
         std::shared_ptr<CmpiManagedInstance> instance;
-        CmpiCpp::CmpiName className;
+        CmpiCpp::CmpiName const* className = &noName; // one of _names
         // The path's canonical key text, kept unless the references make it
         // again: most of the graph is associations whose keys are all
         // references, and their text would be a fifth of its memory.
@@ -153,6 +153,8 @@ private:
     };
 
     void _index(Entry* entry, std::vector<NamedEnd>& ends);
+    // The collection's one copy of a class or role name.
+    CmpiCpp::CmpiName const* _intern(CmpiCpp::CmpiName const& name);
     // The entry whose path has this canonical key text, or null.
     Entry* _find(std::string_view key) const;
     // An entry's canonical key text: its own, or made into `scratch`.
@@ -190,6 +192,10 @@ private:
     // class would otherwise walk the whole graph, some forty entries for
     // each one it answers with.
     std::unordered_map<std::string, std::vector<Entry*>> _byClass;
+    // Class and role names, once each by spelling: a graph has a few hundred
+    // names over a few hundred thousand entries and references.
+    std::unordered_map<std::string, CmpiCpp::CmpiName> _names;
+    static inline CmpiCpp::CmpiName const noName{};
     // Lower-cased names of every class this collection has held. A missing
     // end of one of them is gone (or never was), and asking the object
     // manager would only route the request back here.
