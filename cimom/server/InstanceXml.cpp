@@ -141,6 +141,40 @@ void InstanceXml::writeValue(CimXmlWriter& out, CimValue const& value) {
         out.element("VALUE", value.toText());
 }
 
+namespace {
+
+// The start and end tags of one property as the client reads them: the
+// element and its type from the value, or from the declaration for a null.
+InstanceXml::InstanceOptions::PropertyTags
+propertyTags(std::string const& name, CimValue const& v,
+             InstanceXml::InstanceOptions const& options) {
+    CimClassDecl::Property const* decl = options.cls ? options.cls->findProperty(name) : nullptr;
+    CimXmlWriter::Attributes attributes{{"NAME", name}};
+    char const* tag;
+    std::string_view type;
+    if (v.elementType() == CMPI_ref ||
+        (v.type() == CMPI_null && decl && decl->type == "reference")) {
+        tag = "PROPERTY.REFERENCE";
+        if (decl)
+            attributes.add("REFERENCECLASS", decl->refClass);
+    } else {
+        type = v.type() == CMPI_null ? (decl ? std::string_view(decl->type) : "string")
+                                     : elementTypeName(v);
+        tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY"
+                                                                              : "PROPERTY";
+        attributes.add("TYPE", type);
+        if (v.elementType() == CMPI_instance)
+            attributes.add("EmbeddedObject", "instance");
+    }
+    if (options.includeClassOrigin && decl)
+        attributes.add("CLASSORIGIN", decl->classOrigin);
+    CimXmlWriter open(false);
+    open.open(tag, attributes);
+    return {name, v.type(), open.take(), std::string("</") + tag + ">"};
+}
+
+} // namespace
+
 void InstanceXml::writeInstance(CimXmlWriter& out, CimInstance const& instance,
                                 InstanceOptions const& options) {
     out.open("INSTANCE", {{"CLASSNAME", instance.className()}});
@@ -157,51 +191,27 @@ void InstanceXml::writeInstance(CimXmlWriter& out, CimInstance const& instance,
             out.close();
         }
     }
-    if (options.declarationsOf != options.cls) {
-        options.declarations.clear();
-        options.declarationsOf = options.cls;
+    if (options.tagsOf != options.cls || options.tagsWithOrigin != options.includeClassOrigin) {
+        options.tags.clear();
+        options.tagsOf = options.cls;
+        options.tagsWithOrigin = options.includeClassOrigin;
     }
     auto const& properties = instance.properties();
     for (std::size_t i = 0; i < properties.size(); ++i) {
         auto const& p = properties[i];
         if (options.propertyList && !options.propertyList->count(CimName::lower(p.name)))
             continue;
-        CimClassDecl::Property const* decl = nullptr;
-        if (options.cls) {
-            if (i < options.declarations.size() && options.declarations[i] &&
-                CimName::equal(options.declarations[i]->name, p.name)) {
-                decl = options.declarations[i];
-            } else {
-                decl = options.cls->findProperty(p.name);
-                if (i >= options.declarations.size())
-                    options.declarations.resize(i + 1, nullptr);
-                options.declarations[i] = decl;
-            }
-        }
         CimValue const& v = p.value;
-        CimXmlWriter::Attributes attributes{{"NAME", p.name}};
-        char const* tag;
-        std::string_view type;
-        if (v.elementType() == CMPI_ref ||
-            (v.type() == CMPI_null && decl && decl->type == "reference")) {
-            tag = "PROPERTY.REFERENCE";
-            if (decl)
-                attributes.add("REFERENCECLASS", decl->refClass);
-        } else {
-            type = v.type() == CMPI_null ? (decl ? std::string_view(decl->type) : "string")
-                                         : elementTypeName(v);
-            tag = v.isArray() || (v.type() == CMPI_null && decl && decl->isArray) ? "PROPERTY.ARRAY"
-                                                                                  : "PROPERTY";
-            attributes.add("TYPE", type);
-            if (v.elementType() == CMPI_instance)
-                attributes.add("EmbeddedObject", "instance");
+        if (i >= options.tags.size())
+            options.tags.resize(i + 1);
+        InstanceOptions::PropertyTags& tags = options.tags[i];
+        if (tags.open.empty() || tags.type != v.type() || tags.name != p.name) {
+            tags = propertyTags(p.name, v, options);
         }
-        if (options.includeClassOrigin && decl)
-            attributes.add("CLASSORIGIN", decl->classOrigin);
-        out.open(tag, attributes);
+        out.raw(tags.open);
         if (!v.isNull())
             writeValue(out, v);
-        out.close();
+        out.raw(tags.close);
     }
     out.close();
 }

@@ -26,11 +26,18 @@ public:
         bool includeQualifiers = false;
         bool includeClassOrigin = false;
         std::optional<std::set<std::string>> propertyList; // lower-case names
-        // The declarations found for the last instance's properties, by
-        // position: instances of one class set their properties in one
-        // order, so the next instance mostly finds them without a search.
-        mutable std::vector<CimClassDecl::Property const*> declarations;
-        mutable CimClassDecl const* declarationsOf = nullptr;
+        // The tags written for the last instance's properties, by position:
+        // instances of one class set their properties in one order and with
+        // one type each, so the next instance mostly writes them as they are.
+        struct PropertyTags {
+            std::string name; // as spelled by the instance it was made for
+            CMPIType type;
+            std::string open;
+            std::string close;
+        };
+        mutable std::vector<PropertyTags> tags;
+        mutable CimClassDecl const* tagsOf = nullptr;
+        mutable bool tagsWithOrigin = false;
     };
 
     static void writeInstanceName(CimXmlWriter& out, CimObjectPath const& path);
