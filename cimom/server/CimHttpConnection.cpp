@@ -1,7 +1,7 @@
 #include "CimHttpConnection.h"
-#include "FreedMemory.h"
 
 #include "CimOperationError.h"
+#include "FreedMemory.h"
 #include "PasswordFile.h"
 #include "ServerLog.h"
 
@@ -439,8 +439,15 @@ template <class Stream> void CimHttpConnection<Stream>::_pumpParts() {
     }
     if (parts.trailers) {
         parts.trailer.set("CIMStatusCode", std::to_string(parts.failed));
-        if (parts.failed != 0)
-            parts.trailer.set("CIMStatusCodeDescription", parts.description);
+        if (parts.failed != 0) {
+            // A field value ends at a line break; one in the text would add
+            // fields of its own.
+            std::string description = parts.description;
+            std::replace_if(
+                description.begin(), description.end(),
+                [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+            parts.trailer.set("CIMStatusCodeDescription", description);
+        }
     }
     parts.writing = true;
     asio::async_write(_stream, http::make_chunk_last(parts.trailer),

@@ -1,10 +1,10 @@
 #include "PullOperations.h"
-#include "FreedMemory.h"
 
 #include "CimOperationError.h"
 #include "CimOperationHandler.h"
 #include "CimRequest.h"
 #include "CimXmlWriter.h"
+#include "FreedMemory.h"
 #include "InstanceOperations.h"
 
 #include <charconv>

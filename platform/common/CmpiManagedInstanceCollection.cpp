@@ -243,8 +243,11 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         }
         entry->keyHash = std::hash<std::string_view>{}(key);
         entry->reachable = true;
-        entry->keyFromReferences =
-            !ends.empty() && ends.size() == path.getKeyCount() && ends.size() <= maxReferenceKeys;
+        // The text is made again from the class the instance names, so that
+        // must be its path's class.
+        entry->keyFromReferences = !ends.empty() && ends.size() == path.getKeyCount() &&
+                                   ends.size() <= maxReferenceKeys &&
+                                   path.getClassName() == className;
         if (!entry->keyFromReferences) {
             entry->key = key;
         }
