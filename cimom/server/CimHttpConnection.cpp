@@ -56,14 +56,19 @@ bool decodeBase64(std::string const& in, std::string& out) {
     return true;
 }
 
+// What marks an HTTP answer as a CIM operation's, whole or in parts.
+void markCimAnswer(http::fields& fields) {
+    fields.set("CIMOperation", "MethodResponse");
+    fields.set(http::field::content_type, "application/xml; charset=\"utf-8\"");
+}
+
 http::response<http::string_body> responseOf(CimHttpExchange&& exchange) {
     http::response<http::string_body> response;
     response.result(static_cast<unsigned>(exchange.status));
     if (!exchange.cimError.empty())
         response.set("CIMError", exchange.cimError);
     if (exchange.status == 200) {
-        response.set("CIMOperation", "MethodResponse");
-        response.set(http::field::content_type, "application/xml; charset=\"utf-8\"");
+        markCimAnswer(response);
         // Answers run to megabytes: the body moves rather than being copied.
         response.body() = std::move(exchange.responseBody);
     } else if (!exchange.responseBody.empty()) {
@@ -372,8 +377,7 @@ template <class Stream> void CimHttpConnection<Stream>::_queuePart(std::string p
         }
         _parts->close = _parts->close || stopping;
         auto& header = _parts->header.emplace(http::status::ok, 11);
-        header.set("CIMOperation", "MethodResponse");
-        header.set(http::field::content_type, "application/xml; charset=\"utf-8\"");
+        markCimAnswer(header);
         if (_parts->trailers)
             header.set(http::field::trailer, "CIMStatusCode, CIMStatusCodeDescription");
         header.keep_alive(!_parts->close);

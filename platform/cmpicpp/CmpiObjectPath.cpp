@@ -139,9 +139,17 @@ std::string CmpiObjectPath::canonicalKey() const {
 }
 
 namespace {
-// Sorts positions by the folded names they give, in place: paths have a
-// handful of keys, and a graph build makes hundreds of thousands of keys.
-template <typename NameAt> void sortByName(std::size_t* order, std::size_t count, NameAt nameAt) {
+// The canonical text of a class and its keys: folded class name, then the
+// keys in folded-name order, each as folded name, '=' and its value's text.
+// Paths have a handful of keys, and a graph build makes hundreds of
+// thousands of these, so the order is sorted in place on the stack.
+template <typename NameAt, typename AppendValue>
+void appendKeyText(std::string& out, CmpiName const& className, std::size_t count, NameAt nameAt,
+                   AppendValue appendValue) {
+    constexpr std::size_t few = 16;
+    std::size_t onStack[few];
+    std::vector<std::size_t> onHeap(count > few ? count : 0);
+    std::size_t* order = onHeap.empty() ? onStack : onHeap.data();
     for (std::size_t i = 0; i < count; ++i) {
         std::size_t j = i;
         while (j > 0 && nameAt(i) < nameAt(order[j - 1])) {
@@ -150,48 +158,36 @@ template <typename NameAt> void sortByName(std::size_t* order, std::size_t count
         }
         order[j] = i;
     }
+    appendFolded(out, className.str());
+    char sep = '.';
+    for (std::size_t k = 0; k < count; ++k) {
+        out += sep;
+        sep = ',';
+        appendFolded(out, nameAt(order[k]).str());
+        out += '=';
+        appendValue(order[k]);
+    }
 }
-
-constexpr std::size_t fewKeys = 16;
 } // namespace
 
 void CmpiObjectPath::appendCanonicalKey(std::string& out) const {
-    // Keys in folded-name order; a path never holds one name twice.
-    std::size_t onStack[fewKeys];
-    std::vector<std::size_t> onHeap(_keys.size() > fewKeys ? _keys.size() : 0);
-    std::size_t* order = onHeap.empty() ? onStack : onHeap.data();
-    sortByName(order, _keys.size(),
-               [this](std::size_t i) -> CmpiName const& { return _keys[i].first; });
-    appendFolded(out, _className.str());
-    char sep = '.';
-    for (std::size_t k = 0; k < _keys.size(); ++k) {
-        std::size_t const i = order[k];
-        out += sep;
-        sep = ',';
-        appendFolded(out, _keys[i].first.str());
-        out += '=';
-        _keys[i].second.appendKeyText(out);
-    }
+    // A path never holds one name twice, so the order is total.
+    appendKeyText(
+        out, _className, _keys.size(),
+        [this](std::size_t i) -> CmpiName const& { return _keys[i].first; },
+        [&](std::size_t i) { _keys[i].second.appendKeyText(out); });
 }
 
 void CmpiObjectPath::appendCanonicalKey(std::string& out, CmpiName const& className,
                                         ReferenceKey const* keys, std::size_t count) {
-    std::size_t onStack[fewKeys];
-    std::vector<std::size_t> onHeap(count > fewKeys ? count : 0);
-    std::size_t* order = onHeap.empty() ? onStack : onHeap.data();
-    sortByName(order, count, [keys](std::size_t i) -> CmpiName const& { return *keys[i].name; });
-    appendFolded(out, className.str());
-    char sep = '.';
-    for (std::size_t k = 0; k < count; ++k) {
-        ReferenceKey const& key = keys[order[k]];
-        out += sep;
-        sep = ',';
-        appendFolded(out, key.name->str());
-        // As CmpiData::appendKeyText writes a reference.
-        out += "={";
-        out += *key.target;
-        out += '}';
-    }
+    appendKeyText(
+        out, className, count, [keys](std::size_t i) -> CmpiName const& { return *keys[i].name; },
+        [&](std::size_t i) {
+            // As CmpiData::appendKeyText writes a reference.
+            out += '{';
+            out += *keys[i].target;
+            out += '}';
+        });
 }
 
 std::size_t CmpiObjectPath::hash() const {

@@ -162,7 +162,7 @@ CmpiManagedInstanceCollection::_find(std::string_view key) const {
 
 std::string_view CmpiManagedInstanceCollection::_keyText(Entry const* entry,
                                                          std::string& scratch) const {
-    if (!entry->keyFromReferences) {
+    if (!entry->key.empty() || !entry->reachable) {
         return entry->key;
     }
     CmpiObjectPath::ReferenceKey keys[maxReferenceKeys];
@@ -245,17 +245,16 @@ bool CmpiManagedInstanceCollection::createInstance(CmpiManagedInstance* instance
         entry->reachable = true;
         // The text is made again from the class the instance names, so that
         // must be its path's class.
-        entry->keyFromReferences = !ends.empty() && ends.size() == path.getKeyCount() &&
-                                   ends.size() <= maxReferenceKeys &&
-                                   path.getClassName() == className;
-        if (!entry->keyFromReferences) {
+        bool const fromReferences = !ends.empty() && ends.size() == path.getKeyCount() &&
+                                    ends.size() <= maxReferenceKeys &&
+                                    path.getClassName() == className;
+        if (!fromReferences) {
             entry->key = key;
         }
     } catch (std::exception const& e) {
         // Ownership was handed over, so the instance stays (and is freed with
         // the collection), but without a path nobody can find it.
         entry->reachable = false;
-        entry->keyFromReferences = false;
         entry->key.clear();
         ends.clear();
         _logger.error("createInstance: getPath failed, instance kept but not reachable by path: %s",

@@ -136,13 +136,12 @@ private:
     struct Entry {
         std::shared_ptr<CmpiManagedInstance> instance;
         CmpiCpp::CmpiName const* className = &noName; // one of _names
-        // The path's canonical key text, kept unless the references make it
-        // again: most of the graph is associations whose keys are all
-        // references, and their text would be a fifth of its memory.
+        // The path's canonical key text, left empty where the references
+        // make it again: most of the graph is associations whose keys are
+        // all references, and their text would be a fifth of its memory.
         std::string key;
         std::size_t keyHash = 0;
         bool reachable = false;            // getPath() worked at insertion
-        bool keyFromReferences = false;    // `key` is left empty
         std::vector<Reference> references; // reference keys, for associations only
     };
     // A far end that fits the filters: its path, and the entry serving it
